@@ -1,0 +1,19 @@
+# What every target of the project shares.
+
+add_library(tavrelo_options INTERFACE)
+target_compile_options(tavrelo_options INTERFACE -Wall -Wextra -Wconversion -Werror)
+target_include_directories(tavrelo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(TAVRELO_SANITIZE)
+    target_compile_options(tavrelo_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                     -fno-omit-frame-pointer)
+    target_link_options(tavrelo_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# tavrelo_library(numeric SOURCES a.cpp b.cpp LINKS shell): the static library of one folder of src/.
+# It links only the folders named, so an include that points up does not link.
+function(tavrelo_library folder)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    list(TRANSFORM ARG_LINKS PREPEND tavrelo_)
+    add_library(tavrelo_${folder} STATIC ${ARG_SOURCES})
+    target_link_libraries(tavrelo_${folder} PUBLIC tavrelo_options ${ARG_LINKS})
+endfunction()
