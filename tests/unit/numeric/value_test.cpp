@@ -1,0 +1,54 @@
+#include "numeric/value.h"
+
+#include <gtest/gtest.h>
+
+#include "../failure_code.h"
+
+namespace tavrelo::numeric {
+namespace {
+
+using testing::FailureOf;
+
+TEST(Value, HoldsNothingANumberOrAText) {
+    EXPECT_TRUE(Value().IsEmpty());
+    EXPECT_TRUE(Value(2.5).HoldsNumber());
+    EXPECT_TRUE(Value(2).HoldsNumber());
+    EXPECT_TRUE(Value("2").HoldsText());
+    EXPECT_FALSE(Value("").IsEmpty());
+}
+
+TEST(Value, ReachesWhatItHolds) {
+    const Value number(2.5);
+    const Value text("F");
+    EXPECT_EQ(*number.IfNumber(), 2.5);
+    EXPECT_EQ(number.IfText(), nullptr);
+    EXPECT_EQ(*text.IfText(), "F");
+    EXPECT_EQ(text.IfNumber(), nullptr);
+    EXPECT_EQ(Value().IfNumber(), nullptr);
+}
+
+TEST(Value, TextOfEachKind) {
+    EXPECT_EQ(Value().Text(), "");
+    EXPECT_EQ(Value(0.1 + 0.2).Text(), "0.3");
+    EXPECT_EQ(Value("007").Text(), "007");
+}
+
+TEST(Value, NumberOfEachKind) {
+    EXPECT_EQ(Value().Number(), 0);
+    EXPECT_EQ(Value(-1.5).Number(), -1.5);
+    EXPECT_EQ(Value("-1.5").Number(), -1.5);
+    EXPECT_EQ(FailureOf([] { Value("F").Number(); }), FailureCode::TypeMismatch);
+    EXPECT_EQ(FailureOf([] { Value("").Number(); }), FailureCode::TypeMismatch);
+}
+
+TEST(Value, EqualOnlyWithinItsKind) {
+    EXPECT_EQ(Value(5), Value(5.0));
+    EXPECT_NE(Value(5), Value("5"));
+    EXPECT_NE(Value("F"), Value("f"));
+    EXPECT_NE(Value(), Value(""));
+    EXPECT_NE(Value(), Value(0));
+    EXPECT_EQ(Value(), Value());
+}
+
+}  // namespace
+}  // namespace tavrelo::numeric
