@@ -1,0 +1,46 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "shell/rich_text.h"
+#include "shell/surface.h"
+
+namespace tavrelo::shell {
+
+/// Marks that one rendering interprets at the most, the end mark included; what stands behind stays raw.
+inline constexpr int kMarkLimit = 200;
+
+/// The sign of a symbol name of four letters ("cruz") or of four digits that are a code of the symbol font;
+/// U+0000 when unknown.
+char32_t SymbolChar(std::u32string_view name);
+
+/// The Unicode character that stands for a character typed in the symbol font (q: theta, D: Delta, -: minus).
+char32_t SymbolFontCharacter(char32_t character);
+
+/// Renders a markup text for a rich box, in one pass over its marks: / style, \ tag, ! subscript, ¡
+/// superscript, ; Greek, $ bold, # symbol; a doubled mark escapes. Never fails: a malformed text ends with
+/// what was rendered so far.
+RichText RenderMarkup(std::string_view font_name, double font_size, std::string_view text);
+
+/// Escapes the marks of a text typed by the user, so that a report shows it as typed. The end mark has no
+/// escape.
+std::string EscapeMarks(std::string_view text);
+/// Doubles "/" alone: an equation line for pictures becomes one for rich boxes.
+std::string EscapeSlashes(std::string_view text);
+
+/// Renders a markup text for pictures into one list of runs, placed relative to the pen; the marks are ; ! ¡
+/// $ _ #, without escapes. `size` is the size in force, `advance` receives the width in pixels.
+std::vector<PlacedRun> LayOutMarkup(std::string_view text, const Font& font, Color color,
+                                    double* advance = nullptr);
+
+/// Prints a markup text on a surface, x from the left and y from the bottom upward: the top of the line of
+/// plain characters, from which subscripts lie lower and superscripts higher. Empty font name and size 0 keep
+/// the surface's font.
+void PrintMarkup(Surface& surface, std::string_view text, double x, double y, std::string_view font_name = {},
+                 double font_size = 0);
+/// The width that PrintMarkup would cover, in pixels.
+double MarkupWidth(std::string_view text, const Font& font);
+
+}  // namespace tavrelo::shell
