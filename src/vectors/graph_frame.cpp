@@ -1,0 +1,82 @@
+#include <algorithm>
+#include <cmath>
+
+#include "numeric/number_text.h"
+#include "vectors/draw_engine.h"
+
+namespace tavrelo::vectors {
+namespace {
+
+using shell::Color;
+using shell::Surface;
+
+constexpr double kInset = 2;       // so that the frame's right and upper sides show
+constexpr double kYLabelGap = 20;  // pixels between the frame and the labels of the y extremes
+constexpr double kXLabelGap = 5;   // pixels between the frame and the labels of the x extremes
+constexpr Color kFrameColor = shell::Rgb(0x80, 0x80, 0x80);
+constexpr Color kAxisColor = shell::Rgb(0xa0, 0xa0, 0xa0);
+
+/// An extent of data laid over an extent of pixels; no extent of data maps to the middle.
+class Scale {
+  public:
+    Scale(std::span<const double> values, double first_pixel, double last_pixel)
+        : m_low(*std::ranges::min_element(values)),
+          m_high(*std::ranges::max_element(values)),
+          m_first(first_pixel),
+          m_last(last_pixel) {}
+
+    double Low() const { return m_low; }
+    double High() const { return m_high; }
+    bool CrossesZero() const { return m_low < 0 && m_high > 0; }
+    double operator()(double value) const {
+        // Halved so that the extent of the largest numbers stays finite.
+        const double extent = m_high / 2 - m_low / 2;
+        const double part = extent == 0 ? 0.5 : (value / 2 - m_low / 2) / extent;
+        return m_first + part * (m_last - m_first);
+    }
+
+  private:
+    double m_low;
+    double m_high;
+    double m_first;
+    double m_last;
+};
+
+void LabelYExtreme(Surface& surface, const std::string& text, double frame_left, double middle) {
+    const shell::Font font = LabelFont();
+    PrintLabel(surface, text, frame_left - kYLabelGap - shell::TextWidth(text, font),
+               middle - shell::TextHeight(font) / 2, font, shell::kBlack);
+}
+
+void LabelXEnd(Surface& surface, const std::string& text, double center, double frame_bottom) {
+    const shell::Font font = LabelFont();
+    PrintLabel(surface, text, center - shell::TextWidth(text, font) / 2, frame_bottom + kXLabelGap, font,
+               shell::kBlack);
+}
+
+}  // namespace
+
+void DrawEng::DrawGraph(Surface& surface, std::span<const double> xs, std::span<const double> ys, Color color,
+                        int decimals) const {
+    const double left = kGraphLeft;
+    const double right = kGraphLeft + kGraphSize - kInset;
+    const double bottom = surface.FromBottom(kGraphBottom);
+    const double top = bottom - kGraphSize + kInset;
+    const Scale x(xs, left, right);
+    const Scale y(ys, bottom, top);
+
+    surface.Box(left, top, right, bottom, kFrameColor, false);
+    if (x.CrossesZero())
+        surface.Line(x(0), top, x(0), bottom, kAxisColor);
+    if (y.CrossesZero())
+        surface.Line(left, y(0), right, y(0), kAxisColor);
+    for (std::size_t k = 1; k < xs.size(); ++k)
+        surface.Line(x(xs[k - 1]), y(ys[k - 1]), x(xs[k]), y(ys[k]), color);
+
+    LabelYExtreme(surface, "Ymax = " + numeric::RoundedText(y.High(), decimals), left, top);
+    LabelYExtreme(surface, "Ymin = " + numeric::RoundedText(y.Low(), decimals), left, bottom);
+    LabelXEnd(surface, numeric::RoundedText(x.Low(), decimals), left, bottom);
+    LabelXEnd(surface, numeric::RoundedText(x.High(), decimals), right, bottom);
+}
+
+}  // namespace tavrelo::vectors
