@@ -232,6 +232,8 @@ class Grid : public Control {
     /// A drag from the first cell of the block to the last one, in any direction; the first cell is the
     /// current one.
     void UserDrag(const CellBlock& block);
+    /// A drag that began with UserPress has come to this cell.
+    void UserDragTo(int row, int col);
     void UserDblClick(int row, int col);
     bool UserKeyDown(const KeyStroke& stroke) { return OnKeyDown && OnKeyDown(stroke); }
     bool UserKeyPress(char32_t character) { return OnKeyPress && OnKeyPress(character); }
@@ -259,6 +261,7 @@ class Grid : public Control {
     const CellData& At(int row, int col) const;
     CellData& At(int row, int col);
     void MoveTo(int row, int col);
+    void DragOver(const CellBlock& block);
 
     std::vector<std::vector<CellData>> m_cells;
     std::vector<Column> m_columns;

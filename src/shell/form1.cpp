@@ -86,21 +86,21 @@ bool Form1::MakeControls() {
         if (OnChange)
             OnChange(control, change);
     };
-    for (const ControlSpec& spec : ControlTable())
-        MakeControl(spec);
+    for (const ControlRow& row : ControlTable())
+        MakeControl(row);
     for (const ControlTooltip& row : TooltipTable())
         MustFind(row.name)->SetTooltip(std::string(row.tooltip));
     return true;
 }
 
-void Form1::MakeControl(const ControlSpec& spec) {
-    Control* parent = spec.parent.empty() ? nullptr : MustFind(spec.parent);
-    auto control = NewControl({std::string(spec.name), spec.kind, parent, spec.page}, m_forward);
-    control->SetBounds(spec.bounds);
-    control->SetCaption(std::string(spec.caption));
-    ApplyFlags(*control, spec.flags);
+void Form1::MakeControl(const ControlRow& row) {
+    Control* parent = row.parent.empty() ? nullptr : MustFind(row.parent);
+    auto control = NewControl({std::string(row.name), row.kind, parent, row.page}, m_forward);
+    control->SetBounds(row.bounds);
+    control->SetCaption(std::string(row.caption));
+    ApplyFlags(*control, row.flags);
     m_order.push_back(control.get());
-    m_controls.emplace(spec.name, std::move(control));
+    m_controls.emplace(row.name, std::move(control));
 }
 
 Control* Form1::Find(std::string_view name) {

@@ -87,7 +87,7 @@ class Form1 {
     Publics publics;
 
   private:
-    void MakeControl(const ControlSpec& spec);
+    void MakeControl(const ControlRow& row);
     Control* MustFind(std::string_view name);
 
     template <class ControlType>

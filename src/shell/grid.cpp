@@ -135,9 +135,18 @@ void Grid::UserDrag(const CellBlock& block) {
     CellBlock dragged = block;
     dragged.last_row = std::max(dragged.last_row, m_fixed_rows);
     dragged.last_col = std::max(dragged.last_col, m_fixed_cols);
-    if (dragged == DraggedBlock())
+    DragOver(dragged);
+}
+
+void Grid::UserDragTo(int row, int col) {
+    if (HasCell(row, col) && m_row >= 0)
+        DragOver({m_row, m_col, std::max(row, m_fixed_rows), std::max(col, m_fixed_cols)});
+}
+
+void Grid::DragOver(const CellBlock& block) {
+    if (block == DraggedBlock())
         return;
-    Select(dragged);
+    Select(block);
     Fire(OnSelChange);
 }
 

@@ -9,7 +9,7 @@ namespace tavrelo::shell {
 
 /// One row of the window's inventory: a control with its panel, place, caption and start state. Arrays of
 /// controls are rows named "cmdParts(0)". The order of the rows is the reading and tab order.
-struct ControlSpec {
+struct ControlRow {
     std::string_view name;
     ControlKind kind;
     std::string_view parent;  // empty for a window
@@ -19,7 +19,7 @@ struct ControlSpec {
     int page = Control::kAllPages;
 };
 
-// Start states, joined in ControlSpec::flags.
+// Start states, joined in ControlRow::flags.
 inline constexpr int kHidden = 1;
 inline constexpr int kDisabled = 2;
 inline constexpr int kLocked = 4;
@@ -27,7 +27,7 @@ inline constexpr int kTwips = 8;      // mouse events in twips
 inline constexpr int kUpward = 16;    // mouse events with y growing upward
 inline constexpr int kMultiple = 32;  // list with several rows chosen
 
-std::span<const ControlSpec> ControlTable();
+std::span<const ControlRow> ControlTable();
 
 /// The arrangements of the panels whose place depends on the tool in use.
 enum class Arrangement {

@@ -7,7 +7,7 @@ using K = ControlKind;
 using A = Arrangement;
 
 // clang-format off
-constexpr ControlSpec kControls[] = {
+constexpr ControlRow kControls[] = {
     {"Form1", K::Window, "", kForm1Bounds, "Tavrelo"},
     {"Form2", K::Window, "", kForm2Bounds, "Preferencias e impresión", kHidden},
 
@@ -336,7 +336,7 @@ constexpr ControlTooltip kTooltips[] = {
 
 }  // namespace
 
-std::span<const ControlSpec> ControlTable() { return kControls; }
+std::span<const ControlRow> ControlTable() { return kControls; }
 
 std::span<const ArrangedBounds> ArrangementTable() { return kArrangements; }
 

@@ -17,10 +17,10 @@ class Form1Test : public testing::Test {
 
 TEST_F(Form1Test, EveryRowOfTheTableIsAControlOfItsOwn) {
     std::set<std::string_view> names;
-    for (const ControlSpec& spec : ControlTable()) {
-        EXPECT_TRUE(names.insert(spec.name).second) << spec.name;
-        ASSERT_NE(form.Find(spec.name), nullptr) << spec.name;
-        EXPECT_EQ(form.Find(spec.name)->Name(), spec.name);
+    for (const ControlRow& row : ControlTable()) {
+        EXPECT_TRUE(names.insert(row.name).second) << row.name;
+        ASSERT_NE(form.Find(row.name), nullptr) << row.name;
+        EXPECT_EQ(form.Find(row.name)->Name(), row.name);
     }
     EXPECT_EQ(form.Find("txtNada"), nullptr);
     EXPECT_EQ(form.Find("cmdParts(3)"), nullptr);

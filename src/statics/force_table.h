@@ -1,0 +1,79 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "numeric/value.h"
+#include "vectors/force_record.h"
+#include "vectors/refusal.h"
+
+namespace tavrelo::statics {
+
+using vectors::Refusal;
+
+/// Columns of the table of forces. Element k of a force record stands in column k + 1; what they hold is told
+/// there.
+enum ForceCol : std::size_t {
+    Magnitude = 1,
+    Direction,
+    XComponent,
+    YComponent,
+    Hour,
+    ClockAngle,
+    XCoefficient,
+    XUnknown,
+    YCoefficient,
+    YUnknown,
+    XText,
+    YText,
+    DrawDirection,  // degrees, only while the direction is unknown
+    LeavesPoint,    // vectors::kLeaves or vectors::kArrives
+    Colour,
+    GivenText,
+    SymbolPart,
+    SymbolFactor,
+    MagnitudeText,
+    FormatCode,
+    ShownMagnitude,
+    StartX,  // where the arrow starts on the canvas, pixels from its left, single precision
+    StartY,  // pixels from its bottom, growing upward
+    kForceColumnsEnd,
+};
+
+/// Arrow colours: black, red and magenta.
+inline constexpr int kKnown = vectors::kKnownColour;
+inline constexpr int kUnknown = vectors::kUnknownColour;
+inline constexpr int kSolved = 16711935;
+
+/// One force; indexed by ForceCol, so that index 0 is never used.
+using ForceRow = std::array<numeric::Value, kForceColumnsEnd>;
+using ForceTable = std::vector<ForceRow>;
+
+/// The columns that one of the two sums of forces reads.
+struct ComponentColumns {
+    ForceCol component;
+    ForceCol coefficient;
+    ForceCol unknown;
+    ForceCol text;
+};
+inline constexpr ComponentColumns kXColumns = {XComponent, XCoefficient, XUnknown, XText};
+inline constexpr ComponentColumns kYColumns = {YComponent, YCoefficient, YUnknown, YText};
+
+/// The row of a parsed force; its start on the canvas is left empty.
+ForceRow RowOf(const vectors::ForceRecord& record);
+
+/// Whether the user has to be asked in which direction to draw the force.
+bool DirectionIsUnknown(const ForceRow& row);
+
+/// Direction in degrees at which an unknown one is drawn when nobody is asked.
+inline constexpr double kDefaultDrawDirection = 45;
+
+/// The rows of a list of texts, unknown directions drawn at the default one; the refusal of the first text
+/// that is no force.
+std::variant<Refusal, ForceTable> ForcesOf(std::span<const std::string> texts, int decimals);
+
+}  // namespace tavrelo::statics

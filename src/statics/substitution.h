@@ -1,0 +1,42 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "numeric/checked.h"
+#include "numeric/number_text.h"
+#include "statics/force_table.h"
+
+namespace tavrelo::statics {
+
+/// Puts values into the components: where `factor_of(unknown text)` returns a number, the component becomes
+/// its coefficient times it. All other components stay.
+template <typename FactorOf>
+void Substitute(ForceTable& table, const FactorOf& factor_of) {
+    for (ForceRow& force : table)
+        for (const ComponentColumns* columns : {&kXColumns, &kYColumns}) {
+            const std::string unknown = force[columns->unknown].Text();
+            if (unknown.empty())
+                continue;
+            if (const std::optional<double> factor = factor_of(unknown))
+                force[columns->component] =
+                    numeric::CheckedMultiply(force[columns->coefficient].Number(), *factor);
+        }
+}
+
+struct ComponentSums {
+    double x = 0;
+    double y = 0;
+};
+
+/// The sums of the components of all forces, added to `start`; nothing while a component is unknown.
+std::optional<ComponentSums> SumComponents(const ForceTable& table, ComponentSums start = {});
+
+/// Whether both sums are below the 0.001 that counts as equilibrium.
+bool InEquilibrium(const std::optional<ComponentSums>& sums);
+
+/// Rewrites every force whose components are both known as a known force: magnitude, direction, clock reading
+/// and texts from the components, no unknowns, and the colour of a solved one where it was unknown.
+void MarkSolved(ForceTable& table, int decimals);
+
+}  // namespace tavrelo::statics
