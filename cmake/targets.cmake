@@ -2,6 +2,13 @@
 
 add_library(tavrelo_options INTERFACE)
 target_compile_options(tavrelo_options INTERFACE -Wall -Wextra -Wconversion -Werror)
+# GCC 12 warns of overlaps and uninitialised strings that do not exist where literals and temporaries are joined.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(tavrelo_options INTERFACE -Wno-restrict)
+    if(TAVRELO_SANITIZE)
+        target_compile_options(tavrelo_options INTERFACE -Wno-maybe-uninitialized)
+    endif()
+endif()
 target_include_directories(tavrelo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(TAVRELO_SANITIZE)
     target_compile_options(tavrelo_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all

@@ -10,11 +10,17 @@ namespace {
 using testing::FailureOf;
 
 TEST(Value, HoldsNothingANumberOrAText) {
-    EXPECT_TRUE(Value().IsEmpty());
-    EXPECT_TRUE(Value(2.5).HoldsNumber());
-    EXPECT_TRUE(Value(2).HoldsNumber());
-    EXPECT_TRUE(Value("2").HoldsText());
-    EXPECT_FALSE(Value("").IsEmpty());
+    const Value nothing;
+    const Value number(2.5);
+    const Value whole(2);
+    const Value text("2");
+    const Value empty_text("");
+    EXPECT_TRUE(nothing.IsEmpty());
+    EXPECT_TRUE(number.HoldsNumber());
+    EXPECT_TRUE(whole.HoldsNumber());
+    EXPECT_TRUE(text.HoldsText());
+    EXPECT_TRUE(empty_text.HoldsText());
+    EXPECT_FALSE(empty_text.IsEmpty());
 }
 
 TEST(Value, ReachesWhatItHolds) {
