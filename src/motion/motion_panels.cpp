@@ -1,5 +1,6 @@
 #include "motion/motion_panels.h"
 
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
@@ -144,6 +145,20 @@ void DrawProcedureRows(shell::Form1& form, int tool) {
         surface.Print(title);
         top += kProcedureHeight;
     }
+}
+
+int ProcedureRow(const shell::Form1& form) {
+    const int offset = form.shpMrua.Bounds().top - form.imgProcs.Bounds().top;
+    return offset / form.shpMrua.Bounds().height + 1;
+}
+
+void ChooseProcedureRow(shell::Form1& form, double y) {
+    shell::Rect frame = form.shpMrua.Bounds();
+    const int row = y < 0 ? -1 : static_cast<int>(y / (frame.height * shell::kTwipsPerPixel));
+    if (row < 0 || row >= static_cast<int>(std::size(kMotionProcedures)))
+        return;
+    frame.top = form.imgProcs.Bounds().top + row * frame.height;
+    form.shpMrua.SetBounds(frame);
 }
 
 void FillMruaCbo(shell::Form1& form, int tool) {

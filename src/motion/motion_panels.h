@@ -24,6 +24,12 @@ void AdaptCtrls(shell::Form1& form, int tool);
 /// Paints the rows of procedures of a tool on `imgProcs`.
 void DrawProcedureRows(shell::Form1& form, int tool);
 
+/// The row of procedures in use, from 1: the one that the frame `shpMrua` surrounds.
+int ProcedureRow(const shell::Form1& form);
+/// Puts the frame around the row at a height of `imgProcs` (twips from its top); outside the rows nothing
+/// happens.
+void ChooseProcedureRow(shell::Form1& form, double y);
+
 /// Fills `cboProcs` for a tool; no row is chosen.
 void FillMruaCbo(shell::Form1& form, int tool);
 

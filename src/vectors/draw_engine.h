@@ -27,6 +27,12 @@ struct ShapeRecord {
     int hour;
 };
 
+/// Points as two lists of equal length.
+struct PointLists {
+    std::span<const double> xs;
+    std::span<const double> ys;
+};
+
 /// The one place that knows world units and pixels: labelled arrows, axes, lines and the frame of a graph.
 /// Positions on the surface are pixels from the top left, downward.
 class DrawEng {
@@ -59,6 +65,11 @@ class DrawEng {
     /// are of equal length and not empty. A range of zero maps to the middle of the frame.
     void DrawGraph(shell::Surface& surface, std::span<const double> xs, std::span<const double> ys,
                    shell::Color color, int decimals) const;
+
+    /// Points as small circles in the scale of a graph that DrawGraph has drawn of `curve`. Those outside its
+    /// extremes lie outside the frame; those outside the picture are left out.
+    void DrawGraphPoints(shell::Surface& surface, const PointLists& curve, const PointLists& points,
+                         shell::Color color) const;
 
     void RegisterShape(const std::string& name, double x1, double y1, double x2, double y2);
     const std::vector<ShapeRecord>& Shapes() const { return m_shapes; }

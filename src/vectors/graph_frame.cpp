@@ -42,6 +42,21 @@ class Scale {
     double m_last;
 };
 
+/// Both scales of a graph in its frame on a picture.
+struct Frame {
+    Frame(const Surface& surface, std::span<const double> xs, std::span<const double> ys)
+        : left(DrawEng::kGraphLeft),
+          right(DrawEng::kGraphLeft + DrawEng::kGraphSize - kInset),
+          bottom(surface.FromBottom(DrawEng::kGraphBottom)),
+          top(bottom - DrawEng::kGraphSize + kInset),
+          x(xs, left, right),
+          y(ys, bottom, top) {}
+
+    double left, right, bottom, top;  // pixels
+    Scale x;
+    Scale y;
+};
+
 void LabelYExtreme(Surface& surface, const std::string& text, double frame_left, double middle) {
     const shell::Font font = LabelFont();
     PrintLabel(surface, text, frame_left - kYLabelGap - shell::TextWidth(text, font),
@@ -58,12 +73,7 @@ void LabelXEnd(Surface& surface, const std::string& text, double center, double 
 
 void DrawEng::DrawGraph(Surface& surface, std::span<const double> xs, std::span<const double> ys, Color color,
                         int decimals) const {
-    const double left = kGraphLeft;
-    const double right = kGraphLeft + kGraphSize - kInset;
-    const double bottom = surface.FromBottom(kGraphBottom);
-    const double top = bottom - kGraphSize + kInset;
-    const Scale x(xs, left, right);
-    const Scale y(ys, bottom, top);
+    const auto [left, right, bottom, top, x, y] = Frame(surface, xs, ys);
 
     surface.Box(left, top, right, bottom, kFrameColor, false);
     if (x.CrossesZero())
@@ -77,6 +87,18 @@ void DrawEng::DrawGraph(Surface& surface, std::span<const double> xs, std::span<
     LabelYExtreme(surface, "Ymin = " + numeric::RoundedText(y.Low(), decimals), left, bottom);
     LabelXEnd(surface, numeric::RoundedText(x.Low(), decimals), left, bottom);
     LabelXEnd(surface, numeric::RoundedText(x.High(), decimals), right, bottom);
+}
+
+void DrawEng::DrawGraphPoints(Surface& surface, const PointLists& curve, const PointLists& points,
+                              Color color) const {
+    constexpr double kRadius = 3;
+    const Frame frame(surface, curve.xs, curve.ys);
+    for (std::size_t k = 0; k < points.xs.size(); ++k) {
+        const double x = frame.x(points.xs[k]);
+        const double y = frame.y(points.ys[k]);
+        if (x >= 0 && x <= surface.Width() && y >= 0 && y <= surface.Height())
+            surface.Circle(x, y, kRadius, color);
+    }
 }
 
 }  // namespace tavrelo::vectors

@@ -1,0 +1,49 @@
+#include "app/program.h"
+
+#include "app/tools.h"
+#include "numeric/number_text.h"
+
+namespace tavrelo::app {
+namespace {
+
+std::string Truth(bool value) { return value ? "yes" : "no"; }
+
+}  // namespace
+
+Program::Program(const shell::Host& host) : m_form(host), m_tools(std::make_unique<Tools>(m_form)) {
+    NameGlobals();
+}
+
+Program::~Program() = default;
+
+shell::Form1& Program::Window() { return m_form; }
+
+std::optional<std::string> Program::GlobalValue(std::string_view name) const {
+    const auto found = m_globals.find(name);
+    if (found == m_globals.end())
+        return std::nullopt;
+    return found->second();
+}
+
+void Program::NameGlobals() {
+    const shell::Publics& publics = m_form.publics;
+    m_globals = {
+        {"CurrentTool", [&publics] { return std::to_string(static_cast<int>(publics.CurrentTool)); }},
+        {"HelpTool", [&publics] { return std::to_string(publics.HelpTool); }},
+        {"ProcCategory", [&publics] { return std::to_string(publics.ProcCategory); }},
+        {"KinemMode", [&publics] { return std::to_string(publics.ProcCategory); }},
+        {"ProcNumber", [&publics] { return std::to_string(publics.ProcNumber); }},
+        {"Decimals", [&publics] { return std::to_string(publics.Decimals); }},
+        {"AngleFactor", [&publics] { return numeric::NumberToText(publics.AngleFactor); }},
+        {"ShowingWelcome", [&publics] { return Truth(publics.ShowingWelcome); }},
+        {"QuickKeys", [&publics] { return Truth(publics.QuickKeys); }},
+        {"InfixNotation", [&publics] { return Truth(publics.InfixNotation); }},
+        {"DegreesMode", [&publics] { return Truth(publics.DegreesMode); }},
+        {"GridCopyMode", [&publics] { return Truth(publics.GridCopyMode); }},
+        {"ForceCount", [this] { return std::to_string(m_tools->particle.ForceCount()); }},
+        {"BackupCount", [this] { return std::to_string(m_tools->particle.BackupCount()); }},
+        {"ClockSel", [this] { return std::to_string(m_tools->clock.ClockSel()); }},
+    };
+}
+
+}  // namespace tavrelo::app

@@ -1,0 +1,93 @@
+#include "qt/binding.h"
+
+#include <QEvent>
+#include <QPalette>
+#include <QScopedValueRollback>
+
+#include "qt/accessible_names.h"
+#include "qt/fonts.h"
+#include "qt/text.h"
+
+namespace tavrelo::qt {
+
+QRect ViewContext::Scaled(const shell::Rect& rect) const {
+    const int left = Scaled(rect.left);
+    const int top = Scaled(rect.top);
+    return {left, top, Scaled(rect.left + rect.width) - left, Scaled(rect.top + rect.height) - top};
+}
+
+Binding::Binding(shell::Control& control, QWidget& widget, ViewContext& context)
+    : m_control(control), m_widget(widget), m_context(context) {
+    widget.setObjectName(ToQString(control.Name()));
+    if (widget.focusPolicy() != Qt::NoFocus)
+        widget.installEventFilter(this);
+}
+
+void Binding::Refresh(shell::Change change) {
+    const QScopedValueRollback refreshing(m_refreshing, m_refreshing + 1);
+    switch (change) {
+        case shell::Change::State:
+            ShowState();
+            break;
+        case shell::Change::Content:
+            ShowContent();
+            break;
+        case shell::Change::Selection:
+            ShowSelection();
+            break;
+        case shell::Change::Focus:
+            m_widget.setFocus(Qt::OtherFocusReason);
+            break;
+    }
+}
+
+void Binding::RefreshAll() {
+    const QScopedValueRollback refreshing(m_refreshing, m_refreshing + 1);
+    ShowState();
+    ShowContent();
+    ShowSelection();
+}
+
+bool Binding::IsPageInFront() const {
+    const auto* strip = dynamic_cast<const shell::TabStrip*>(m_control.Parent());
+    return !strip || m_control.Page() == shell::Control::kAllPages || m_control.Page() == strip->Current();
+}
+
+void Binding::ShowState() {
+    m_widget.setGeometry(m_context.Scaled(m_control.Bounds()));
+    const QString tooltip = ToQString(m_control.Tooltip());
+    if (m_widget.toolTip() != tooltip)
+        m_widget.setToolTip(tooltip);
+    const QString name = AccessibleName(m_control);
+    if (m_widget.accessibleName() != name)
+        m_widget.setAccessibleName(name);
+    ShowColors();
+    m_widget.setEnabled(m_control.Enabled());
+    const bool visible = m_control.Visible() && IsPageInFront();
+    if (m_widget.isHidden() == visible)
+        m_widget.setVisible(visible);
+}
+
+void Binding::ShowColors() {
+    const std::pair colors(m_control.ForeColor(), m_control.BackColor());
+    if (colors == m_colors)
+        return;
+    m_colors = colors;
+    QPalette palette;
+    if (m_control.ForeColor() != shell::kBlack)
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+                palette.setColor(group, role, ToQColor(m_control.ForeColor()));
+    if (m_control.HasBackColor())
+        palette.setColor(BackRole(), ToQColor(m_control.BackColor()));
+    m_widget.setPalette(palette);
+    m_widget.setAutoFillBackground(m_control.HasBackColor() && BackRole() == QPalette::Window);
+}
+
+bool Binding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn && m_control.IsUsable())
+        Form().UserFocused(m_control);
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace tavrelo::qt

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+#include <memory>
+#include <utility>
+
+#include "qt/artwork.h"
+#include "shell/form1.h"
+
+namespace tavrelo::qt {
+
+/// What all bindings of a window share.
+struct ViewContext {
+    shell::Form1& form;
+    Artwork& artwork;
+    double zoom = 1;
+
+    int Scaled(double pixels) const { return qRound(pixels * zoom); }
+    /// Edges are scaled, not sizes, so that neighbours still meet.
+    QRect Scaled(const shell::Rect& rect) const;
+};
+
+/// Joins one control of the model with the widget that shows it. Refresh carries a change of the model to the
+/// widget, Report what the user did to the model; here, and nowhere else, the echo of one in the other ends.
+class Binding : public QObject {
+  public:
+    /// The widget belongs to its parent widget.
+    Binding(shell::Control& control, QWidget& widget, ViewContext& context);
+
+    QWidget& Widget() const { return m_widget; }
+    shell::Control& Model() const { return m_control; }
+
+    /// Shows that aspect of the model.
+    void Refresh(shell::Change change);
+    /// Shows everything, also after a change of the zoom.
+    void RefreshAll();
+
+  protected:
+    /// Place, visibility, enabling, tooltip, colours.
+    virtual void ShowState();
+    virtual void ShowContent() {}
+    virtual void ShowSelection() {}
+
+    /// The palette role that the control's back colour fills.
+    virtual QPalette::ColorRole BackRole() const { return QPalette::Window; }
+
+    /// Runs an action of the user's on the model, unless it is only the widget's answer to a refresh.
+    template <class Action>
+    void Report(Action&& action) {
+        if (m_refreshing == 0)
+            std::forward<Action>(action)();
+    }
+
+    const ViewContext& Context() const { return m_context; }
+    shell::Form1& Form() const { return m_context.form; }
+    double Zoom() const { return m_context.zoom; }
+
+    /// Reports the focus; every widget that can take it has this filter.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void ShowColors();
+    bool IsPageInFront() const;
+
+    shell::Control& m_control;
+    QWidget& m_widget;
+    ViewContext& m_context;
+    int m_refreshing = 0;
+    std::pair<shell::Color, shell::Color> m_colors{shell::kBlack, shell::Control::kNoColor};
+};
+
+/// Makes the widget of a control, with its binding.
+std::unique_ptr<Binding> NewBinding(shell::Control& control, QWidget& parent, ViewContext& context);
+
+}  // namespace tavrelo::qt

@@ -1,0 +1,84 @@
+#include "qt/boxes.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <algorithm>
+
+#include "qt/text.h"
+
+namespace tavrelo::qt {
+namespace {
+
+struct BoxButton {
+    shell::Buttons box;
+    shell::Answer answer;
+    QMessageBox::StandardButton button;
+    const char* caption;
+};
+
+// The first one of a box is its default, the last one answers Escape.
+constexpr BoxButton kBoxButtons[] = {
+    {shell::Buttons::Ok, shell::Answer::Ok, QMessageBox::Ok, "Aceptar"},
+    {shell::Buttons::OkCancel, shell::Answer::Ok, QMessageBox::Ok, "Aceptar"},
+    {shell::Buttons::OkCancel, shell::Answer::Cancel, QMessageBox::Cancel, "Cancelar"},
+    {shell::Buttons::YesNo, shell::Answer::Yes, QMessageBox::Yes, "Sí"},
+    {shell::Buttons::YesNo, shell::Answer::No, QMessageBox::No, "No"},
+};
+
+void AddButtons(QMessageBox& box, shell::Buttons buttons) {
+    for (const BoxButton& row : kBoxButtons) {
+        if (row.box != buttons)
+            continue;
+        QPushButton* button = box.addButton(row.button);
+        button->setText(ToQString(row.caption));
+        if (box.buttons().size() == 1)
+            box.setDefaultButton(row.button);
+        box.setEscapeButton(row.button);
+    }
+}
+
+shell::Answer AnswerOf(shell::Buttons buttons, int button) {
+    const auto* row = std::ranges::find_if(
+        kBoxButtons, [&](const BoxButton& other) { return other.box == buttons && other.button == button; });
+    return row->answer;
+}
+
+constexpr int kInputCharacters = 60;  // an input box is at least as wide
+
+/// Boxes stand over the window in use and are as large as its zoom.
+void FitToWindow(QWidget& box) {
+    if (const QWidget* parent = box.parentWidget())
+        box.setFont(parent->font());
+}
+
+}  // namespace
+
+shell::Answer WindowBoxes::ShowMessage(std::string_view text, std::string_view title,
+                                       shell::Buttons buttons) {
+    const auto icon = buttons == shell::Buttons::Ok ? QMessageBox::Information : QMessageBox::Question;
+    QMessageBox box(icon, ToQString(title), ToQString(text), QMessageBox::NoButton,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    FitToWindow(box);
+    AddButtons(box, buttons);
+    return AnswerOf(buttons, box.exec());
+}
+
+std::optional<std::string> WindowBoxes::AskText(std::string_view prompt, std::string_view title) {
+    QInputDialog box(QApplication::activeWindow());
+    FitToWindow(box);
+    box.setWindowTitle(ToQString(title));
+    box.setLabelText(ToQString(prompt));
+    box.findChild<QLabel*>()->setTextFormat(Qt::PlainText);
+    box.setOkButtonText(QStringLiteral("Aceptar"));
+    box.setCancelButtonText(QStringLiteral("Cancelar"));
+    box.resize(box.sizeHint().expandedTo({kInputCharacters * box.fontMetrics().averageCharWidth(), 0}));
+    if (box.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return ToUtf8(box.textValue());
+}
+
+}  // namespace tavrelo::qt

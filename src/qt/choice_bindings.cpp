@@ -1,0 +1,49 @@
+#include <QCheckBox>
+#include <QRadioButton>
+
+#include "qt/bindings.h"
+#include "qt/text.h"
+
+namespace tavrelo::qt {
+namespace {
+
+/// Option buttons and check boxes. A click flips the widget at once; the model then says what is really
+/// checked.
+template <class ControlType>
+class ChoiceBinding : public Binding {
+  public:
+    ChoiceBinding(ControlType& choice, QAbstractButton& widget, ViewContext& context)
+        : Binding(choice, widget, context), m_choice(choice), m_widget(widget) {
+        // The model keeps the groups.
+        widget.setAutoExclusive(false);
+        connect(&widget, &QAbstractButton::clicked, this, [this] {
+            Report([this] { m_choice.UserClick(); });
+            Refresh(shell::Change::State);
+        });
+    }
+
+  protected:
+    void ShowState() override {
+        Binding::ShowState();
+        m_widget.setText(ToCaption(m_choice.Caption()));
+        m_widget.setChecked(m_choice.Checked());
+    }
+
+  private:
+    ControlType& m_choice;
+    QAbstractButton& m_widget;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> NewOptionBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+    auto& option = dynamic_cast<shell::OptionButton&>(control);
+    return std::make_unique<ChoiceBinding<shell::OptionButton>>(option, *new QRadioButton(&parent), context);
+}
+
+std::unique_ptr<Binding> NewCheckBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+    auto& check = dynamic_cast<shell::CheckBox&>(control);
+    return std::make_unique<ChoiceBinding<shell::CheckBox>>(check, *new QCheckBox(&parent), context);
+}
+
+}  // namespace tavrelo::qt

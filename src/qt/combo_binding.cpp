@@ -1,0 +1,67 @@
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QWheelEvent>
+
+#include "qt/bindings.h"
+#include "qt/text.h"
+
+namespace tavrelo::qt {
+namespace {
+
+/// A combo whose list opens as wide as its longest row and which the wheel moves only while it has the focus.
+class WideCombo : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+
+    void showPopup() override {
+        const int margins = view()->contentsMargins().left() + view()->contentsMargins().right();
+        const int scroll_bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+        view()->setMinimumWidth(std::max(width(), view()->sizeHintForColumn(0) + margins + scroll_bar));
+        QComboBox::showPopup();
+    }
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus())
+            QComboBox::wheelEvent(event);
+        else
+            event->ignore();
+    }
+};
+
+class ComboBinding : public Binding {
+  public:
+    ComboBinding(shell::ComboBox& combo, QComboBox& widget, ViewContext& context)
+        : Binding(combo, widget, context), m_combo(combo), m_widget(widget) {
+        connect(&widget, &QComboBox::activated, this,
+                [this](int row) { Report([this, row] { m_combo.UserPick(row); }); });
+    }
+
+  protected:
+    void ShowContent() override {
+        QStringList rows;
+        for (const std::string& item : m_combo.Items())
+            rows << ToQString(item);
+        m_widget.clear();
+        m_widget.addItems(rows);
+        ShowSelection();
+    }
+    void ShowSelection() override { m_widget.setCurrentIndex(m_combo.Index()); }
+    QPalette::ColorRole BackRole() const override { return QPalette::Base; }
+
+  private:
+    shell::ComboBox& m_combo;
+    QComboBox& m_widget;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> NewComboBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+    auto* widget = new WideCombo(&parent);
+    widget->setMaxVisibleItems(20);
+    // The list is measured when it opens, not when it is filled.
+    widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    return std::make_unique<ComboBinding>(dynamic_cast<shell::ComboBox&>(control), *widget, context);
+}
+
+}  // namespace tavrelo::qt

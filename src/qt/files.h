@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+
+#include "shell/host.h"
+
+namespace tavrelo::qt {
+
+/// The files of one folder.
+class FolderFiles : public shell::Files {
+  public:
+    explicit FolderFiles(std::filesystem::path folder) : m_folder(std::move(folder)) {}
+    std::string Read(std::string_view name) const override;
+
+  private:
+    std::filesystem::path m_folder;
+};
+
+}  // namespace tavrelo::qt

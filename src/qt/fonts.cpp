@@ -1,0 +1,50 @@
+#include "qt/fonts.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+
+#include "qt/text.h"
+
+namespace tavrelo::qt {
+namespace {
+
+constexpr double kPointsPerInch = 72;
+constexpr double kUsualDotsPerInch = 96;
+
+/// Sizes are given in points because only these may be broken numbers.
+void SetPixels(QFont& font, double pixels) {
+    font.setPointSizeF(pixels * kPointsPerInch / ScreenDotsPerInch());
+    font.setHintingPreference(QFont::PreferNoHinting);
+}
+
+}  // namespace
+
+double ScreenDotsPerInch() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->logicalDotsPerInchY() : kUsualDotsPerInch;
+}
+
+QFont ToQFont(const shell::Font& font, double scale) {
+    QFont result(QStringList{ToQString(shell::FontFamily(font.name)), QStringLiteral("FreeSerif")});
+    SetPixels(result, shell::PixelsOf(font.size) * scale);
+    result.setBold(font.bold);
+    result.setItalic(font.italic);
+    result.setUnderline(font.underline);
+    return result;
+}
+
+double FontStretch(const shell::Font& font, double scale) {
+    const double pixels = shell::PixelsOf(font.size) * scale;
+    return pixels / std::max(1.0, std::round(pixels));
+}
+
+QFont InterfaceFont(double scale) {
+    QFont result(
+        QStringList{ToQString(shell::FontFamily(shell::kInterfaceFont)), QStringLiteral("FreeSans")});
+    SetPixels(result, kInterfacePixels * scale);
+    return result;
+}
+
+}  // namespace tavrelo::qt

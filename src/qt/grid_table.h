@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QAbstractTableModel>
+
+#include "shell/controls.h"
+
+namespace tavrelo::qt {
+
+/// The cells of a grid for a table view: the fixed rows and columns are the headings, all others the body.
+class GridTable : public QAbstractTableModel {
+  public:
+    explicit GridTable(const shell::Grid& grid) : m_grid(grid) {}
+
+    /// Cells have changed, or their number.
+    void Renew();
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  private:
+    const shell::Grid& m_grid;
+    int m_rows = 0;
+    int m_cols = 0;
+};
+
+}  // namespace tavrelo::qt

@@ -1,0 +1,205 @@
+#include "qt/grid_view.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <cmath>
+
+#include "qt/keys.h"
+#include "qt/text.h"
+
+namespace tavrelo::qt {
+namespace {
+
+bool IsArrow(shell::Key key) {
+    return key == shell::Key::Left || key == shell::Key::Right || key == shell::Key::Up ||
+           key == shell::Key::Down;
+}
+
+void SetUpHeading(QHeaderView& heading) {
+    heading.setSectionsClickable(false);
+    heading.setHighlightSections(false);
+    heading.setSectionResizeMode(QHeaderView::Fixed);
+    heading.setMinimumSectionSize(1);
+}
+
+}  // namespace
+
+GridView::GridView(shell::Grid& model, QWidget& parent)
+    : QTableView(&parent), m_grid(model), m_table(model), m_corner(this) {
+    setModel(&m_table);
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideNone);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    // The lines of the cells are frame enough, and the cells need all the room.
+    setFrameShape(QFrame::NoFrame);
+    SetUpHeading(*horizontalHeader());
+    SetUpHeading(*verticalHeader());
+    m_corner.setAlignment(Qt::AlignCenter);
+}
+
+QModelIndex GridView::IndexOf(int row, int col) const {
+    return m_table.index(row - m_grid.FixedRows(), col - m_grid.FixedCols());
+}
+
+void GridView::ShowCells(double zoom) {
+    m_table.Renew();
+    ShowSizes(zoom);
+    ShowChoice();
+}
+
+void GridView::ShowSizes(double zoom) {
+    const double pixels_per_twip = zoom / shell::kTwipsPerPixel;
+    const int row_height = qRound(m_grid.RowHeight() * pixels_per_twip);
+    verticalHeader()->setDefaultSectionSize(row_height);
+    horizontalHeader()->setVisible(m_grid.FixedRows() > 0);
+    horizontalHeader()->setFixedHeight(row_height);
+    verticalHeader()->setVisible(m_grid.FixedCols() > 0);
+    if (m_grid.FixedCols() > 0)
+        verticalHeader()->setFixedWidth(qRound(m_grid.ColWidth(0) * pixels_per_twip));
+    ShowColumns(pixels_per_twip);
+    ShowCorner(pixels_per_twip);
+}
+
+void GridView::ShowColumns(double pixels_per_twip) {
+    int twips = 0;
+    for (int col = m_grid.FixedCols(); col < m_grid.Cols(); ++col) {
+        const int left = qRound(twips * pixels_per_twip);
+        twips += m_grid.ColWidth(col);
+        horizontalHeader()->resizeSection(col - m_grid.FixedCols(), qRound(twips * pixels_per_twip) - left);
+    }
+}
+
+void GridView::ShowCorner(double pixels_per_twip) {
+    const bool has_corner = m_grid.FixedRows() > 0 && m_grid.FixedCols() > 0 && m_grid.HasCell(0, 0);
+    m_corner.setVisible(has_corner);
+    if (!has_corner)
+        return;
+    m_corner.setText(ToQString(m_grid.Cell(0, 0)));
+    m_corner.setGeometry(frameWidth(), frameWidth(), qRound(m_grid.ColWidth(0) * pixels_per_twip),
+                         qRound(m_grid.RowHeight() * pixels_per_twip));
+}
+
+void GridView::ShowChoice() {
+    const shell::CellBlock& block = m_grid.Selection();
+    const QItemSelection chosen(IndexOf(block.first_row, block.first_col),
+                                IndexOf(block.last_row, block.last_col));
+    selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
+    const QModelIndex current = IndexOf(m_grid.Row(), m_grid.Col());
+    selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    if (m_is_dragging)
+        scrollTo(IndexOf(m_grid.DraggedBlock().last_row, m_grid.DraggedBlock().last_col));
+    else if (current.isValid())
+        scrollTo(current);
+}
+
+QPoint GridView::BringIntoView(int row, int col) {
+    const QModelIndex index = IndexOf(row, col);
+    scrollTo(index);
+    return visualRect(index).center();
+}
+
+GridView::Cell GridView::CellAt(const QPoint& place) const {
+    const int x = std::clamp(place.x(), 0, horizontalHeader()->length() - horizontalHeader()->offset() - 1);
+    const int y = std::clamp(place.y(), 0, verticalHeader()->length() - verticalHeader()->offset() - 1);
+    const QModelIndex index = indexAt({x, y});
+    return {index.row() + m_grid.FixedRows(), index.column() + m_grid.FixedCols()};
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    if (event->button() != Qt::LeftButton || !indexAt(place).isValid())
+        return;
+    const Cell cell = CellAt(place);
+    m_is_dragging = true;
+    m_grid.UserPress(cell.row, cell.col);
+}
+
+void GridView::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_is_dragging || !(event->buttons() & Qt::LeftButton) || m_table.rowCount() == 0)
+        return;
+    const Cell cell = CellAt(event->position().toPoint());
+    m_grid.UserDragTo(cell.row, cell.col);
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent*) { m_is_dragging = false; }
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    if (event->button() != Qt::LeftButton || !indexAt(place).isValid())
+        return;
+    const Cell cell = CellAt(place);
+    m_grid.UserDblClick(cell.row, cell.col);
+}
+
+bool GridView::TakeKey(const QKeyEvent& event) {
+    const auto stroke = ToKeyStroke(event);
+    if (stroke && m_grid.UserKeyDown(*stroke))
+        return true;
+    const auto typed = ToTypedCharacter(event);
+    if (typed && m_grid.UserKeyPress(*typed))
+        return true;
+    if (!stroke || !IsArrow(stroke->key) || stroke->ctrl || stroke->alt)
+        return false;
+    m_grid.UserNavigate(stroke->key, stroke->shift);
+    return true;
+}
+
+void GridView::CopyBlock() const {
+    bool has_text = false;
+    QStringList lines;
+    const shell::CellBlock& block = m_grid.Selection();
+    for (int row = std::max(block.first_row, 0); row <= block.last_row; ++row) {
+        QStringList cells;
+        for (int col = std::max(block.first_col, 0); col <= block.last_col; ++col) {
+            cells << ToQString(m_grid.Cell(row, col));
+            has_text = has_text || !cells.back().isEmpty();
+        }
+        lines << cells.join(QLatin1Char('\t'));
+    }
+    if (has_text)
+        QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    if (TakeKey(*event))
+        event->accept();
+    else if (event->matches(QKeySequence::Copy))
+        CopyBlock();
+    else
+        event->ignore();
+}
+
+void GridView::keyReleaseEvent(QKeyEvent* event) {
+    const auto stroke = ToKeyStroke(*event);
+    if (!stroke || event->isAutoRepeat() || !m_grid.UserKeyUp(*stroke))
+        event->ignore();
+}
+
+void GridView::inputMethodEvent(QInputMethodEvent* event) {
+    for (const char32_t character : CommittedCharacters(*event))
+        m_grid.UserKeyPress(character);
+    event->accept();
+}
+
+QVariant GridView::inputMethodQuery(Qt::InputMethodQuery query) const {
+    if (query == Qt::ImEnabled)
+        return true;
+    if (query == Qt::ImCursorRectangle)
+        return visualRect(currentIndex());
+    return QTableView::inputMethodQuery(query);
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+    // The table's own handler would choose a cell that the model does not know of.
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+}  // namespace tavrelo::qt

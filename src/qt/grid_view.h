@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QLabel>
+#include <QTableView>
+
+#include "qt/grid_table.h"
+
+namespace tavrelo::qt {
+
+/// Shows a grid of the model. Mouse and keys go to the model, which alone knows the current cell and the
+/// chosen block.
+class GridView : public QTableView {
+  public:
+    GridView(shell::Grid& model, QWidget& parent);
+
+    void ShowCells(double zoom);
+    void ShowSizes(double zoom);
+    void ShowChoice();
+
+    /// The middle of a cell of the model that is no heading, scrolled into view; in the viewport.
+    QPoint BringIntoView(int row, int col);
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+    void focusInEvent(QFocusEvent* event) override;
+
+  private:
+    struct Cell {
+        int row, col;
+        bool operator==(const Cell&) const = default;
+    };
+    static constexpr Cell kNoCell{-1, -1};
+
+    /// The cell of the model at a place of the viewport; the nearest one for a place beside the cells.
+    Cell CellAt(const QPoint& place) const;
+    QModelIndex IndexOf(int row, int col) const;
+    /// Edges of columns and rows are scaled, not their widths, so that no error adds up.
+    void ShowColumns(double pixels_per_twip);
+    void ShowCorner(double pixels_per_twip);
+    bool TakeKey(const QKeyEvent& event);
+    void CopyBlock() const;
+
+    shell::Grid& m_grid;
+    GridTable m_table;
+    QLabel m_corner;
+    bool m_is_dragging = false;
+};
+
+}  // namespace tavrelo::qt

@@ -1,0 +1,58 @@
+#include <QLabel>
+#include <QMouseEvent>
+
+#include "qt/bindings.h"
+#include "qt/fonts.h"
+#include "qt/text.h"
+
+namespace tavrelo::qt {
+namespace {
+
+/// A label that tells when it was clicked.
+class ClickLabel : public QLabel {
+  public:
+    using QLabel::QLabel;
+    std::function<void()> OnClick;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+            OnClick();
+    }
+};
+
+class LabelBinding : public Binding {
+  public:
+    LabelBinding(shell::Label& label, ClickLabel& widget, ViewContext& context)
+        : Binding(label, widget, context), m_label(label), m_widget(widget) {
+        widget.setTextFormat(Qt::PlainText);
+        widget.OnClick = [this] { Report([this] { m_label.UserClick(); }); };
+    }
+
+  protected:
+    void ShowState() override {
+        Binding::ShowState();
+        m_widget.setText(ToQString(m_label.Caption()));
+        if (m_label.OnClick)
+            m_widget.setCursor(Qt::PointingHandCursor);
+        if (m_widget.font().underline() != m_label.Underlined()) {
+            QFont font;
+            font.setUnderline(m_label.Underlined());
+            m_widget.setFont(font);
+        }
+    }
+
+  private:
+    shell::Label& m_label;
+    ClickLabel& m_widget;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> NewLabelBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+    return std::make_unique<LabelBinding>(dynamic_cast<shell::Label&>(control), *new ClickLabel(&parent),
+                                          context);
+}
+
+}  // namespace tavrelo::qt

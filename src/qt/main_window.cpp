@@ -1,0 +1,215 @@
+#include "qt/main_window.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QShortcut>
+#include <QWheelEvent>
+#include <algorithm>
+#include <functional>
+
+#include "qt/zoom.h"
+
+namespace tavrelo::qt {
+namespace {
+
+constexpr int kWheelStep = 120;
+
+/// Panels that lie over others though they come before them in the table.
+constexpr std::string_view kRaised[] = {"picArgs", "fraHelp"};
+
+}  // namespace
+
+MainWindow::MainWindow(shell::Form1& form, Artwork& artwork)
+    : m_context{form, artwork},
+      m_main(form.ThisWindow, nullptr, Qt::Window),
+      m_dialog(form.Form2, &m_main, Qt::Dialog) {
+    for (shell::Control* control : form.Controls())
+        if (control->Kind() != shell::ControlKind::Window)
+            m_unmade.push_back(control);
+    m_main.setMinimumSize(m_main.SizeAt(kSmallestZoom));
+    m_main.setWindowIcon(QIcon(artwork.Piece("tavrelo", QRectF(0, 0, 64, 64), 1, 1)));
+    MakeShortcuts();
+    SetZoom(FirstZoom(m_main.SizeAt(1), m_main.screen()->availableSize()));
+    m_main.OnResize = [this] { ApplyZoom(m_main.ZoomFitting(m_main.size())); };
+    form.OnChange = [this](shell::Control& control, shell::Change change) { OnChange(control, change); };
+    form.OnRaise = [this](shell::Window&) {
+        m_dialog.raise();
+        m_dialog.activateWindow();
+    };
+    qApp->installEventFilter(this);
+}
+
+MainWindow::~MainWindow() {
+    m_main.OnResize = nullptr;
+    m_context.form.OnChange = nullptr;
+    m_context.form.OnRaise = nullptr;
+}
+
+void MainWindow::MakeWidgets() {
+    const auto is_in_view = [](const shell::Control* control) {
+        return control->IsShown() && control->Bounds().left + control->Bounds().width > 0;
+    };
+    const auto shown = std::ranges::partition(m_unmade, std::not_fn(is_in_view));
+    if (shown.empty())
+        return;
+    for (shell::Control* control : std::vector(shown.begin(), shown.end()))
+        BindingOf(*control);
+    OrderTabs();
+}
+
+QWidget& MainWindow::ParentWidgetOf(const shell::Control& control) {
+    if (control.Parent() == &m_context.form.ThisWindow)
+        return m_main.Page();
+    if (control.Parent() == &m_context.form.Form2)
+        return m_dialog.Page();
+    return BindingOf(*control.Parent()).Widget();
+}
+
+Binding& MainWindow::BindingOf(shell::Control& control) {
+    if (const auto found = m_bindings.find(&control); found != m_bindings.end())
+        return *found->second;
+    QWidget& parent = ParentWidgetOf(control);
+    Binding& binding = *(m_bindings[&control] = NewBinding(control, parent, m_context));
+    m_by_widget[&binding.Widget()] = &binding;
+    std::erase(m_unmade, &control);
+    binding.RefreshAll();
+    Stack(control, binding.Widget());
+    return binding;
+}
+
+void MainWindow::Stack(const shell::Control& control, QWidget& widget) {
+    const auto controls = m_context.form.Controls();
+    const auto is_over = [&](const shell::Control* other) {
+        return other != &control && other->Parent() == control.Parent() && m_bindings.contains(other);
+    };
+    const auto over = std::find_if(std::ranges::find(controls, &control), controls.end(), is_over);
+    if (over != controls.end())
+        widget.stackUnder(&m_bindings.at(*over)->Widget());
+    for (const std::string_view name : kRaised)
+        if (const auto raised = m_bindings.find(m_context.form.Find(name)); raised != m_bindings.end())
+            raised->second->Widget().raise();
+}
+
+void MainWindow::OrderTabs() {
+    QWidget* previous = nullptr;
+    for (shell::Control* control : m_context.form.Controls()) {
+        const auto made = m_bindings.find(control);
+        if (made == m_bindings.end() || made->second->Widget().focusPolicy() == Qt::NoFocus)
+            continue;
+        if (previous && previous->window() == made->second->Widget().window())
+            QWidget::setTabOrder(previous, &made->second->Widget());
+        previous = &made->second->Widget();
+    }
+}
+
+void MainWindow::MakeShortcuts() {
+    const auto add = [this](const QKeySequence& keys, auto action) {
+        auto* shortcut = new QShortcut(keys, &m_main);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    add(QKeySequence(Qt::CTRL | Qt::Key_Plus), [this] { StepZoom(+1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Equal), [this] { StepZoom(+1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { StepZoom(-1); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); });
+}
+
+void MainWindow::Show() {
+    MakeWidgets();
+    ShowWindows();
+    if (shell::Control* focus = m_context.form.Focus())
+        OnChange(*focus, shell::Change::Focus);
+}
+
+void MainWindow::ShowWindows() {
+    m_main.ShowState(m_context.form.Pointer());
+    m_dialog.ShowState(m_context.form.Pointer());
+}
+
+QWidget& MainWindow::WidgetOf(shell::Control& control) {
+    if (&control == &m_context.form.ThisWindow)
+        return m_main;
+    if (&control == &m_context.form.Form2)
+        return m_dialog;
+    return BindingOf(control).Widget();
+}
+
+Binding* MainWindow::BindingOf(const QWidget* widget) const {
+    for (; widget; widget = widget->parentWidget())
+        if (const auto found = m_by_widget.find(widget); found != m_by_widget.end())
+            return found->second;
+    return nullptr;
+}
+
+shell::Control* MainWindow::FocusedControl() const {
+    const Binding* binding = BindingOf(QApplication::focusWidget());
+    if (!binding)
+        binding = BindingOf(m_main.focusWidget());
+    return binding ? &binding->Model() : nullptr;
+}
+
+void MainWindow::OnChange(shell::Control& control, shell::Change change) {
+    const bool may_show = change == shell::Change::State || change == shell::Change::Selection;
+    if (may_show)
+        DropLostFocus();
+    if (control.Kind() == shell::ControlKind::Window)
+        ShowWindows();
+    else if (change == shell::Change::Focus || m_bindings.contains(&control))
+        BindingOf(control).Refresh(change);
+    if (control.Kind() == shell::ControlKind::TabStrip && change == shell::Change::Selection)
+        RefreshPages(control);
+    if (may_show)
+        MakeWidgets();
+}
+
+void MainWindow::RefreshPages(const shell::Control& strip) {
+    for (const auto& [control, binding] : m_bindings)
+        if (control->Parent() == &strip)
+            binding->Refresh(shell::Change::State);
+}
+
+void MainWindow::DropLostFocus() {
+    for (FormWindow* window : {&m_main, &m_dialog}) {
+        const Binding* focused = BindingOf(window->focusWidget());
+        if (focused && !focused->Model().IsUsable())
+            window->setFocus();
+    }
+}
+
+void MainWindow::SetZoom(double zoom) {
+    ApplyZoom(zoom);
+    m_main.resize(m_main.SizeAt(m_context.zoom));
+}
+
+void MainWindow::ApplyZoom(double zoom) {
+    zoom = std::clamp(zoom, kSmallestZoom, kLargestZoom);
+    // Sizes are whole pixels, so the zoom that fits one is only nearly the zoom that made it.
+    const bool is_same_size = m_main.SizeAt(zoom) == m_main.SizeAt(m_context.zoom);
+    if (is_same_size && m_main.Page().size() == m_main.SizeAt(zoom))
+        return;
+    m_context.zoom = zoom;
+    m_main.ShowZoom(zoom);
+    m_dialog.ShowZoom(zoom);
+    m_dialog.setFixedSize(m_dialog.SizeAt(zoom));
+    for (const auto& [control, binding] : m_bindings)
+        binding->RefreshAll();
+}
+
+void MainWindow::StepZoom(int steps) { SetZoom(SteppedZoom(m_context.zoom, steps)); }
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Wheel)
+        return QObject::eventFilter(watched, event);
+    const auto* wheel = static_cast<QWheelEvent*>(event);
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    const bool is_ours = widget && (widget->window() == &m_main || widget->window() == &m_dialog);
+    if (!is_ours || !(wheel->modifiers() & Qt::ControlModifier))
+        return QObject::eventFilter(watched, event);
+    m_wheel_turn += wheel->angleDelta().y();
+    const int steps = m_wheel_turn / kWheelStep;
+    m_wheel_turn -= steps * kWheelStep;
+    if (steps != 0)
+        StepZoom(steps);
+    return true;
+}
+
+}  // namespace tavrelo::qt

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "qt/binding.h"
+#include "qt/form_window.h"
+
+namespace tavrelo::qt {
+
+/// The program's window on the desktop, and its dialog: a real widget for each control of the model, all of
+/// one zoom.
+class MainWindow : public QObject {
+  public:
+    /// Both must outlive it.
+    MainWindow(shell::Form1& form, Artwork& artwork);
+    ~MainWindow() override;
+
+    /// Brings the windows that the model shows to the screen.
+    void Show();
+
+    /// The program's window.
+    QWidget& Frame() { return m_main; }
+    /// The widget that shows a control of the form, or its window.
+    QWidget& WidgetOf(shell::Control& control);
+    /// The control with the keyboard focus, or the one that has it when the program's window is active; or
+    /// null.
+    shell::Control* FocusedControl() const;
+
+    double Zoom() const { return m_context.zoom; }
+    /// Scales both windows, contents and all, between kSmallestZoom and kLargestZoom.
+    void SetZoom(double zoom);
+
+  protected:
+    /// Ctrl with the wheel zooms, whatever is below the pointer.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void MakeShortcuts();
+    /// Makes the widgets of all controls that have come in view.
+    void MakeWidgets();
+    /// The binding of a control, made with those of its panels if need be.
+    Binding& BindingOf(shell::Control& control);
+    QWidget& ParentWidgetOf(const shell::Control& control);
+    /// Widgets lie over one another and follow by Tab in the order of the form's table, whenever they were
+    /// made.
+    void Stack(const shell::Control& control, QWidget& widget);
+    void OrderTabs();
+    void OnChange(shell::Control& control, shell::Change change);
+    void ShowWindows();
+    /// When the control in use becomes unusable, no other widget inherits the focus.
+    void DropLostFocus();
+    void RefreshPages(const shell::Control& strip);
+    Binding* BindingOf(const QWidget* widget) const;
+
+    void ApplyZoom(double zoom);
+    void StepZoom(int steps);
+
+    ViewContext m_context;
+    FormWindow m_main;
+    FormWindow m_dialog;
+    std::vector<shell::Control*> m_unmade;  // controls that were not in view yet
+    std::unordered_map<const shell::Control*, std::unique_ptr<Binding>> m_bindings;
+    std::unordered_map<const QWidget*, Binding*> m_by_widget;
+    int m_wheel_turn = 0;  // eighths of a degree that make no whole step yet
+};
+
+}  // namespace tavrelo::qt

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QCursor>
+
+namespace tavrelo::qt {
+
+/// The machine's pointer for a shape of the program's; see shell::PointerShape.
+QCursor ToCursor(int shape);
+
+}  // namespace tavrelo::qt

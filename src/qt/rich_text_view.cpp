@@ -1,0 +1,115 @@
+#include "qt/rich_text_view.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTextBlock>
+
+#include "numeric/utf8.h"
+#include "qt/fonts.h"
+#include "qt/rich_document.h"
+#include "qt/text.h"
+
+namespace tavrelo::qt {
+namespace {
+
+constexpr QStringView kLineEnd(u"\r\n");
+constexpr double kPageMargin = 4;
+
+bool SameLook(const shell::Run& a, const shell::Run& b) {
+    return a.font == b.font && a.color == b.color && a.offset == b.offset;
+}
+
+/// True when `text` is `front` with something behind it.
+bool GoesOnFrom(const shell::RichText& front, const shell::RichText& text) {
+    const auto& old_runs = front.Runs();
+    const auto& new_runs = text.Runs();
+    if (old_runs.empty() || old_runs.size() > new_runs.size())
+        return false;
+    for (std::size_t i = 0; i < old_runs.size(); ++i) {
+        const bool is_last = i + 1 == old_runs.size();
+        const bool same_text =
+            is_last ? new_runs[i].text.starts_with(old_runs[i].text) : new_runs[i].text == old_runs[i].text;
+        if (!same_text || !SameLook(old_runs[i], new_runs[i]))
+            return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+RichTextView::RichTextView(const shell::RichTextBox& model, QWidget& parent)
+    : QTextEdit(&parent), m_model(model) {
+    setReadOnly(true);
+    setUndoRedoEnabled(false);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+}
+
+shell::RichText RichTextView::TakeNew(const shell::RichText& text, double scale) {
+    if (scale == m_shown_scale && GoesOnFrom(m_shown, text)) {
+        const std::size_t shown = numeric::CharacterCount(m_shown.PlainText());
+        return Piece(text, shown, std::string::npos - shown);
+    }
+    clear();
+    document()->setDocumentMargin(kPageMargin * scale);
+    document()->setDefaultFont(ToQFont(shell::Font{}, scale));
+    return text;
+}
+
+void RichTextView::ShowText(const shell::RichText& text, double scale) {
+    const shell::RichText added = TakeNew(text, scale);
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    InsertRuns(cursor, added, scale);
+    m_shown = text;
+    m_shown_scale = scale;
+}
+
+std::size_t RichTextView::ToModelPosition(int position) const {
+    // Each line end before the place is one character more in the model.
+    const int line_ends = document()->findBlock(position).blockNumber();
+    return CharactersBefore(toPlainText(), position) + static_cast<std::size_t>(std::max(line_ends, 0));
+}
+
+int RichTextView::ToDocumentPosition(std::size_t position) const {
+    const QString text = ToQString(m_model.Text());
+    const int utf16 = Utf16Position(text, position);
+    return utf16 - static_cast<int>(text.left(utf16).count(kLineEnd));
+}
+
+shell::TextSelection RichTextView::Selected() const {
+    const QTextCursor cursor = textCursor();
+    const std::size_t start = ToModelPosition(cursor.selectionStart());
+    return {start, ToModelPosition(cursor.selectionEnd()) - start};
+}
+
+void RichTextView::Select(shell::TextSelection selection) {
+    QTextCursor cursor(document());
+    cursor.setPosition(ToDocumentPosition(selection.start));
+    cursor.setPosition(ToDocumentPosition(selection.start + selection.length), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+}
+
+QMimeData* RichTextView::createMimeDataFromSelection() const {
+    const auto [start, length] = Selected();
+    const shell::RichText piece = Piece(m_model.Content(), start, length);
+    auto* data = new QMimeData;
+    data->setText(ToQString(numeric::ReplaceAll(piece.PlainText(), "\r\n", "\n")));
+    data->setHtml(ToHtml(piece));
+    return data;
+}
+
+void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu menu(this);
+    QAction* copy = menu.addAction(QStringLiteral("Copiar"), QKeySequence::Copy, this, &QTextEdit::copy);
+    copy->setEnabled(textCursor().hasSelection());
+    QAction* select_all = menu.addAction(QStringLiteral("Seleccionar todo"), QKeySequence::SelectAll, this,
+                                         &QTextEdit::selectAll);
+    select_all->setEnabled(!document()->isEmpty());
+    menu.exec(event->globalPos());
+}
+
+}  // namespace tavrelo::qt

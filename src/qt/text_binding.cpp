@@ -1,0 +1,88 @@
+#include <QRegularExpression>
+
+#include "qt/bindings.h"
+#include "qt/text.h"
+#include "qt/text_field.h"
+
+namespace tavrelo::qt {
+namespace {
+
+class TextBinding : public Binding {
+  public:
+    TextBinding(shell::TextControl& box, TextField& widget, ViewContext& context)
+        : Binding(box, widget, context), m_box(box), m_widget(widget) {
+        connect(&widget, &QLineEdit::textChanged, this, [this] { ReportEdit(); });
+        connect(&widget, &QLineEdit::selectionChanged, this, [this] { ReportSelection(); });
+        connect(&widget, &QLineEdit::cursorPositionChanged, this, [this] { ReportSelection(); });
+    }
+
+  protected:
+    void ShowState() override {
+        Binding::ShowState();
+        m_widget.setReadOnly(m_box.Locked());
+    }
+
+    void ShowContent() override {
+        const QString text = ToQString(m_box.Text());
+        if (m_widget.text() != text)
+            m_widget.setText(text);
+        ShowSelection();
+    }
+
+    void ShowSelection() override {
+        if (m_box.Selection() == Selected())
+            return;
+        const QString text = m_widget.text();
+        const auto [start, length] = m_box.Selection();
+        const int first = Utf16Position(text, start);
+        m_widget.deselect();
+        m_widget.setCursorPosition(first);
+        if (length > 0)
+            m_widget.setSelection(first, Utf16Position(text, start + length) - first);
+    }
+
+    QPalette::ColorRole BackRole() const override { return QPalette::Base; }
+
+  private:
+    shell::TextSelection Selected() const {
+        const QString text = m_widget.text();
+        if (!m_widget.hasSelectedText())
+            return {CharactersBefore(text, m_widget.cursorPosition()), 0};
+        const std::size_t start = CharactersBefore(text, m_widget.selectionStart());
+        return {start, CharactersBefore(text, m_widget.selectionEnd()) - start};
+    }
+
+    /// Several pasted lines become one.
+    bool JoinLines() {
+        static const QRegularExpression kLineEnd(QStringLiteral("[\\r\\n]+"));
+        const QString text = m_widget.text();
+        if (!text.contains(kLineEnd))
+            return false;
+        m_widget.setText(text.trimmed().replace(kLineEnd, QStringLiteral(" ")));
+        return true;
+    }
+
+    void ReportEdit() {
+        if (JoinLines())
+            return;
+        Report([this] { m_box.UserEdited(ToUtf8(m_widget.text()), Selected()); });
+    }
+
+    void ReportSelection() {
+        // While an edit is under way the text tells first.
+        if (ToUtf8(m_widget.text()) == m_box.Text())
+            Report([this] { m_box.UserSelected(Selected()); });
+    }
+
+    shell::TextControl& m_box;
+    TextField& m_widget;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> NewTextBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+    auto& box = dynamic_cast<shell::TextControl&>(control);
+    return std::make_unique<TextBinding>(box, *new TextField(box, parent), context);
+}
+
+}  // namespace tavrelo::qt

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "shell/controls.h"
+
+namespace tavrelo::qt {
+
+/// A line of text whose key strokes go through the model's handlers first; what these leave is edited as
+/// usual.
+class TextField : public QLineEdit {
+  public:
+    TextField(shell::TextControl& model, QWidget& parent) : QLineEdit(&parent), m_model(model) {}
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+
+  private:
+    shell::TextControl& m_model;
+};
+
+}  // namespace tavrelo::qt

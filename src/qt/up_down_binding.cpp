@@ -1,0 +1,100 @@
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QSpinBox>
+#include <QStyleOption>
+#include <QToolButton>
+
+#include "qt/bindings.h"
+
+namespace tavrelo::qt {
+namespace {
+
+/// Two arrows beside a box that shows the number.
+class Arrows : public QWidget {
+  public:
+    explicit Arrows(QWidget& parent) : QWidget(&parent), m_up(this), m_down(this) {
+        setFocusPolicy(Qt::StrongFocus);
+        SetUp(m_up, Qt::UpArrow, +1);
+        SetUp(m_down, Qt::DownArrow, -1);
+    }
+    std::function<void(int step)> OnStep;
+
+  protected:
+    void resizeEvent(QResizeEvent*) override {
+        m_up.setGeometry(0, 0, width(), height() / 2);
+        m_down.setGeometry(0, height() / 2, width(), height() - height() / 2);
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Up)
+            OnStep(+1);
+        else if (event->key() == Qt::Key_Down)
+            OnStep(-1);
+        else
+            event->ignore();
+    }
+
+  private:
+    void SetUp(QToolButton& button, Qt::ArrowType arrow, int step) {
+        button.setArrowType(arrow);
+        button.setAutoRepeat(true);
+        button.setFocusPolicy(Qt::NoFocus);
+        connect(&button, &QToolButton::clicked, this, [this, step] { OnStep(step); });
+    }
+
+    QToolButton m_up;
+    QToolButton m_down;
+};
+
+class ArrowsBinding : public Binding {
+  public:
+    ArrowsBinding(shell::UpDown& number, Arrows& widget, ViewContext& context)
+        : Binding(number, widget, context), m_number(number) {
+        widget.OnStep = [this](int step) { Report([this, step] { Step(step); }); };
+    }
+
+  private:
+    void Step(int step) {
+        const int value = m_number.Value() + step;
+        if (value >= m_number.Minimum() && value <= m_number.Maximum())
+            m_number.UserSpin(value);
+    }
+
+    shell::UpDown& m_number;
+};
+
+/// A box that shows its number itself.
+class SpinBinding : public Binding {
+  public:
+    SpinBinding(shell::UpDown& number, QSpinBox& widget, ViewContext& context)
+        : Binding(number, widget, context), m_number(number), m_widget(widget) {
+        connect(&widget, &QSpinBox::valueChanged, this,
+                [this](int value) { Report([this, value] { m_number.UserSpin(value); }); });
+    }
+
+  protected:
+    void ShowState() override {
+        Binding::ShowState();
+        ShowSelection();
+    }
+    void ShowSelection() override {
+        m_widget.setRange(m_number.Minimum(), m_number.Maximum());
+        m_widget.setValue(m_number.Value());
+    }
+    QPalette::ColorRole BackRole() const override { return QPalette::Base; }
+
+  private:
+    shell::UpDown& m_number;
+    QSpinBox& m_widget;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> NewUpDownBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+    auto& number = dynamic_cast<shell::UpDown&>(control);
+    if (number.buddy)
+        return std::make_unique<ArrowsBinding>(number, *new Arrows(parent), context);
+    return std::make_unique<SpinBinding>(number, *new QSpinBox(&parent), context);
+}
+
+}  // namespace tavrelo::qt

@@ -1,0 +1,19 @@
+#include <QApplication>
+#include <QScreen>
+
+#include "qt/first_paint.h"
+#include "qt/zoom.h"
+#include "shell/layout.h"
+
+using namespace tavrelo;
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    QWidget window;
+    const QSizeF page(shell::kForm1Bounds.width, shell::kForm1Bounds.height);
+    window.resize((page * qt::FirstZoom(page, window.screen()->availableSize())).toSize());
+    if (QCoreApplication::arguments().contains(QLatin1String(qt::kQuitAfterPaint)))
+        new qt::QuitAfterPaint(window);
+    window.show();
+    return QApplication::exec();
+}

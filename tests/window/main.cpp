@@ -1,0 +1,30 @@
+#include <QApplication>
+#include <QStandardPaths>
+#include <QTest>
+
+#include "qt/look.h"
+#include "tests.h"
+
+namespace {
+
+using namespace tavrelo::window_test;
+
+template <class Test>
+int Run(int argc, char* argv[]) {
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    tavrelo::qt::SetUpApplication(application);
+    int failed = 0;
+    for (const auto run : {Run<ZoomTest>, Run<FocusTest>, Run<TypingTest>, Run<RichTextTest>, Run<BoxesTest>,
+                           Run<PictureTest>, Run<PrintingTest>})
+        failed += run(argc, argv);
+    return failed == 0 ? 0 : 1;
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <QObject>
+
+// The test classes; each slot is one test.
+
+namespace tavrelo::window_test {
+
+class ZoomTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void ScalesEveryControl();
+    void ScalesTheFonts();
+    void FollowsTheKeys();
+    void FollowsTheWheelOverAnyControl();
+    void StaysWithinItsLimits();
+    void FollowsTheFrame();
+};
+
+class FocusTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void StartsNowhere();
+    void IsDroppedWhenTheControlIsHidden();
+    void IsDroppedWhenItsPanelIsDisabled();
+    void GoesByTabInReadingOrder();
+    void GoesWhereTheProgramPutsIt();
+    void IsNotTakenByLabelsAndPictures();
+    void DoesNotJumpIntoTheDialog();
+};
+
+class TypingTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void LettersOfSpanish();
+    void DeadKeysAndInputMethods();
+    void InputMethodsIntoACell();
+    void ConsumedKeysDoNotType();
+    void LongPastesArriveWhole();
+    void PastedLinesAreJoined();
+    void UndoTakesBackWhatWasTyped();
+    void SelectionIsTold();
+};
+
+class RichTextTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void RunsCanBeReadBackAtAnyZoom();
+    void AppendingKeepsWhatStands();
+    void CopyGivesRichText();
+    void CopyGivesTheSizesOfTheProgramAtAnyZoom();
+    void MenuIsSpanish();
+    void SelectionCountsLineEndsAsTheModelDoes();
+    void BackwardSelectionStays();
+};
+
+class BoxesTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void ButtonsAreSpanish_data();
+    void ButtonsAreSpanish();
+    void EscapeRefuses();
+    void TextIsPlain();
+    void InputBoxAnswers();
+};
+
+class PictureTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void BlackboardHasAMenu();
+    void RightButtonReachesOtherPictures();
+    void PlacesAreInTheUnitsOfThePictureAtAnyZoom();
+    void CopiedImageIsTwiceTheSize();
+    void CanvasPaintsWhatWasDrawn();
+    void TextIsAsWideAsTheModelMeasures();
+};
+
+class PrintingTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void LongTextsFillSeveralPages();
+    void ShortTextsFillOne();
+    void ClosingTheWindowEndsTheProgram();
+    void TheDialogCloses();
+};
+
+}  // namespace tavrelo::window_test
