@@ -98,6 +98,9 @@ void ArrangeGd2(shell::Form1& form, int col_width, int tool) {
     grid.SetColWidth(0, kLabelColumnWidth);
     for (int col = 1; col <= kPointColumns; ++col)
         grid.SetColWidth(col, col_width);
+    // Whole pixels, so that all rows of either tool fit without scroll bars.
+    const int row_pixels = form.Gd2.Bounds().height / grid.Rows();
+    grid.SetRowHeight(row_pixels * shell::kTwipsPerPixel);
     for (int row = 0; row < grid.Rows(); ++row)
         grid.SetCell(row, 0, std::string(labels[static_cast<std::size_t>(row)]));
 }
