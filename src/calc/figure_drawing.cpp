@@ -58,6 +58,8 @@ void DrawFigure(Task& task, const Figure& figure) {
     shell::Surface& surface = task.form.pic.Canvas();
     const Pixels points = Fit(surface, figure.vertices);
     const std::size_t count = points.size();
+    if (count == 0)
+        return;
     const auto color = [&](std::size_t side) { return figure.colors[side % figure.colors.size()]; };
     LabelPlacer labels(surface);
     surface.Cls();

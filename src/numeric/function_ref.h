@@ -15,10 +15,11 @@ class FunctionRef;
 template <typename Result, typename... Arguments>
 class FunctionRef<Result(Arguments...)> {
   public:
-    template <typename Callable>
-    requires(!std::is_same_v<std::remove_cvref_t<Callable>, FunctionRef> &&
-             std::is_object_v<std::remove_reference_t<Callable>> &&
-             std::is_invocable_r_v<Result, Callable&, Arguments...>) FunctionRef(Callable&& callable)
+    template <typename Callable,
+              typename = std::enable_if_t<!std::is_same_v<std::remove_cvref_t<Callable>, FunctionRef> &&
+                                          std::is_object_v<std::remove_reference_t<Callable>> &&
+                                          std::is_invocable_r_v<Result, Callable&, Arguments...>>>
+    FunctionRef(Callable&& callable)
         : m_object(const_cast<void*>(static_cast<const void*>(std::addressof(callable)))),
           m_call([](void* object, Arguments... arguments) -> Result {
               return std::invoke(*static_cast<std::remove_reference_t<Callable>*>(object),

@@ -46,7 +46,7 @@ class GivenData {
     const std::optional<double>& Angle(std::size_t i) const { return m_data[2 * i + 1]; }
     int KnownSides() const { return Side(0).has_value() + Side(1).has_value() + Side(2).has_value(); }
     int KnownAngles() const { return Angle(0).has_value() + Angle(1).has_value() + Angle(2).has_value(); }
-    /// Some known side, angle, or unknown side or angle: the only one where it is asked for.
+    // The number of the only one of its kind, in the cases that ask for it.
     std::size_t KnownSide() const { return Side(0) ? 0 : Side(1) ? 1 : 2; }
     std::size_t KnownAngle() const { return Angle(0) ? 0 : Angle(1) ? 1 : 2; }
     std::size_t UnknownSide() const { return !Side(0) ? 0 : !Side(1) ? 1 : 2; }
