@@ -41,6 +41,19 @@ TEST(Derivative, AnOddFunctionOfHighOrderIsExtrapolated) {
     EXPECT_NEAR(found.value, 5, 1e-12);
 }
 
+// Numbers of columns by the textbook tableau with these constants, worked out separately.
+TEST(Derivative, StopsWhereTheExtrapolationGetsWorse) {
+    int calls = 0;
+    const auto columns = [&calls](double (*f)(double), double x, double h) {
+        calls = 0;
+        Derivative([&](double at) { return ++calls, f(at); }, x, h);
+        return calls / 2;
+    };
+    EXPECT_EQ(columns([](double x) { return std::tan(x); }, 1, 0.5), 3);
+    EXPECT_EQ(columns([](double x) { return std::sqrt(std::abs(x)); }, 0.3, 0.5), 4);
+    EXPECT_EQ(columns([](double x) { return std::exp(x); }, 2, 4), 10);  // no more are made
+}
+
 TEST(Derivative, AtAKinkItIsTheMeanSlope) {
     EXPECT_EQ(Derivative([](double x) { return std::abs(x); }, 0, 0.5).value, 0);
 }

@@ -93,6 +93,17 @@ TEST(LUDec, OfEqualCandidatesTheLastRowIsThePivot) {
     EXPECT_NEAR(determinant, 2, 1e-14);  // 1 (0 + 1) - 1 (0 - 1)
 }
 
+TEST(LUDec, ARowKeepsItsScaleWhenItIsMoved) {
+    SquareMatrix matrix(3, List{100, 1, 10, 2, 5, 5, 10, 2, 3});
+    Permutation permutation;
+    double determinant = 0;
+    EXPECT_EQ(LUDec(matrix, permutation, determinant), LinearOutcome::Done);
+    // Weighed by 1/100, 1/5, 1/10: the third row comes first. Then 4.6 of the second row weighs 0.92 and -19
+    // of the first, now the third one, 0.19.
+    EXPECT_EQ(permutation, (Permutation{2, 1, 2}));
+    EXPECT_NEAR(determinant, 100 * (15 - 10) - (6 - 50) + 10 * (4 - 50), 1e-11);
+}
+
 TEST(LUDec, ARowOfZerosIsRefusedAndLeavesTheDeterminant) {
     SquareMatrix matrix(2, List{1, 2, 0, 0});
     Permutation permutation;

@@ -84,6 +84,8 @@ TEST(RKQS, GrowsByTheFifthRootOfTheError) {
     const ControlledStep step = StepOnFourthPower(2, 0.1);
     EXPECT_EQ(step.done, 2);
     EXPECT_NEAR(step.next, 0.9 * 2 * std::pow(ratio, -0.2), 1e-12);
+    // An error of a thousandth of what is allowed still grows by the root, 3.58 times.
+    EXPECT_NEAR(StepOnFourthPower(2, kFourthPowerError * 32 * 1000).next, 1.8 * std::pow(1e-3, -0.2), 1e-12);
 }
 
 TEST(RKQS, GrowsAtMostFivefold) {
@@ -160,6 +162,53 @@ TEST(ODEInt, LiftsTooSmallAStepAndGoesOn) {
     ASSERT_EQ(ODEInt(growth, 1, coarse, 0, 1, 1e-5, 1e-6, 1), OdeOutcome::Done);
     EXPECT_NEAR(coarse[0], std::numbers::e, 1e-4);
     EXPECT_LT(calls, 60);
+}
+
+TEST(ODEInt, BeginsWithTheFirstStepInItsDirection) {
+    for (const double end : {3.0, -3.0}) {
+        std::vector<double> places;
+        const auto watched = [&places](Arguments arguments) { return places.push_back(arguments[0]), 1.0; };
+        OdeState y{};
+        ASSERT_EQ(ODEInt(watched, 1, y, 0, end, 1e-5, 0.1, 0.001), OdeOutcome::Done);
+        EXPECT_NEAR(y[0], end, 1e-12);
+        // Start and five stages a step; a constant slope has no error, so the steps are 0.1, 0.5 and the
+        // rest.
+        ASSERT_EQ(places.size(), 18u);
+        EXPECT_NEAR(places[4], std::copysign(0.1, end), 1e-15);
+        EXPECT_NEAR(places[6], std::copysign(0.1, end), 1e-15);
+        EXPECT_NEAR(places[12], std::copysign(0.6, end), 1e-15);
+    }
+}
+
+TEST(ODEInt, GivesUpAfterAThousandSteps) {
+    // At this accuracy a step on y' = y is about 0.02 long, whatever y is.
+    int calls = 0;
+    const auto growth = [&calls](Arguments arguments) { return ++calls, arguments[1]; };
+    OdeState y = {1, 0};
+    EXPECT_EQ(ODEInt(growth, 1, y, 0, 10, 1e-12, 0.01, 1e-6), OdeOutcome::Done);
+    EXPECT_NEAR(y[0] / std::exp(10), 1, 1e-10);
+    y = {1, 0};
+    calls = 0;
+    EXPECT_EQ(ODEInt(growth, 1, y, 0, 40, 1e-12, 0.01, 1e-6), OdeOutcome::TooManySteps);
+    EXPECT_EQ(y[0], 1);
+    EXPECT_GE(calls, 6000);
+    EXPECT_LT(calls, 6100);  // few steps are tried twice
+}
+
+TEST(ODEInt, LiftsASmallStepInItsDirection) {
+    // Before the cliff the step is cut down below the least one; once behind it nothing leads back.
+    const auto cliff = [](double x) { return x > -1.5 ? 1.0 : 12.5; };
+    double farthest = 0;
+    const auto watched = [&](Arguments arguments) {
+        EXPECT_FALSE(farthest < -1.7 && arguments[0] > -1.4);
+        return cliff(arguments[0]);
+    };
+    int calls = 0;
+    const auto counted = [&](Arguments arguments) { return ++calls, watched(arguments); };
+    OdeState y{};
+    ASSERT_EQ(ODEInt(counted, 1, y, 0, -3, 1e-5, 0.1, 0.001), OdeOutcome::Done);
+    EXPECT_NEAR(y[0], -1.5 - 1.5 * 12.5, 1e-3);
+    std::printf("calls %d\n", calls);
 }
 
 TEST(ODEInt, PassesFailuresOn) {

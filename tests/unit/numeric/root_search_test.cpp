@@ -53,6 +53,15 @@ TEST(FindRoots, ARootOnASampleIsMissed) {
     EXPECT_EQ(Found(FindRoots([](double x) { return x; }, -1, 1.01)).roots.size(), 1u);
 }
 
+TEST(FindRoots, AValueOfZeroInsideACellIsTheRoot) {
+    // Cells of length 1: the first one runs from -0.5 to 0.5, its middle is 0.
+    for (const double sign : {1.0, -1.0}) {
+        const FoundRoots found = Found(FindRoots([sign](double x) { return sign * x; }, -0.5, 489.5));
+        ASSERT_EQ(found.roots.size(), 1u);
+        EXPECT_EQ(found.roots[0], 0);
+    }
+}
+
 TEST(FindRoots, ATouchingRootIsMissedAndAPoleCounts) {
     ExpectRefused(FindRoots([](double x) { return (x - 1) * (x - 1); }, 0, 3.1), RootsRefusal::None);
     const FoundRoots found = Found(FindRoots([](double x) { return CheckedDivide(1, x - 1); }, 0, 3.1));
