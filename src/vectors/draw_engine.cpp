@@ -71,6 +71,12 @@ std::size_t Slot(int hour) {
     return static_cast<std::size_t>(hour - 1);
 }
 
+/// Halves up; a hair more, for what trigonometry leaves behind a half must not make an upright arrow lean.
+double WholePixel(double place) {
+    constexpr double kHair = 1e-9;
+    return std::floor(place + 0.5 + kHair);
+}
+
 /// The head behind a tip: two rear points beside the shaft, whose direction is (cos, -sin) on the picture.
 std::vector<Point> HeadAt(Point tip, double cos, double sin, int width) {
     const double length = 2 * width + 1;
@@ -78,10 +84,10 @@ std::vector<Point> HeadAt(Point tip, double cos, double sin, int width) {
     const Point along{cos, -sin};
     const Point across{-along.y, along.x};
     const auto rear = [&](double side) {
-        return Point{std::round(tip.x - length * along.x + side * half * across.x),
-                     std::round(tip.y - length * along.y + side * half * across.y)};
+        return Point{WholePixel(tip.x - length * along.x + side * half * across.x),
+                     WholePixel(tip.y - length * along.y + side * half * across.y)};
     };
-    return {{std::round(tip.x), std::round(tip.y)}, rear(1), rear(-1)};
+    return {{WholePixel(tip.x), WholePixel(tip.y)}, rear(1), rear(-1)};
 }
 
 std::string WithoutSign(const std::string& label) { return label.starts_with('-') ? label.substr(1) : label; }

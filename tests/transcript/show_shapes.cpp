@@ -6,6 +6,9 @@
 namespace tavrelo::transcript {
 namespace {
 
+// What trigonometry leaves behind a half: an upright arrow must not lean by a pixel.
+constexpr double kHair = 1e-9;
+
 constexpr std::string_view kKinds[] = {"line", "box", "filled", "circle", "arc", "polygon", "text"};
 
 /// An operation by its kind and what is told of it behind the kind; a kind that is empty is not told.
@@ -18,7 +21,7 @@ struct Told {
 std::string Pixels(std::initializer_list<double> numbers) {
     std::string text;
     for (const double number : numbers)
-        text += std::to_string(std::lround(std::floor(number + 0.5))) + " ";
+        text += std::to_string(std::lround(std::floor(number + 0.5 + kHair))) + " ";
     return text;
 }
 
