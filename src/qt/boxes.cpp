@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <algorithm>
 
 #include "qt/text.h"
@@ -48,10 +49,26 @@ shell::Answer AnswerOf(shell::Buttons buttons, int button) {
 
 constexpr int kInputCharacters = 60;  // an input box is at least as wide
 
-/// Boxes stand over the window in use and are as large as its zoom.
+/// The window in use: boxes stand over it and are as large as its zoom.
+QWidget* WindowInUse() {
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto shown = std::ranges::find_if(windows, &QWidget::isVisible);
+    return shown == windows.end() ? nullptr : *shown;
+}
+
 void FitToWindow(QWidget& box) {
     if (const QWidget* parent = box.parentWidget())
         box.setFont(parent->font());
+}
+
+/// Lines of the text stay whole as far as the screen has room for them.
+void KeepLines(QMessageBox& box) {
+    constexpr double kWidestShare = 0.8;
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const int width = label->fontMetrics().size(0, label->text()).width();
+    label->setMinimumWidth(std::min(width, qRound(box.screen()->availableSize().width() * kWidestShare)));
 }
 
 }  // namespace
@@ -59,16 +76,16 @@ void FitToWindow(QWidget& box) {
 shell::Answer WindowBoxes::ShowMessage(std::string_view text, std::string_view title,
                                        shell::Buttons buttons) {
     const auto icon = buttons == shell::Buttons::Ok ? QMessageBox::Information : QMessageBox::Question;
-    QMessageBox box(icon, ToQString(title), ToQString(text), QMessageBox::NoButton,
-                    QApplication::activeWindow());
+    QMessageBox box(icon, ToQString(title), ToQString(text), QMessageBox::NoButton, WindowInUse());
     box.setTextFormat(Qt::PlainText);
     FitToWindow(box);
+    KeepLines(box);
     AddButtons(box, buttons);
     return AnswerOf(buttons, box.exec());
 }
 
 std::optional<std::string> WindowBoxes::AskText(std::string_view prompt, std::string_view title) {
-    QInputDialog box(QApplication::activeWindow());
+    QInputDialog box(WindowInUse());
     FitToWindow(box);
     box.setWindowTitle(ToQString(title));
     box.setLabelText(ToQString(prompt));

@@ -13,9 +13,11 @@ namespace {
 constexpr double kPointsPerInch = 72;
 constexpr double kUsualDotsPerInch = 96;
 
+double ToPoints(double pixels) { return pixels * kPointsPerInch / ScreenDotsPerInch(); }
+
 /// Sizes are given in points because only these may be broken numbers.
 void SetPixels(QFont& font, double pixels) {
-    font.setPointSizeF(pixels * kPointsPerInch / ScreenDotsPerInch());
+    font.setPointSizeF(ToPoints(pixels));
     font.setHintingPreference(QFont::PreferNoHinting);
 }
 
@@ -39,6 +41,8 @@ double FontStretch(const shell::Font& font, double scale) {
     const double pixels = shell::PixelsOf(font.size) * scale;
     return pixels / std::max(1.0, std::round(pixels));
 }
+
+double InterfacePoints() { return ToPoints(kInterfacePixels); }
 
 QFont InterfaceFont(double scale) {
     QFont result(

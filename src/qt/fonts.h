@@ -18,6 +18,8 @@ QFont ToQFont(const shell::Font& font, double scale);
 double FontStretch(const shell::Font& font, double scale);
 /// The font of captions, cells and text boxes.
 QFont InterfaceFont(double scale);
+/// Its size at 100 %, in points.
+double InterfacePoints();
 /// Logical dots of an inch that font sizes refer to.
 double ScreenDotsPerInch();
 

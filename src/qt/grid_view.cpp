@@ -24,6 +24,11 @@ void SetUpHeading(QHeaderView& heading) {
     heading.setMinimumSectionSize(1);
 }
 
+/// The factor that makes a length fit into the room there is, when that takes little; else 1.
+double Shrinking(double length, double room, double lowest_share) {
+    return length > room && length * lowest_share <= room ? room / length : 1;
+}
+
 }  // namespace
 
 GridView::GridView(shell::Grid& model, QWidget& parent)
@@ -37,8 +42,6 @@ GridView::GridView(shell::Grid& model, QWidget& parent)
     setTextElideMode(Qt::ElideNone);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setAttribute(Qt::WA_InputMethodEnabled);
-    // The lines of the cells are frame enough, and the cells need all the room.
-    setFrameShape(QFrame::NoFrame);
     SetUpHeading(*horizontalHeader());
     SetUpHeading(*verticalHeader());
     m_corner.setAlignment(Qt::AlignCenter);
@@ -56,34 +59,50 @@ void GridView::ShowCells(double zoom) {
 
 void GridView::ShowSizes(double zoom) {
     const double pixels_per_twip = zoom / shell::kTwipsPerPixel;
-    const int row_height = qRound(m_grid.RowHeight() * pixels_per_twip);
-    verticalHeader()->setDefaultSectionSize(row_height);
     horizontalHeader()->setVisible(m_grid.FixedRows() > 0);
-    horizontalHeader()->setFixedHeight(row_height);
     verticalHeader()->setVisible(m_grid.FixedCols() > 0);
-    if (m_grid.FixedCols() > 0)
-        verticalHeader()->setFixedWidth(qRound(m_grid.ColWidth(0) * pixels_per_twip));
-    ShowColumns(pixels_per_twip);
-    ShowCorner(pixels_per_twip);
+    const int row_height = ShowRows(pixels_per_twip);
+    const int first_width = ShowColumns(pixels_per_twip);
+    ShowCorner({first_width, row_height});
 }
 
-void GridView::ShowColumns(double pixels_per_twip) {
+int GridView::ShowRows(double pixels_per_twip) {
+    constexpr double kLowestShare = 0.9;
+    const double exact = m_grid.RowHeight() * pixels_per_twip;
+    const double shrunk = exact * Shrinking(exact * m_grid.Rows(), height() - 2 * frameWidth(), kLowestShare);
+    const int row_height = shrunk < exact ? static_cast<int>(shrunk) : std::max(1, qRound(exact));
+    verticalHeader()->setDefaultSectionSize(row_height);
+    horizontalHeader()->setFixedHeight(row_height);
+    return row_height;
+}
+
+int GridView::ShowColumns(double pixels_per_twip) {
+    constexpr double kLowestShare = 0.99;
     int twips = 0;
-    for (int col = m_grid.FixedCols(); col < m_grid.Cols(); ++col) {
-        const int left = qRound(twips * pixels_per_twip);
+    for (int col = 0; col < m_grid.Cols(); ++col)
         twips += m_grid.ColWidth(col);
-        horizontalHeader()->resizeSection(col - m_grid.FixedCols(), qRound(twips * pixels_per_twip) - left);
+    const double room = width() - 2 * frameWidth();
+    const double scale = pixels_per_twip * Shrinking(twips * pixels_per_twip, room, kLowestShare);
+    int first_width = 0;
+    twips = 0;
+    for (int col = 0; col < m_grid.Cols(); ++col) {
+        const int left = qRound(twips * scale);
+        twips += m_grid.ColWidth(col);
+        const int width = qRound(twips * scale) - left;
+        if (col >= m_grid.FixedCols())
+            horizontalHeader()->resizeSection(col - m_grid.FixedCols(), width);
+        else
+            first_width = width;
     }
+    verticalHeader()->setFixedWidth(first_width);
+    return first_width;
 }
 
-void GridView::ShowCorner(double pixels_per_twip) {
+void GridView::ShowCorner(const QSize& size) {
     const bool has_corner = m_grid.FixedRows() > 0 && m_grid.FixedCols() > 0 && m_grid.HasCell(0, 0);
     m_corner.setVisible(has_corner);
-    if (!has_corner)
-        return;
-    m_corner.setText(ToQString(m_grid.Cell(0, 0)));
-    m_corner.setGeometry(frameWidth(), frameWidth(), qRound(m_grid.ColWidth(0) * pixels_per_twip),
-                         qRound(m_grid.RowHeight() * pixels_per_twip));
+    m_corner.setText(has_corner ? ToQString(m_grid.Cell(0, 0)) : QString());
+    m_corner.setGeometry(QRect(QPoint(frameWidth(), frameWidth()), size));
 }
 
 void GridView::ShowChoice() {
@@ -196,9 +215,8 @@ QVariant GridView::inputMethodQuery(Qt::InputMethodQuery query) const {
     return QTableView::inputMethodQuery(query);
 }
 
-void GridView::focusInEvent(QFocusEvent* event) {
+void GridView::focusInEvent(QFocusEvent*) {
     // The table's own handler would choose a cell that the model does not know of.
-    QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
 }
 

@@ -41,9 +41,11 @@ class GridView : public QTableView {
     /// The cell of the model at a place of the viewport; the nearest one for a place beside the cells.
     Cell CellAt(const QPoint& place) const;
     QModelIndex IndexOf(int row, int col) const;
-    /// Edges of columns and rows are scaled, not their widths, so that no error adds up.
-    void ShowColumns(double pixels_per_twip);
-    void ShowCorner(double pixels_per_twip);
+    // Cells that would only just not stand all in view are made a little smaller. Edges of columns are
+    // scaled, not their widths, so that no error adds up. Each answers the pixels of the first row or column.
+    int ShowRows(double pixels_per_twip);
+    int ShowColumns(double pixels_per_twip);
+    void ShowCorner(const QSize& size);
     bool TakeKey(const QKeyEvent& event);
     void CopyBlock() const;
 

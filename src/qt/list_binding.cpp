@@ -35,9 +35,8 @@ class ChoiceList : public QListWidget {
         if (ChosenRows(*this) != before)
             OnChoice();
     }
-    void focusInEvent(QFocusEvent* event) override {
+    void focusInEvent(QFocusEvent*) override {
         // The list's own handler would make a row current that nobody chose.
-        QAbstractScrollArea::focusInEvent(event);
         viewport()->update();
     }
 };

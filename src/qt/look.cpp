@@ -10,28 +10,13 @@
 #include <QWidget>
 #include <algorithm>
 #include <iterator>
+#include <memory>
 
+#include "qt/flat_parts.h"
 #include "qt/fonts.h"
 
 namespace tavrelo::qt {
 namespace {
-
-// The palette.
-constexpr QRgb kWindow = 0xffeef2f6;
-constexpr QRgb kPage = 0xfff9fbfc;
-constexpr QRgb kFace = 0xfffdfdfe;
-constexpr QRgb kHoverFace = 0xffe3eefb;
-constexpr QRgb kPressedFace = 0xffc9def5;
-constexpr QRgb kDisabledFace = 0xfff0f2f4;
-constexpr QRgb kEdge = 0xffa9b4c0;
-constexpr QRgb kSoftEdge = 0xffc9d1da;
-constexpr QRgb kHeading = 0xffe6ebf1;
-constexpr QRgb kAccent = 0xff1d6fc4;
-constexpr QRgb kChoice = 0xffbcd9f7;
-constexpr QRgb kFadedChoice = 0xffdbe6f0;
-constexpr QRgb kDisabledText = 0xff8a939d;
-
-constexpr double kCornerRadius = 3;
 
 struct Measure {
     QStyle::PixelMetric metric;
@@ -45,67 +30,21 @@ constexpr Measure kMeasures[] = {
     {QStyle::PM_ExclusiveIndicatorHeight, 14},
     {QStyle::PM_CheckBoxLabelSpacing, 5},
     {QStyle::PM_RadioButtonLabelSpacing, 5},
-    {QStyle::PM_ScrollBarExtent, 14},
+    {QStyle::PM_ScrollBarExtent, kScrollBarExtent},
     {QStyle::PM_ScrollBarSliderMin, 24},
-    {QStyle::PM_ButtonMargin, 4},
+    {QStyle::PM_ButtonMargin, 10},
     {QStyle::PM_HeaderMargin, 1},
     {QStyle::PM_FocusFrameHMargin, 2},
     {QStyle::PM_TabBarTabHSpace, 8},
+    {QStyle::PM_MessageBoxIconSize, 36},
     {QStyle::PM_TabBarTabVSpace, 2},
 };
 
-double ScaleOf(const QWidget* widget) {
-    return widget ? widget->font().pointSizeF() / InterfaceFont(1).pointSizeF() : 1;
-}
+double ScaleOf(const QWidget* widget) { return widget ? widget->font().pointSizeF() / InterfacePoints() : 1; }
 
 /// The line of a spin box stands in the frame of the box.
 bool IsInSpinBox(const QWidget* widget) {
     return widget && qobject_cast<const QAbstractSpinBox*>(widget->parent());
-}
-
-/// Half a pixel in, so that a line of one pixel is sharp.
-QRectF Inside(const QRect& rect) { return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5); }
-
-QColor FaceColor(const QStyleOption& option) {
-    if (!(option.state & QStyle::State_Enabled))
-        return QColor::fromRgb(kDisabledFace);
-    if (option.state & (QStyle::State_Sunken | QStyle::State_On))
-        return QColor::fromRgb(kPressedFace);
-    if (option.state & QStyle::State_MouseOver)
-        return QColor::fromRgb(kHoverFace);
-    return option.palette.color(QPalette::Button);
-}
-
-QColor EdgeColor(const QStyleOption& option) {
-    if (!(option.state & QStyle::State_Enabled))
-        return QColor::fromRgb(kSoftEdge);
-    return QColor::fromRgb(option.state & QStyle::State_HasFocus ? kAccent : kEdge);
-}
-
-void DrawRounded(const QStyleOption& option, QPainter& painter, const QColor& face, double radius) {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(EdgeColor(option));
-    painter.setBrush(face);
-    painter.drawRoundedRect(Inside(option.rect), radius, radius);
-    painter.restore();
-}
-
-void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale) {
-    const bool is_front = tab.state & QStyle::State_Selected;
-    const bool is_hovered = tab.state & QStyle::State_MouseOver;
-    painter.save();
-    painter.setPen(QColor::fromRgb(kSoftEdge));
-    painter.setBrush(QColor::fromRgb(is_front ? kPage : is_hovered ? kHoverFace : kHeading));
-    // The front tab runs into the page below it.
-    painter.drawRect(
-        tab.rect.adjusted(0, is_front ? 0 : qRound(2 * scale), is_front ? -1 : 0, is_front ? 1 : -1));
-    if (is_front) {
-        const int height = qRound(2 * scale);
-        painter.fillRect(tab.rect.left(), tab.rect.top(), tab.rect.width(), height,
-                         tab.palette.color(QPalette::WindowText));
-    }
-    painter.restore();
 }
 
 }  // namespace
@@ -146,7 +85,6 @@ int Look::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* w
     switch (hint) {
         case SH_EtchDisabledText:
         case SH_DitherDisabledText:
-            return 0;
         case SH_ComboBox_Popup:
             return 0;
         case SH_ToolTip_WakeUpDelay:
@@ -162,15 +100,15 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
     switch (element) {
         case PE_PanelButtonCommand:
         case PE_PanelButtonTool:
-            DrawRounded(*option, *painter, FaceColor(*option), kCornerRadius * scale);
+            DrawRounded(*option, *painter, FaceColor(*option), scale);
             return;
         case PE_FrameLineEdit:
             if (!IsInSpinBox(widget))
-                DrawRounded(*option, *painter, Qt::transparent, kCornerRadius * scale);
+                DrawRounded(*option, *painter, Qt::transparent, scale);
             return;
         case PE_PanelLineEdit:
             if (!IsInSpinBox(widget))
-                DrawRounded(*option, *painter, option->palette.color(QPalette::Base), kCornerRadius * scale);
+                DrawRounded(*option, *painter, option->palette.color(QPalette::Base), scale);
             return;
         case PE_Frame:
             // Panels stand back behind the boxes that lie on them.
@@ -178,6 +116,12 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
                                                                              : QColor::fromRgb(kSoftEdge));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            return;
+        case PE_IndicatorArrowUp:
+            DrawArrow(*option, option->rect, Qt::UpArrow, *painter, scale);
+            return;
+        case PE_IndicatorArrowDown:
+            DrawArrow(*option, option->rect, Qt::DownArrow, *painter, scale);
             return;
         case PE_FrameFocusRect:
             painter->setPen(QPen(QColor::fromRgb(kAccent), std::max(1, qRound(scale))));
@@ -206,13 +150,126 @@ void Look::drawControl(ControlElement element, const QStyleOption* option, QPain
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 
+void Look::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                              const QWidget* widget) const {
+    const double scale = ScaleOf(widget);
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && bar) {
+        DrawScrollBar(*bar, subControlRect(CC_ScrollBar, bar, SC_ScrollBarSlider, widget), *painter);
+    } else if (control == CC_SpinBox) {
+        DrawRounded(*option, *painter, option->palette.color(QPalette::Base), scale);
+        DrawArrow(*option, subControlRect(control, option, SC_SpinBoxUp, widget), Qt::UpArrow, *painter,
+                  scale);
+        DrawArrow(*option, subControlRect(control, option, SC_SpinBoxDown, widget), Qt::DownArrow, *painter,
+                  scale);
+    } else if (control == CC_ComboBox) {
+        DrawRounded(*option, *painter, FaceColor(*option), scale);
+        DrawArrow(*option, subControlRect(control, option, SC_ComboBoxArrow, widget), Qt::DownArrow, *painter,
+                  scale);
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+}
+
+namespace {
+
+/// The place of a part of a scroll bar.
+QRect ScrollBarPart(const QStyleOptionSlider& bar, QStyle::SubControl part, int shortest_slider) {
+    const bool is_wide = bar.orientation == Qt::Horizontal;
+    const int length = is_wide ? bar.rect.width() : bar.rect.height();
+    const int range = bar.maximum - bar.minimum;
+    const int shown = std::max(1, range + bar.pageStep);
+    const int proportional = static_cast<int>(qint64{length} * bar.pageStep / shown);
+    const int slider = std::min(length, std::max(shortest_slider, proportional));
+    const int start = QStyle::sliderPositionFromValue(bar.minimum, bar.maximum, bar.sliderPosition,
+                                                      length - slider, bar.upsideDown);
+    // Along the bar: the part in front of the slider, the slider, the part behind it.
+    const auto along = [&](int first, int size) {
+        const QRect rect =
+            is_wide ? QRect(first, 0, size, bar.rect.height()) : QRect(0, first, bar.rect.width(), size);
+        return QStyle::visualRect(bar.direction, bar.rect, rect);
+    };
+    switch (part) {
+        case QStyle::SC_ScrollBarSlider:
+            return along(start, slider);
+        case QStyle::SC_ScrollBarSubPage:
+            return along(0, start);
+        case QStyle::SC_ScrollBarAddPage:
+            return along(start + slider, length - start - slider);
+        case QStyle::SC_ScrollBarGroove:
+            return bar.rect;
+        default:
+            return {};
+    }
+}
+
+/// The arrows of a spin box stand one over the other at its right end.
+QRect SpinBoxPart(const QRect& box, QStyle::SubControl part, double scale) {
+    constexpr double kArrowWidth = 16;
+    const int width = qRound(kArrowWidth * scale);
+    const int half = box.height() / 2;
+    switch (part) {
+        case QStyle::SC_SpinBoxUp:
+            return {box.width() - width, 0, width, half};
+        case QStyle::SC_SpinBoxDown:
+            return {box.width() - width, half, width, box.height() - half};
+        case QStyle::SC_SpinBoxEditField:
+            return box.adjusted(1, 1, -width, -1);
+        default:
+            return box;
+    }
+}
+
+/// The arrow of a combo stands at its right end.
+QRect ComboPart(const QRect& box, QStyle::SubControl part, double scale) {
+    constexpr double kArrowWidth = 20;
+    constexpr double kMargin = 4;
+    const int width = qRound(kArrowWidth * scale);
+    switch (part) {
+        case QStyle::SC_ComboBoxArrow:
+            return {box.width() - width, 0, width, box.height()};
+        case QStyle::SC_ComboBoxEditField:
+            return box.adjusted(qRound(kMargin * scale), 1, -width, -1);
+        default:
+            return box;
+    }
+}
+
+}  // namespace
+
+QRect Look::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                           const QWidget* widget) const {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && bar)
+        return ScrollBarPart(*bar, part, proxy()->pixelMetric(PM_ScrollBarSliderMin, option, widget));
+    if (control == CC_SpinBox)
+        return SpinBoxPart(option->rect, part, ScaleOf(widget));
+    if (control == CC_ComboBox)
+        return ComboPart(option->rect, part, ScaleOf(widget));
+    return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QIcon Look::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    switch (icon) {
+        case SP_MessageBoxInformation:
+            return MessageSign(QStringLiteral("i"));
+        case SP_MessageBoxQuestion:
+            return MessageSign(QStringLiteral("?"));
+        default:
+            return QProxyStyle::standardIcon(icon, option, widget);
+    }
+}
+
 void SetUpApplication(QApplication& application) {
-    application.setStyle(new Look);
-    QApplication::setPalette(QApplication::style()->standardPalette());
+    // The application owns its style, which the linter cannot see.
+    QApplication::setStyle(new Look);
+    QApplication::setPalette(QApplication::style()->standardPalette());  // NOLINT(clang-analyzer-cplusplus*)
     QApplication::setFont(InterfaceFont(1));
-    auto* translator = new QTranslator(&application);
-    if (translator->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(translator);
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        return;
+    QCoreApplication::installTranslator(translator.get());
+    translator.release()->setParent(&application);
 }
 
 }  // namespace tavrelo::qt

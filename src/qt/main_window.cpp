@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QScreen>
 #include <QShortcut>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
 #include <functional>
 
+#include "qt/fonts.h"
 #include "qt/zoom.h"
 
 namespace tavrelo::qt {
@@ -49,10 +51,11 @@ void MainWindow::MakeWidgets() {
     const auto is_in_view = [](const shell::Control* control) {
         return control->IsShown() && control->Bounds().left + control->Bounds().width > 0;
     };
-    const auto shown = std::ranges::partition(m_unmade, std::not_fn(is_in_view));
+    const auto first_shown = std::stable_partition(m_unmade.begin(), m_unmade.end(), std::not_fn(is_in_view));
+    const std::vector<shell::Control*> shown(first_shown, m_unmade.end());
     if (shown.empty())
         return;
-    for (shell::Control* control : std::vector(shown.begin(), shown.end()))
+    for (shell::Control* control : shown)
         BindingOf(*control);
     OrderTabs();
 }
@@ -187,6 +190,7 @@ void MainWindow::ApplyZoom(double zoom) {
     if (is_same_size && m_main.Page().size() == m_main.SizeAt(zoom))
         return;
     m_context.zoom = zoom;
+    QToolTip::setFont(InterfaceFont(zoom));
     m_main.ShowZoom(zoom);
     m_dialog.ShowZoom(zoom);
     m_dialog.setFixedSize(m_dialog.SizeAt(zoom));

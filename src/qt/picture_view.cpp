@@ -80,6 +80,7 @@ void PictureView::mouseReleaseEvent(QMouseEvent* event) {
 
 void PictureView::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu(this);
+    menu.setFont(font());
     menu.addAction(QStringLiteral("Copiar imagen"), this, &PictureView::CopyImage);
     menu.addAction(QStringLiteral("Guardar imagen..."), this, &PictureView::SaveImage);
     menu.exec(event->globalPos());

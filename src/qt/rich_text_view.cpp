@@ -104,6 +104,7 @@ QMimeData* RichTextView::createMimeDataFromSelection() const {
 
 void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
     QMenu menu(this);
+    menu.setFont(font());
     QAction* copy = menu.addAction(QStringLiteral("Copiar"), QKeySequence::Copy, this, &QTextEdit::copy);
     copy->setEnabled(textCursor().hasSelection());
     QAction* select_all = menu.addAction(QStringLiteral("Seleccionar todo"), QKeySequence::SelectAll, this,

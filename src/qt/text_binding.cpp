@@ -19,6 +19,9 @@ class TextBinding : public Binding {
   protected:
     void ShowState() override {
         Binding::ShowState();
+        constexpr int kMargin = 2;
+        const int margin = Context().Scaled(kMargin);
+        m_widget.setTextMargins(margin, 0, margin, 0);
         m_widget.setReadOnly(m_box.Locked());
     }
 

@@ -1,5 +1,8 @@
 #include "qt/text_field.h"
 
+#include <QContextMenuEvent>
+#include <QMenu>
+
 #include "qt/keys.h"
 
 namespace tavrelo::qt {
@@ -33,6 +36,13 @@ void TextField::inputMethodEvent(QInputMethodEvent* event) {
         QLineEdit::inputMethodEvent(&commit);
     }
     event->accept();
+}
+
+void TextField::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setFont(font());
+    menu->popup(event->globalPos());
 }
 
 }  // namespace tavrelo::qt

@@ -80,8 +80,26 @@ class PrintingTest : public QObject {
   private slots:
     void LongTextsFillSeveralPages();
     void ShortTextsFillOne();
+};
+
+class ClosingTest : public QObject {
+    Q_OBJECT
+  private slots:
     void ClosingTheWindowEndsTheProgram();
     void TheDialogCloses();
+};
+
+class LayoutTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void CaptionsFit_data();
+    void CaptionsFit();
+    void TabsFit_data();
+    void TabsFit();
+    void MotionTableNeedsNoScrollBars_data();
+    void MotionTableNeedsNoScrollBars();
+    void HelpLiesOverEverything();
+    void EveryControlHasAnAccessibleName();
 };
 
 }  // namespace tavrelo::window_test

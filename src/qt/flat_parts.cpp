@@ -1,0 +1,113 @@
+#include "qt/flat_parts.h"
+
+#include <QPainter>
+#include <QPixmap>
+#include <algorithm>
+
+#include "qt/fonts.h"
+
+namespace tavrelo::qt {
+namespace {
+
+constexpr double kCornerRadius = 3;
+
+/// Half a pixel in, so that a line of one pixel is sharp.
+QRectF Inside(const QRect& rect) { return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5); }
+
+}  // namespace
+
+QColor FaceColor(const QStyleOption& option) {
+    if (!(option.state & QStyle::State_Enabled))
+        return QColor::fromRgb(kDisabledFace);
+    if (option.state & (QStyle::State_Sunken | QStyle::State_On))
+        return QColor::fromRgb(kPressedFace);
+    if (option.state & QStyle::State_MouseOver)
+        return QColor::fromRgb(kHoverFace);
+    return option.palette.color(QPalette::Button);
+}
+
+QColor EdgeColor(const QStyleOption& option) {
+    if (!(option.state & QStyle::State_Enabled))
+        return QColor::fromRgb(kSoftEdge);
+    return QColor::fromRgb(option.state & QStyle::State_HasFocus ? kAccent : kEdge);
+}
+
+void DrawRounded(const QStyleOption& option, QPainter& painter, const QColor& face, double scale) {
+    const double radius = kCornerRadius * scale;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(EdgeColor(option));
+    painter.setBrush(face);
+    painter.drawRoundedRect(Inside(option.rect), radius, radius);
+    painter.restore();
+}
+
+void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale) {
+    const bool is_front = tab.state & QStyle::State_Selected;
+    const bool is_hovered = tab.state & QStyle::State_MouseOver;
+    painter.save();
+    painter.setPen(QColor::fromRgb(kSoftEdge));
+    painter.setBrush(QColor::fromRgb(is_front ? kPage : is_hovered ? kHoverFace : kHeading));
+    // The front tab runs into the page below it.
+    painter.drawRect(
+        tab.rect.adjusted(0, is_front ? 0 : qRound(2 * scale), is_front ? -1 : 0, is_front ? 1 : -1));
+    if (is_front) {
+        const int height = qRound(2 * scale);
+        painter.fillRect(tab.rect.left(), tab.rect.top(), tab.rect.width(), height,
+                         tab.palette.color(QPalette::WindowText));
+    }
+    painter.restore();
+}
+
+void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter& painter) {
+    constexpr double kInset = 3;
+    const bool is_held = bar.state & (QStyle::State_Sunken | QStyle::State_MouseOver);
+    painter.save();
+    painter.fillRect(bar.rect, QColor::fromRgb(kHeading));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(is_held ? kHeldSlider : kEdge));
+    const bool is_wide = bar.orientation == Qt::Horizontal;
+    const double inset = kInset * (is_wide ? bar.rect.height() : bar.rect.width()) / kScrollBarExtent;
+    const QRectF handle = QRectF(slider).adjusted(inset, inset, -inset, -inset);
+    const double radius = std::min(handle.width(), handle.height()) / 2;
+    painter.drawRoundedRect(handle, radius, radius);
+    painter.restore();
+}
+
+void DrawArrow(const QStyleOption& option, const QRect& rect, Qt::ArrowType direction, QPainter& painter,
+               double scale) {
+    constexpr double kHalfWidth = 3.5;
+    constexpr double kHalfHeight = 2;
+    const double y = direction == Qt::UpArrow ? -kHalfHeight : kHalfHeight;
+    const QPointF corners[] = {
+        {-kHalfWidth * scale, -y * scale}, {kHalfWidth * scale, -y * scale}, {0, y * scale}};
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(QRectF(rect).center());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(option.palette.color(
+        option.state & QStyle::State_Enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+    painter.drawPolygon(corners, static_cast<int>(std::size(corners)));
+    painter.restore();
+}
+
+QPixmap MessageSign(const QString& letter) {
+    constexpr int kSize = 192;
+    constexpr int kEdgeWidth = 8;
+    QPixmap sign(kSize, kSize);
+    sign.fill(Qt::transparent);
+    QPainter painter(&sign);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(kAccent));
+    painter.drawEllipse(sign.rect().adjusted(kEdgeWidth, kEdgeWidth, -kEdgeWidth, -kEdgeWidth));
+    QFont font = InterfaceFont(kSize * 0.7 / kInterfacePixels);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(sign.rect(), Qt::AlignCenter, letter);
+    return sign;
+}
+
+}  // namespace tavrelo::qt

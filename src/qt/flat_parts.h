@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QColor>
+#include <QStyleOption>
+
+class QPainter;
+
+namespace tavrelo::qt {
+
+// The colours and the flat parts of which all widgets are drawn. `scale` is that of the widget; 1 is 100 %.
+
+inline constexpr QRgb kWindow = 0xffeef2f6;
+inline constexpr QRgb kPage = 0xfff9fbfc;
+inline constexpr QRgb kFace = 0xfffdfdfe;
+inline constexpr QRgb kHoverFace = 0xffe3eefb;
+inline constexpr QRgb kPressedFace = 0xffc9def5;
+inline constexpr QRgb kDisabledFace = 0xfff0f2f4;
+inline constexpr QRgb kEdge = 0xffa9b4c0;
+inline constexpr QRgb kSoftEdge = 0xffc9d1da;
+inline constexpr QRgb kHeading = 0xffe6ebf1;
+inline constexpr QRgb kAccent = 0xff1d6fc4;
+inline constexpr QRgb kChoice = 0xffbcd9f7;
+inline constexpr QRgb kFadedChoice = 0xffdbe6f0;
+inline constexpr QRgb kHeldSlider = 0xff7c8a99;
+inline constexpr QRgb kDisabledText = 0xff8a939d;
+
+inline constexpr double kScrollBarExtent = 13;  // pixels at 100 %
+
+/// The face of something to press: by itself, below the pointer, held down, disabled.
+QColor FaceColor(const QStyleOption& option);
+/// The edge of a box: by itself, with the focus, disabled.
+QColor EdgeColor(const QStyleOption& option);
+
+/// A box with round corners in the option's rectangle.
+void DrawRounded(const QStyleOption& option, QPainter& painter, const QColor& face, double scale);
+/// A small triangle in the middle of a rectangle.
+void DrawArrow(const QStyleOption& option, const QRect& rect, Qt::ArrowType direction, QPainter& painter,
+               double scale);
+void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale);
+/// A bar without buttons at its ends.
+void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter& painter);
+/// The sign of a message box: a letter on a disc, drawn so large that it can be shrunk to any size.
+QPixmap MessageSign(const QString& letter);
+
+}  // namespace tavrelo::qt

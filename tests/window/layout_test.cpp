@@ -1,0 +1,110 @@
+#include <QAbstractButton>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTableView>
+
+#include "test_window.h"
+#include "tests.h"
+
+namespace tavrelo::window_test {
+namespace {
+
+void AddZooms() {
+    QTest::addColumn<double>("zoom");
+    for (const double zoom : {0.5, 1.0, 1.5, 2.0, 4.0})
+        QTest::addRow("%g", zoom) << zoom;
+}
+
+/// The text that a widget shows in one line, and how many pixels at 100 % it needs beside it.
+struct Caption {
+    QString text;
+    double margins = 0;
+};
+
+Caption CaptionOf(const QWidget& widget, const shell::Control& control) {
+    constexpr double kButtonMargins = 6;
+    constexpr double kIndicator = 14 + 5;
+    if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        return {label->text()};
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return {qt::FromCaption(button->text()),
+                control.Kind() == shell::ControlKind::Button ? kButtonMargins : kIndicator};
+    return {};
+}
+
+}  // namespace
+
+void LayoutTest::CaptionsFit_data() { AddZooms(); }
+
+void LayoutTest::CaptionsFit() {
+    QFETCH(double, zoom);
+    TestWindow window;
+    window.view.SetZoom(zoom);
+    for (shell::Control* control : window.Form().Controls()) {
+        const QWidget& widget = window.view.WidgetOf(*control);
+        const Caption caption = CaptionOf(widget, *control);
+        const double needed = widget.fontMetrics().horizontalAdvance(caption.text) + caption.margins * zoom;
+        QVERIFY2(caption.text.isEmpty() || needed <= widget.width() + 1, control->Name().c_str());
+    }
+}
+
+void LayoutTest::TabsFit_data() { AddZooms(); }
+
+void LayoutTest::TabsFit() {
+    QFETCH(double, zoom);
+    TestWindow window;
+    window.view.SetZoom(zoom);
+    for (const char* name : {"tabCalc", "tabStat", "tabMrua"}) {
+        const QWidget& strip = window.Widget(name);
+        const auto* tabs = strip.findChild<QTabBar*>();
+        QCOMPARE(tabs->count(), 3);
+        QVERIFY2(tabs->tabRect(2).right() < strip.width(), name);
+        for (int tab = 0; tab < 3; ++tab)
+            QVERIFY(tabs->fontMetrics().horizontalAdvance(tabs->tabText(tab)) < tabs->tabRect(tab).width());
+    }
+}
+
+void LayoutTest::MotionTableNeedsNoScrollBars_data() { AddZooms(); }
+
+void LayoutTest::MotionTableNeedsNoScrollBars() {
+    QFETCH(double, zoom);
+    TestWindow window;
+    window.view.SetZoom(zoom);
+    for (const int tool : {4, 5}) {
+        window.PressTool(tool);
+        QCoreApplication::processEvents();
+        const auto& table = window.As<QTableView>("Gd2");
+        QVERIFY(!table.verticalScrollBar()->isVisible());
+        QVERIFY(!table.horizontalScrollBar()->isVisible());
+    }
+}
+
+void LayoutTest::HelpLiesOverEverything() {
+    TestWindow window;
+    window.PressTool(8);
+    window.PressTool(4);
+    QWidget& page = *window.Widget("pic").parentWidget();
+    for (const QPoint place : {QPoint(200, 8), QPoint(200, 380)})
+        QVERIFY(window.Widget("fraHelp").isAncestorOf(page.childAt(place)) ||
+                page.childAt(place) == &window.Widget("fraHelp"));
+    // The yellow strip of the motion tools stands on the foot of the table's panel.
+    window.PressTool(1);
+    window.PressTool(5);
+    QVERIFY(page.childAt(100, 560) == &window.Widget("picArgs1") ||
+            page.childAt(100, 560) == &window.Widget("picArgs2"));
+}
+
+void LayoutTest::EveryControlHasAnAccessibleName() {
+    TestWindow window;
+    for (shell::Control* control : window.Form().Controls()) {
+        const bool takes_focus = window.view.WidgetOf(*control).focusPolicy() != Qt::NoFocus;
+        const bool is_picture = control->Kind() == shell::ControlKind::Picture;
+        const bool is_ever_shown = control->Name() != "rtbHold" && control->Name() != "picRuts" &&
+                                   !control->Name().starts_with("cboUnits");
+        if (is_ever_shown && (takes_focus || is_picture))
+            QVERIFY2(!window.view.WidgetOf(*control).accessibleName().isEmpty(), control->Name().c_str());
+    }
+}
+
+}  // namespace tavrelo::window_test
