@@ -56,11 +56,14 @@ std::unique_ptr<Control> NewControl(Control::Identity identity, const ChangeList
     return std::make_unique<Shape>(std::move(identity), listener);
 }
 
+/// A box with a caret starts with its caption as its text.
 void ApplyFlags(Control& control, int flags) {
     control.SetVisible(!(flags & kHidden));
     control.SetEnabled(!(flags & kDisabled));
-    if (auto* text = dynamic_cast<TextControl*>(&control))
+    if (auto* text = dynamic_cast<TextControl*>(&control)) {
+        text->SetText(control.Caption());
         text->SetLocked(flags & kLocked);
+    }
     if (auto* list = dynamic_cast<ListBox*>(&control))
         list->multiple = flags & kMultiple;
     if (auto* picture = dynamic_cast<Picture*>(&control)) {

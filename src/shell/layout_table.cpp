@@ -139,7 +139,7 @@ constexpr ControlRow kControls[] = {
     {"optDCL(3)", K::OptionButton, "tabStat", {186, 52, 56, 22}, "4", kDisabled, 1},
     {"optDCL(4)", K::OptionButton, "tabStat", {246, 52, 56, 22}, "5", kDisabled, 1},
     {"lblBody(0)", K::Label, "tabStat", {6, 86, 52, 18}, "Cuerpo:", 0, 1},
-    {"txtBody(0)", K::TextBox, "tabStat", {60, 83, 40, 24}, "", 0, 1},
+    {"txtBody(0)", K::TextBox, "tabStat", {60, 83, 40, 24}, "1", 0, 1},
     {"lblBody(1)", K::Label, "tabStat", {116, 86, 52, 18}, "Puntos:", 0, 1},
     {"txtBody(1)", K::TextBox, "tabStat", {170, 83, 120, 24}, "", 0, 1},
     {"lblForceAt(0)", K::Label, "tabStat", {6, 114, 240, 18}, "Fuerza[:][/Par] en ", 0, 1},
