@@ -41,10 +41,17 @@ void AddButtons(QMessageBox& box, shell::Buttons buttons) {
     }
 }
 
+/// The answer of a box that ended with a button, or by other means, which count as Escape.
 shell::Answer AnswerOf(shell::Buttons buttons, int button) {
-    const auto* row = std::ranges::find_if(
-        kBoxButtons, [&](const BoxButton& other) { return other.box == buttons && other.button == button; });
-    return row->answer;
+    shell::Answer answer = shell::Answer::Ok;
+    for (const BoxButton& row : kBoxButtons) {
+        if (row.box != buttons)
+            continue;
+        answer = row.answer;
+        if (row.button == button)
+            break;
+    }
+    return answer;
 }
 
 constexpr int kInputCharacters = 60;  // an input box is at least as wide

@@ -20,6 +20,8 @@ FormWindow::FormWindow(shell::Window& model, QWidget* parent, Qt::WindowFlags fl
 void FormWindow::ShowState(int pointer) {
     setWindowTitle(ToQString(m_model.Caption()));
     setCursor(ToCursor(pointer));
+    if (m_model.Visible() && isHidden() && parentWidget())
+        move(parentWidget()->geometry().center() - rect().center());
     setVisible(m_model.Visible());
 }
 

@@ -58,6 +58,13 @@ void BoxesTest::EscapeRefuses() {
     QVERIFY(qt::WindowBoxes().ShowMessage("", "", shell::Buttons::Ok) == shell::Answer::Ok);
 }
 
+void BoxesTest::ClosingRefuses() {
+    WhenOpen<QMessageBox>([](QMessageBox& box) { box.close(); });
+    QVERIFY(qt::WindowBoxes().ShowMessage("", "", shell::Buttons::YesNo) == shell::Answer::No);
+    WhenOpen<QMessageBox>([](QMessageBox& box) { box.done(-1); });
+    QVERIFY(qt::WindowBoxes().ShowMessage("", "", shell::Buttons::OkCancel) == shell::Answer::Cancel);
+}
+
 void BoxesTest::TextIsPlain() {
     WhenOpen<QMessageBox>([](QMessageBox& box) {
         QCOMPARE(box.textFormat(), Qt::PlainText);

@@ -60,6 +60,7 @@ class BoxesTest : public QObject {
     void ButtonsAreSpanish_data();
     void ButtonsAreSpanish();
     void EscapeRefuses();
+    void ClosingRefuses();
     void TextIsPlain();
     void InputBoxAnswers();
 };
@@ -86,7 +87,7 @@ class ClosingTest : public QObject {
     Q_OBJECT
   private slots:
     void ClosingTheWindowEndsTheProgram();
-    void TheDialogCloses();
+    void TheDialogOpensInTheMiddleAndCloses();
 };
 
 class LayoutTest : public QObject {

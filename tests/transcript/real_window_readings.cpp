@@ -1,0 +1,179 @@
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QSpinBox>
+#include <QTabBar>
+#include <algorithm>
+
+#include "model_driver.h"
+#include "qt/pointers.h"
+#include "qt/rich_document.h"
+#include "qt/rich_text_view.h"
+#include "qt/text.h"
+#include "real_window.h"
+
+// What is seen of a real window.
+
+namespace tavrelo::transcript {
+
+using qt::ToUtf8;
+
+bool RealWindow::IsVisible(const shell::Control& control) {
+    if (!control.Parent())
+        return Find(control).isVisible();
+    // Behind another page the widget is hidden, whatever the control itself says.
+    const auto* strip = dynamic_cast<const shell::TabStrip*>(control.Parent());
+    const bool is_behind =
+        strip && control.Page() != shell::Control::kAllPages && control.Page() != strip->Current();
+    const QWidget& widget = Find(control);
+    const bool is_visible = is_behind ? control.Visible() : widget.isVisibleTo(widget.parentWidget());
+    return is_visible && IsVisible(*control.Parent());
+}
+
+Appearance RealWindow::Look(const shell::Control& control) {
+    Appearance look = LookOf(control);
+    const QWidget& widget = Find(control);
+    look.visible = IsVisible(control);
+    look.enabled = widget.isEnabledTo(widget.parentWidget());
+    look.underlined = widget.font().underline();
+    look.tooltip = ToUtf8(widget.toolTip());
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        look.caption = ToUtf8(qt::FromCaption(button->text()));
+    else if (const auto* label = qobject_cast<const QLabel*>(&widget))
+        look.caption = ToUtf8(label->text());
+    else if (widget.isWindow())
+        look.caption = ToUtf8(widget.windowTitle());
+    return look;
+}
+
+std::string RealWindow::Text(const shell::TextBox& box) { return ToUtf8(FindAs<QLineEdit>(box).text()); }
+
+std::vector<shell::Run> RealWindow::Runs(const shell::RichTextBox& box) {
+    if (const auto* view = dynamic_cast<const qt::RichTextView*>(&Find(box)))
+        return qt::ReadRuns(*view->document()).Runs();
+    // A line that can be typed into has one look, that of the model.
+    std::vector<shell::Run> runs = box.Content().Runs();
+    runs.resize(1);
+    runs.front().text = ToUtf8(FindAs<QLineEdit>(box).text());
+    return runs;
+}
+
+shell::TextSelection RealWindow::Selection(const shell::TextControl& box) {
+    if (const auto* view = dynamic_cast<const qt::RichTextView*>(&Find(box)))
+        return view->Selected();
+    const auto& field = FindAs<QLineEdit>(box);
+    const QString text = field.text();
+    const int start = field.hasSelectedText() ? field.selectionStart() : field.cursorPosition();
+    const int end = field.hasSelectedText() ? field.selectionEnd() : start;
+    const std::size_t first = qt::CharactersBefore(text, start);
+    return {first, qt::CharactersBefore(text, end) - first};
+}
+
+std::vector<std::vector<std::string>> RealWindow::Cells(const shell::Grid& grid) {
+    const auto& view = FindAs<qt::GridView>(grid);
+    const QAbstractItemModel& table = *view.model();
+    std::vector<std::vector<std::string>> cells;
+    const auto text = [](const QVariant& shown) { return ToUtf8(shown.toString()); };
+    for (int row = -grid.FixedRows(); row < table.rowCount(); ++row) {
+        std::vector<std::string> line;
+        for (int col = -grid.FixedCols(); col < table.columnCount(); ++col) {
+            if (row < 0 && col < 0)
+                line.push_back(ToUtf8(view.findChild<QLabel*>()->text()));
+            else if (row < 0)
+                line.push_back(text(table.headerData(col, Qt::Horizontal)));
+            else if (col < 0)
+                line.push_back(text(table.headerData(row, Qt::Vertical)));
+            else
+                line.push_back(text(table.index(row, col).data()));
+        }
+        cells.push_back(std::move(line));
+    }
+    return cells;
+}
+
+shell::CellBlock RealWindow::Selection(const shell::Grid& grid) {
+    const QItemSelection chosen = FindAs<qt::GridView>(grid).selectionModel()->selection();
+    if (chosen.isEmpty())
+        return {-1, -1, -1, -1};
+    const QItemSelectionRange& block = chosen.front();
+    return {block.top() + grid.FixedRows(), block.left() + grid.FixedCols(),
+            block.bottom() + grid.FixedRows(), block.right() + grid.FixedCols()};
+}
+
+std::vector<ListRow> RealWindow::Rows(const shell::ComboBox& combo) {
+    const auto& widget = FindAs<QComboBox>(combo);
+    std::vector<ListRow> rows;
+    for (int row = 0; row < widget.count(); ++row)
+        rows.push_back({ToUtf8(widget.itemText(row)), row == widget.currentIndex()});
+    return rows;
+}
+
+std::vector<ListRow> RealWindow::Rows(const shell::ListBox& list) {
+    const auto& widget = FindAs<QListWidget>(list);
+    std::vector<ListRow> rows;
+    for (int row = 0; row < widget.count(); ++row)
+        rows.push_back({ToUtf8(widget.item(row)->text()), widget.item(row)->isSelected()});
+    return rows;
+}
+
+bool RealWindow::IsChecked(const shell::OptionButton& option) {
+    return FindAs<QAbstractButton>(option).isChecked();
+}
+
+bool RealWindow::IsChecked(const shell::CheckBox& check) {
+    return FindAs<QAbstractButton>(check).isChecked();
+}
+
+int RealWindow::FrontTab(const shell::TabStrip& tabs) {
+    return Find(tabs).findChild<QTabBar*>()->currentIndex();
+}
+
+int RealWindow::Value(const shell::UpDown& control) {
+    if (const auto* box = qobject_cast<QSpinBox*>(&Find(control)))
+        return box->value();
+    return FindAs<QLineEdit>(*control.buddy).text().toInt();
+}
+
+std::vector<shell::DrawOp> RealWindow::Drawing(const shell::Picture& picture) {
+    return picture.Canvas().Operations();
+}
+
+std::vector<std::string> RealWindow::DrawnTexts(const shell::Picture& picture) {
+    return picture.Canvas().VisibleTexts();
+}
+
+const shell::Control* RealWindow::Focus() { return m_window.FocusedControl(); }
+
+int RealWindow::Pointer() {
+    constexpr int kShapes[] = {shell::kPointerCross, shell::kPointerMove, shell::kPointerArrowHourglass,
+                               shell::kPointerUpArrow, shell::kPointerBusy};
+    const auto shape_of = [&kShapes](const QWidget& widget) {
+        const auto* shape = std::ranges::find(kShapes, widget.cursor().shape(),
+                                              [](int number) { return qt::ToCursor(number).shape(); });
+        return shape == std::end(kShapes) ? static_cast<int>(shell::kPointerDefault) : *shape;
+    };
+    if (const int shape = shape_of(m_window.Frame()); shape != shell::kPointerDefault)
+        return shape;
+    for (const shell::Control* control : m_program.Window().Controls()) {
+        if (control->Kind() != shell::ControlKind::Picture || !Find(*control).isVisible())
+            continue;
+        if (const int shape = shape_of(Find(*control)); shape != shell::kPointerDefault)
+            return shape;
+    }
+    return shell::kPointerDefault;
+}
+
+ClipboardContent RealWindow::OnClipboard() {
+    const QImage image = QApplication::clipboard()->image();
+    if (image.isNull())
+        return {ToUtf8(QApplication::clipboard()->text()), 0, 0};
+    const QSizeF size = QSizeF(image.size()) / qt::kExportScale;
+    return {{}, qRound(size.width()), qRound(size.height())};
+}
+
+}  // namespace tavrelo::transcript
