@@ -254,6 +254,4 @@ std::string EscapeMarks(std::string_view text) {
     return numeric::ToUtf8(escaped);
 }
 
-std::string EscapeSlashes(std::string_view text) { return numeric::ReplaceAll(text, "/", "//"); }
-
 }  // namespace tavrelo::shell

@@ -27,8 +27,6 @@ RichText RenderMarkup(std::string_view font_name, double font_size, std::string_
 /// Escapes the marks of a text typed by the user, so that a report shows it as typed. The end mark has no
 /// escape.
 std::string EscapeMarks(std::string_view text);
-/// Doubles "/" alone: an equation line for pictures becomes one for rich boxes.
-std::string EscapeSlashes(std::string_view text);
 
 /// Renders a markup text for pictures into one list of runs, placed relative to the pen; the marks are ; ! ¡
 /// $ _ #, without escapes. `size` is the size in force, `advance` receives the width in pixels.
