@@ -4,9 +4,9 @@
 #include <cmath>
 #include <span>
 
-#include "calc/label_placer.h"
 #include "numeric/angles.h"
 #include "vectors/clock_direction.h"
+#include "vectors/label_placer.h"
 
 namespace tavrelo::calc {
 namespace {
@@ -85,7 +85,7 @@ class ArrowDrawing {
 
     DrawEng& m_engine;
     shell::Surface& m_surface;
-    LabelPlacer m_labels;
+    vectors::LabelPlacer m_labels;
     std::vector<Pending> m_pending;
 };
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "calc/label_placer.h"
 #include "numeric/angles.h"
+#include "vectors/label_placer.h"
 
 namespace tavrelo::calc {
 namespace {
@@ -61,7 +61,7 @@ void DrawFigure(Task& task, const Figure& figure) {
     if (count == 0)
         return;
     const auto color = [&](std::size_t side) { return figure.colors[side % figure.colors.size()]; };
-    LabelPlacer labels(surface);
+    vectors::LabelPlacer labels(surface);
     surface.Cls();
     task.engine.Begin();
     surface.DrawWidth = kLineWidth;

@@ -1,11 +1,11 @@
-#include "calc/label_placer.h"
+#include "vectors/label_placer.h"
 
 #include <gtest/gtest.h>
 
 #include "shell/markup.h"
 #include "vectors/draw_engine.h"
 
-namespace tavrelo::calc {
+namespace tavrelo::vectors {
 namespace {
 
 constexpr double kWidth = 400;
@@ -23,8 +23,8 @@ std::vector<Area> LabelAreas(const shell::Recorder& picture) {
     for (const shell::DrawOp& operation : picture.Operations())
         if (const auto* text = std::get_if<shell::TextOp>(&operation))
             areas.push_back({text->x, text->y,
-                             text->x + shell::MarkupWidth(text->PlainText(), vectors::LabelFont()),
-                             text->y + shell::TextHeight(vectors::LabelFont())});
+                             text->x + shell::MarkupWidth(text->PlainText(), LabelFont()),
+                             text->y + shell::TextHeight(LabelFont())});
     return areas;
 }
 
@@ -61,4 +61,4 @@ TEST(LabelPlacer, StaysInsideThePicture) {
 }
 
 }  // namespace
-}  // namespace tavrelo::calc
+}  // namespace tavrelo::vectors
