@@ -40,6 +40,10 @@ Point Turned(Point vector, double degrees) {
 
 /// Clips the line against the four sides of the area.
 bool LabelPlacer::Crosses(const Segment& line, const Area& area) {
+    // Most lines lie far away.
+    if (std::max(line.from.x, line.to.x) < area.left || std::min(line.from.x, line.to.x) > area.right ||
+        std::max(line.from.y, line.to.y) < area.top || std::min(line.from.y, line.to.y) > area.bottom)
+        return false;
     double first = 0;
     double last = 1;
     const auto clip = [&](double start, double step, double low, double high) {
@@ -56,7 +60,12 @@ bool LabelPlacer::Crosses(const Segment& line, const Area& area) {
 }
 
 bool LabelPlacer::IsNear(const Segment& line, Point place) {
-    return Crosses(line, {place.x - kNear, place.y - kNear, place.x + kNear, place.y + kNear});
+    const Point along = Minus(line.to, line.from);
+    const Point start = Minus(place, line.from);
+    const double square = along.x * along.x + along.y * along.y;
+    const double part = square == 0 ? 0 : (start.x * along.x + start.y * along.y) / square;
+    const double nearest = std::clamp(part, 0.0, 1.0);
+    return Length({start.x - nearest * along.x, start.y - nearest * along.y}) <= kNear;
 }
 
 bool LabelPlacer::IsClear(const Area& area) const {
@@ -95,8 +104,7 @@ Point LabelPlacer::FreeSide(Point place) const {
     double widest = 0;
     for (std::size_t i = 0; i < directions.size(); ++i) {
         const bool is_last = i + 1 == directions.size();
-        const double angle =
-            (is_last ? directions.front() + kFullTurn : directions[i + 1]) - directions[i];
+        const double angle = (is_last ? directions.front() + kFullTurn : directions[i + 1]) - directions[i];
         const double middle = directions[i] + angle / 2;
         const Point candidate{numeric::CosD(middle), -numeric::SinD(middle)};
         const bool is_wider = angle > widest + kSameAngle;

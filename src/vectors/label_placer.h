@@ -12,8 +12,7 @@ namespace tavrelo::vectors {
 class LabelPlacer {
   public:
     /// `margin`: pixels kept free around each label.
-    explicit LabelPlacer(shell::Surface& surface, double margin = 0)
-        : m_surface(surface), m_margin(margin) {}
+    explicit LabelPlacer(shell::Surface& surface, double margin = 0) : m_surface(surface), m_margin(margin) {}
 
     void AddLine(shell::Point from, shell::Point to) { m_lines.push_back({from, to}); }
     /// A line that labels cross where there is no other place for them.

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <vector>
+
 #include "shell/markup.h"
 #include "vectors/draw_engine.h"
 
@@ -22,8 +25,7 @@ std::vector<Area> LabelAreas(const shell::Recorder& picture) {
     std::vector<Area> areas;
     for (const shell::DrawOp& operation : picture.Operations())
         if (const auto* text = std::get_if<shell::TextOp>(&operation))
-            areas.push_back({text->x, text->y,
-                             text->x + shell::MarkupWidth(text->PlainText(), LabelFont()),
+            areas.push_back({text->x, text->y, text->x + shell::MarkupWidth(text->PlainText(), LabelFont()),
                              text->y + shell::TextHeight(LabelFont())});
     return areas;
 }
@@ -58,6 +60,73 @@ TEST(LabelPlacer, StaysInsideThePicture) {
     ASSERT_EQ(areas.size(), 1U);
     EXPECT_GE(areas[0].top, 0);
     EXPECT_LE(areas[0].right, kWidth);
+}
+
+TEST(LabelPlacer, KeepsItsMarginAndRadius) {
+    constexpr double kMargin = 3;
+    constexpr double kRadius = 20;
+    shell::Recorder picture(kWidth, kHeight);
+    LabelPlacer labels(picture, kMargin);
+    labels.AddLine({200 + kRadius, 0}, {200 + kRadius, kHeight});
+    labels.Place("A", {200, 150}, {1, 0}, shell::kBlack);
+    labels.Place("B", {200, 150}, {0, 1}, shell::kBlack, kRadius);
+    const auto areas = LabelAreas(picture);
+    ASSERT_EQ(areas.size(), 2U);
+    EXPECT_LE(areas[0].right, 200 + kRadius - kMargin);
+    EXPECT_GE(areas[1].top, 150 + kRadius);
+}
+
+/// A label beside a faint line stays off it while it can, and stands on it in a narrow lane.
+TEST(LabelPlacer, CrossesFaintLinesOnlyWhereItMust) {
+    for (const bool is_narrow : {false, true}) {
+        shell::Recorder picture(kWidth, kHeight);
+        LabelPlacer labels(picture);
+        labels.AddFaintLine({0, 150}, {kWidth, 150});
+        if (is_narrow)
+            for (const double y : {140.0, 160.0})
+                for (double row = 0; row < 60; row += 5)
+                    labels.AddLine({0, y < 150 ? y - row : y + row}, {kWidth, y < 150 ? y - row : y + row});
+        labels.Place("A", {200, 150}, {1, 0}, shell::kBlack);
+        const auto areas = LabelAreas(picture);
+        ASSERT_EQ(areas.size(), 1U);
+        EXPECT_EQ(areas[0].top < 150 && areas[0].bottom > 150, is_narrow);
+        EXPECT_TRUE(!is_narrow || (areas[0].top > 140 && areas[0].bottom < 160));
+    }
+}
+
+/// A level line through the place and one upward from it; one that passes far away does not count.
+TEST(LabelPlacer, DirectionsOfTheLinesAtAPlace) {
+    shell::Recorder picture(kWidth, kHeight);
+    LabelPlacer labels(picture);
+    labels.AddLine({100, 150}, {300, 150});
+    labels.AddLine({200, 150}, {200, 50});
+    labels.AddLine({0, 200}, {kWidth, 200});
+    EXPECT_EQ(labels.DirectionsFrom({200, 150}), (std::vector<double>{0, 90, 180}));
+    EXPECT_EQ(labels.DirectionsFrom({100, 150}), (std::vector<double>{0}));
+    EXPECT_TRUE(labels.DirectionsFrom({50, 100}).empty());
+}
+
+TEST(LabelPlacer, TheFreeSideLiesInTheWidestAngle) {
+    struct Row {
+        std::vector<shell::Point> ends;  // of lines from the place
+        shell::Point side;
+    };
+    const double half = std::sqrt(0.5);
+    const Row rows[] = {{{}, {0, 1}},
+                        {{{1, 0}}, {-1, 0}},
+                        {{{1, 0}, {-1, 0}}, {0, 1}},
+                        {{{1, 0}, {0, -1}}, {-half, half}},
+                        {{{1, 0}, {-1, 0}, {0, 1}}, {0, -1}},
+                        {{{-1, 0}, {0, 1}}, {half, -half}}};
+    for (const Row& row : rows) {
+        shell::Recorder picture(kWidth, kHeight);
+        LabelPlacer labels(picture);
+        for (const shell::Point end : row.ends)
+            labels.AddLine({200, 150}, {200 + 50 * end.x, 150 + 50 * end.y});
+        const shell::Point side = labels.FreeSide({200, 150});
+        EXPECT_NEAR(side.x, row.side.x, 1e-9) << row.ends.size();
+        EXPECT_NEAR(side.y, row.side.y, 1e-9) << row.ends.size();
+    }
 }
 
 }  // namespace
