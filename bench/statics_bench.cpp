@@ -1,10 +1,12 @@
-// Speed of reading vectors and of whole particle problems, one of each kind of unknowns.
+// Speed of reading vectors, of whole particle problems, one of each kind of unknowns, and of a frame of three
+// bars.
 
 #include <benchmark/benchmark.h>
 
 #include <string>
 #include <vector>
 
+#include "statics/body_solver.h"
 #include "statics/particle_solver.h"
 #include "vectors/force_parser.h"
 #include "vectors/vector_parser.h"
@@ -39,5 +41,32 @@ BENCHMARK_CAPTURE(SolveParticle, two_magnitudes, std::vector<std::string>{"p30x,
 BENCHMARK_CAPTURE(SolveParticle, magnitude_and_angle, std::vector<std::string>{"p30x,F1", "20<a", "3,-20"});
 BENCHMARK_CAPTURE(SolveParticle, two_angles, std::vector<std::string>{"3<a", "4<b", "h-5"});
 BENCHMARK_CAPTURE(SolveParticle, shared_magnitude, std::vector<std::string>{"vF", "F<a", "-10,-10"});
+
+struct TypedForce {
+    int body;
+    const char* point;
+    double x, y;
+    const char* text;
+};
+
+// The legs ABC and CDE of an A and its bar BD with 60 in the middle: nine unknowns.
+constexpr TypedForce kFrame[] = {
+    {2, "A", 0, 0, "Ax, Ay"},   {2, "B", 1, 2, "-Bx, -By"}, {2, "C", 2, 4, "Cx, Cy"},
+    {3, "C", 2, 4, "-Cx, -Cy"}, {3, "D", 3, 2, "-Dx, -Dy"}, {3, "E", 4, 0, "vE"},
+    {4, "B", 1, 2, "Bx, By"},   {4, "D", 3, 2, "Dx, Dy"},   {4, "F", 2, 2, "v-60"},
+};
+
+void SolveFrame(benchmark::State& state) {
+    statics::BodyForces forces;
+    for (const auto& [body, point, x, y, text] : kFrame)
+        forces.push_back(
+            std::get<statics::BodyForce>(statics::ReadBodyForce(body, {point, x, y, 0, 0}, text, kDecimals)));
+    const std::vector<statics::ChosenBody> bodies = {{2, false, 0, 0}, {3, false, 0, 0}, {4, false, 0, 0}};
+    for (auto _ : state) {
+        const auto equations = std::get<statics::BodyEquations>(statics::BuildEquations(forces, bodies, ""));
+        benchmark::DoNotOptimize(statics::SolveEquations(equations, bodies.size()));
+    }
+}
+BENCHMARK(SolveFrame);
 
 }  // namespace

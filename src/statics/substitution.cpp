@@ -13,23 +13,6 @@ bool IsKnown(const ForceRow& force) {
     return numeric::IsNum(force[XComponent]) && numeric::IsNum(force[YComponent]);
 }
 
-void MarkForceSolved(ForceRow& force, int decimals) {
-    const double x = force[XComponent].Number();
-    const double y = force[YComponent].Number();
-    const numeric::ClockReading clock = numeric::ClockOf(x, y);
-    force[Magnitude] = numeric::Finite(numeric::Hypot(x, y));
-    force[Direction] = numeric::AngleOf(x, y);
-    force[Hour] = clock.hour;
-    force[ClockAngle] = clock.angle;
-    force[XUnknown] = "";
-    force[YUnknown] = "";
-    force[XText] = numeric::RoundedText(x, decimals);
-    force[YText] = numeric::RoundedText(y, decimals);
-    force[DrawDirection] = {};
-    if (force[Colour] == numeric::Value(kUnknown))
-        force[Colour] = kSolved;
-}
-
 }  // namespace
 
 std::optional<ComponentSums> SumComponents(const ForceTable& table, ComponentSums start) {
@@ -46,10 +29,28 @@ bool InEquilibrium(const std::optional<ComponentSums>& sums) {
     return sums && std::abs(sums->x) < kEquilibriumTolerance && std::abs(sums->y) < kEquilibriumTolerance;
 }
 
+void MarkSolved(ForceRow& force, int decimals) {
+    if (!IsKnown(force))
+        return;
+    const double x = force[XComponent].Number();
+    const double y = force[YComponent].Number();
+    const numeric::ClockReading clock = numeric::ClockOf(x, y);
+    force[Magnitude] = numeric::Finite(numeric::Hypot(x, y));
+    force[Direction] = numeric::AngleOf(x, y);
+    force[Hour] = clock.hour;
+    force[ClockAngle] = clock.angle;
+    force[XUnknown] = "";
+    force[YUnknown] = "";
+    force[XText] = numeric::RoundedText(x, decimals);
+    force[YText] = numeric::RoundedText(y, decimals);
+    force[DrawDirection] = {};
+    if (force[Colour] == numeric::Value(kUnknown))
+        force[Colour] = kSolved;
+}
+
 void MarkSolved(ForceTable& table, int decimals) {
     for (ForceRow& force : table)
-        if (IsKnown(force))
-            MarkForceSolved(force, decimals);
+        MarkSolved(force, decimals);
 }
 
 }  // namespace tavrelo::statics

@@ -1,0 +1,150 @@
+// Whatever is typed in the rigid-body tool. A structure is built from the lines of the input and solved; the
+// only exception that leaves is the documented failure, every number of a result is finite, and the opposite
+// of a force is read again.
+
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "numeric/checked.h"
+#include "shell/surface.h"
+#include "statics/body_solver.h"
+#include "statics/chain_vectors.h"
+#include "statics/rigid_lines.h"
+#include "statics/rigid_picture.h"
+#include "statics/rigid_report.h"
+
+namespace {
+
+using namespace tavrelo;
+using namespace tavrelo::statics;
+
+constexpr int kDecimals = 3;
+constexpr double kPictureSide = 400;
+
+void RequireFinite(double number) {
+    if (!std::isfinite(number))
+        std::abort();
+}
+
+void RequireFinite(const numeric::Value& value) {
+    if (value.HoldsNumber())
+        RequireFinite(value.Number());
+}
+
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::vector<std::string> lines = {""};
+    for (const char each : text)
+        if (each == '\n')
+            lines.emplace_back();
+        else
+            lines.back() += each;
+    return lines;
+}
+
+/// Triangle ABC, and a chain of its own for the typed vector.
+void TryChain(const std::vector<std::string>& lines, SegTable& segments, PointTable& points) {
+    segments = {{"A", "B", 4, 0}, {"B", "C", 0, 3}};
+    points = std::get<PointTable>(ComputeCoords(segments));
+    CheckChain(lines.front());
+    const std::vector<std::string> texts(lines.begin(), lines.end());
+    const auto rows = ChainRows({"CDE", lines.front(), lines.back(), texts}, points, kDecimals);
+    if (!std::holds_alternative<SegTable>(rows))
+        return;
+    SegTable longer = segments;
+    for (const SegRow& row : std::get<SegTable>(rows))
+        longer.push_back(row);
+    const auto coords = ComputeCoords(longer);
+    if (!std::holds_alternative<PointTable>(coords))
+        return;
+    segments = longer;
+    points = std::get<PointTable>(coords);
+    for (const PointRecord& point : points) {
+        RequireFinite(point.x);
+        RequireFinite(point.y);
+    }
+    CoordLines(segments, points, kDecimals);
+    SepLines(segments, kDecimals);
+}
+
+void TryOpposite(const std::string& text, const PointRecord& point) {
+    const auto opposite = NegateForceText(text);
+    if (const auto* negated = std::get_if<std::string>(&opposite))
+        ReadBodyForce(1, point, *negated, kDecimals);
+}
+
+BodyForces ForcesOf(const std::vector<std::string>& lines, const PointTable& points) {
+    BodyForces forces;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const PointRecord& point = points[i % points.size()];
+        ReadRowReference(lines[i]);
+        const auto read = ReadBodyForce(1, point, lines[i], kDecimals);
+        if (const auto* force = std::get_if<BodyForce>(&read)) {
+            forces.push_back(*force);
+            RequireFinite(force->couple);
+            TryOpposite(lines[i], point);
+        }
+    }
+    return forces;
+}
+
+void Draw(PointTable& points, BodyForces& forces, const LineTable& lines) {
+    shell::Recorder canvas(kPictureSide, kPictureSide);
+    for (BodyForce& force : forces)
+        if (NeedsDrawDirection(force))
+            SetDrawDirection(force, kDefaultDrawDirection);
+    const SystemPoints systems = {"ABC"};
+    RedrawAll(canvas, {points, lines, systems, forces, {true}, kDecimals});
+}
+
+void Solve(BodyForces& forces, std::string_view suppressed) {
+    const std::vector<ChosenBody> bodies = {{1, false, 0, 0}};
+    const auto built = BuildEquations(forces, bodies, suppressed);
+    const auto* equations = std::get_if<BodyEquations>(&built);
+    if (!equations)
+        return;
+    EquilibriumReport(bodies, *equations, {}, kDecimals);
+    const auto outcome = SolveEquations(*equations, bodies.size());
+    BodyResults results;
+    if (const auto* choice = std::get_if<BodyChoice>(&outcome)) {
+        QuestionBetween(*choice, kDecimals);
+        results = choice->front();
+    } else if (const auto* only = std::get_if<BodyResults>(&outcome)) {
+        results = *only;
+    }
+    for (const FoundUnknown& found : results)
+        RequireFinite(found.value);
+    UpdateBodyForces(forces, results, kDecimals);
+    for (const BodyForce& force : forces)
+        for (const numeric::Value& cell : force.force)
+            RequireFinite(cell);
+    EquilibriumReport(bodies, *equations, results, kDecimals);
+}
+
+void Try(std::string_view text) {
+    const std::vector<std::string> lines = LinesOf(text);
+    SegTable segments;
+    PointTable points;
+    TryChain(lines, segments, points);
+    LineTable drawn;
+    const auto line = ReadLine(lines.back(), {"ABC", "AB", "C"}, points);
+    if (const auto* command = std::get_if<LineCommand>(&line))
+        drawn.push_back(command->line);
+    BodyForces forces = ForcesOf(lines, points);
+    Solve(forces, lines.back());
+    Draw(points, forces, drawn);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    try {
+        Try(std::string_view(reinterpret_cast<const char*>(data), size));
+    } catch (const numeric::RuntimeFailure&) {
+    }
+    return 0;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <variant>
+
+#include "statics/structure.h"
+#include "vectors/force_record.h"
+
+namespace tavrelo::statics {
+
+/// What is typed to add separation vectors: a chain of 2 to 7 letters, the vector between its first two
+/// points, and one magnitude or component for each further pair.
+struct ChainEntry {
+    std::string chain;                   // capitals, trimmed
+    std::string vector;                  // trimmed
+    std::string series;                  // X, Y, M in either case, or anything else for none
+    std::span<const std::string> texts;  // of the pairs behind the first one; may be longer than the chain
+};
+
+/// The refusal of a chain of letters as the chain box tells it; nothing for a good one.
+/// Reads code points, so "AÑ" is two characters.
+std::optional<Refusal> CheckChain(std::string_view chain);
+
+/// The rows of a chain, one for each pair of neighbouring letters. All vectors have the direction of the
+/// first one. `known` are the points that have coordinates before the command: a pair whose two ends are
+/// among them is refused. Throws RuntimeFailure when a further value is missing or no number, or its series
+/// is not told (TypeMismatch), and on a value past the range of a double (Overflow).
+std::variant<Refusal, SegTable> ChainRows(const ChainEntry& entry, const PointTable& known, int decimals);
+
+/// Whether the format's further vectors need to be told in which quantity they are given.
+bool NeedsSeries(std::string_view format_code);
+
+}  // namespace tavrelo::statics

@@ -1,0 +1,367 @@
+#include "statics/rigid_config_tab.h"
+
+#include <algorithm>
+#include <array>
+
+#include "numeric/number_text.h"
+#include "numeric/utf8.h"
+#include "statics/rigid_lines.h"
+#include "vectors/vector_format.h"
+
+namespace tavrelo::statics {
+namespace {
+
+using shell::Answer;
+
+// Indexes of txtSegm: the chain, the vector of its first pair, and the magnitudes of the further pairs.
+constexpr int kChainBox = 0;
+constexpr int kVectorBox = 1;
+constexpr int kFirstMagnitudeBox = 2;
+constexpr int kLastMagnitudeBox = 6;
+
+// Indexes of lblSegm.
+constexpr int kFirstPairLabel = 1;
+constexpr int kOtherPairsLabel = 2;
+
+constexpr std::array<std::string_view, 5> kDiagramWords = {"DCL", "DIA", "DIAG", "DIAGR", "DCLS"};
+constexpr std::string_view kPairGap = "         ";
+
+std::string OtherPairs(std::string_view chain) {
+    std::string pairs;
+    for (std::size_t start = 1; start + 1 < chain.size(); ++start)
+        pairs.append(pairs.empty() ? "" : kPairGap).append(chain.substr(start, 2));
+    return pairs;
+}
+
+/// The letters of `letters` that are in `kept`, in their order.
+std::string Remaining(std::string_view letters, const std::vector<std::string>& kept) {
+    std::string remaining;
+    for (const std::string& letter : LettersOf(letters))
+        if (std::ranges::find(kept, letter) != kept.end())
+            remaining += letter;
+    return remaining;
+}
+
+std::string Joined(const std::vector<std::string>& letters) {
+    std::string text;
+    for (const std::string& letter : letters)
+        text += letter;
+    return text;
+}
+
+/// The structure with a chain of vectors more.
+std::variant<Refusal, Structure> Extended(const RigidProblem& problem, const ChainEntry& entry,
+                                          int decimals) {
+    auto rows = ChainRows(entry, problem.points, decimals);
+    if (const auto* refusal = std::get_if<Refusal>(&rows))
+        return *refusal;
+    SegTable segments = problem.segments;
+    std::ranges::move(std::get<SegTable>(rows), std::back_inserter(segments));
+    auto points = ComputeCoords(segments);
+    if (const auto* refusal = std::get_if<Refusal>(&points))
+        return *refusal;
+    return Structure{std::move(segments), std::get<PointTable>(std::move(points))};
+}
+
+}  // namespace
+
+ConfigTab::ConfigTab(RigidBoard& board) : m_board(board), m_form(board.Form()), m_problem(board.Problem()) {
+    for (const auto& [index, label] : m_form.lblPoints.Items())
+        label->SetForeColor(SystemColor(index + 1));
+    Wire();
+}
+
+void ConfigTab::Wire() {
+    WireChain();
+    m_form.txtSegm[kChainBox].OnKeyPress = m_board.OnEnter([this] { EnterChain(); });
+    m_form.txtSegm[kChainBox].OnChange = m_board.Guarded([this] { CloseMagnitudes(); });
+    m_form.txtSegm[kVectorBox].OnKeyPress = m_board.OnEnter([this] { EnterVector(); });
+    m_form.txtRepeat.OnKeyPress = m_board.OnEnter([this] { EnterSeries(); });
+    m_form.txtRepeat.OnLostFocus = [this] {
+        m_form.txtRepeat.SetText(numeric::ToUpper(m_form.txtRepeat.Text()));
+    };
+    m_form.cmdOK.OnClick = m_board.Guarded([this] { AddVectors(); });
+    m_form.cmdConfig[0].OnClick = m_board.Guarded([this] { CancelLastVector(); });
+    m_form.cmdUpdate.OnClick = m_board.Guarded([this] { ChangeOrigin(); });
+    m_form.txtOrigin.OnKeyPress = m_board.OnEnter([this] { ChangeOrigin(); });
+    m_form.txtPoints.OnKeyPress = m_board.OnEnter([this] { EnterLine(); });
+    m_form.lstSysts.OnClick = m_board.Guarded([this] { ChooseSystemPoints(); });
+    m_form.spnColor.OnChange = m_board.Guarded([this] { ShowSystemChoice(); });
+}
+
+void ConfigTab::WireChain() {
+    for (const auto& [index, box] : m_form.txtSegm.Items()) {
+        box->OnKeyDown = [this, index = index](const shell::KeyStroke& stroke) {
+            return ArrowKey(index, stroke);
+        };
+        if (index >= kFirstMagnitudeBox)
+            box->OnKeyPress = m_board.OnEnter([this, index = index] { EnterMagnitude(index); });
+    }
+}
+
+/// The arrow keys at the ends of a box go to the box before or behind it.
+bool ConfigTab::ArrowKey(int index, const shell::KeyStroke& stroke) {
+    const shell::TextBox& box = m_form.txtSegm[index];
+    if (box.Selection().length > 0)
+        return false;
+    if (stroke.key == shell::Key::Left && box.Selection().start == 0 && index > kChainBox) {
+        shell::TextBox& previous = m_form.txtSegm[index - 1];
+        m_form.SetFocus(previous);
+        previous.PutCaretAtEnd();
+        return true;
+    }
+    if (stroke.key == shell::Key::Right && box.Selection().start == box.Length() &&
+        index < kLastMagnitudeBox && m_form.txtSegm[index + 1].IsUsable()) {
+        shell::TextBox& next = m_form.txtSegm[index + 1];
+        m_form.SetFocus(next);
+        next.Select({0, 0});
+        return true;
+    }
+    return false;
+}
+
+void ConfigTab::EnterChain() {
+    shell::TextBox& box = m_form.txtSegm[kChainBox];
+    const std::string chain = numeric::ToUpper(numeric::Trim(box.Text()));
+    box.SetText(chain);
+    if (std::ranges::find(kDiagramWords, chain) != kDiagramWords.end()) {
+        if (OnDiagramsWanted)
+            OnDiagramsWanted();
+        return;
+    }
+    if (const auto refusal = CheckChain(chain))
+        return m_board.Refuse(*refusal, box);
+    m_form.lblSegm[kFirstPairLabel].SetCaption(chain.substr(0, 2));
+    m_form.lblSegm[kOtherPairsLabel].SetCaption(OtherPairs(chain));
+    const int pairs = static_cast<int>(chain.size()) - 1;
+    for (int index = kFirstMagnitudeBox; index <= kLastMagnitudeBox; ++index)
+        m_form.txtSegm[index].SetEnabled(index <= pairs);
+    m_form.SetFocus(m_form.txtSegm[kVectorBox]);
+}
+
+/// A chain that changes has no boxes for its further pairs until it is entered.
+void ConfigTab::CloseMagnitudes() {
+    for (const int label : {kFirstPairLabel, kOtherPairsLabel})
+        m_form.lblSegm[label].SetCaption("");
+    for (int index = kFirstMagnitudeBox; index <= kLastMagnitudeBox; ++index)
+        m_form.txtSegm[index].SetEnabled(false);
+}
+
+void ConfigTab::EnterVector() {
+    const vectors::VectorFormat format = vectors::VectorFormatOf(m_form.txtSegm[kVectorBox].Text());
+    if (!format.msg.empty())
+        return m_board.Refuse({format.msg}, m_form.txtSegm[kVectorBox]);
+    const bool is_chain = numeric::CharacterCount(numeric::Trim(m_form.txtSegm[kChainBox].Text())) > 2;
+    SetSeriesEnabled(!is_chain || NeedsSeries(format.code));
+    if (is_chain && NeedsSeries(format.code))
+        m_form.SetFocus(m_form.txtRepeat);
+    else
+        GoBehind(kVectorBox);
+}
+
+void ConfigTab::SetSeriesEnabled(bool enabled) {
+    m_form.txtRepeat.SetEnabled(enabled);
+    m_form.lblRepeat.SetEnabled(enabled);
+}
+
+void ConfigTab::EnterSeries() { GoBehind(kVectorBox); }
+
+void ConfigTab::EnterMagnitude(int index) {
+    shell::TextBox& box = m_form.txtSegm[index];
+    if (!numeric::IsNum(numeric::Trim(box.Text())))
+        return m_board.Refuse({"El dato no es numérico."}, box);
+    GoBehind(index);
+}
+
+/// The focus goes to the next box of a further pair, or to the button behind the last one.
+void ConfigTab::GoBehind(int index) {
+    if (index < kLastMagnitudeBox && m_form.txtSegm[index + 1].IsUsable())
+        m_form.SetFocus(m_form.txtSegm[index + 1]);
+    else
+        m_form.SetFocus(m_form.cmdOK);
+}
+
+/// The values of the further pairs, as typed.
+std::vector<std::string> ConfigTab::Magnitudes() const {
+    std::vector<std::string> texts;
+    for (int index = kFirstMagnitudeBox; index <= kLastMagnitudeBox; ++index)
+        texts.push_back(numeric::Trim(m_form.txtSegm[index].Text()));
+    return texts;
+}
+
+void ConfigTab::AddVectors() {
+    const std::string chain = numeric::ToUpper(numeric::Trim(m_form.txtSegm[kChainBox].Text()));
+    const std::string vector = numeric::Trim(m_form.txtSegm[kVectorBox].Text());
+    if (chain.empty() || vector.empty())
+        return;
+    const std::vector<std::string> magnitudes = Magnitudes();
+    auto extended =
+        Extended(m_problem, {chain, vector, m_form.txtRepeat.Text(), magnitudes}, m_board.Decimals());
+    if (const auto* refusal = std::get_if<Refusal>(&extended))
+        return m_board.Refuse(*refusal, m_form.txtSegm[CheckChain(chain) ? kChainBox : kVectorBox]);
+    if (m_problem.segments.empty())
+        BeginAt(chain.substr(0, 1));
+    TakeStructure(std::get<Structure>(std::move(extended)));
+    RestoreConfigCtrls();
+    m_form.SetFocus(m_form.txtSegm[kChainBox]);
+}
+
+/// The first point is the origin and the reference point of every system.
+void ConfigTab::BeginAt(const std::string& point) {
+    m_problem.origin = point;
+    m_form.txtOrigin.SetText(point);
+    for (const auto& [index, box] : m_form.txtRefPt.Items())
+        box->SetText(point);
+}
+
+/// The new vectors and points; the points come with the first vector's start as origin.
+void ConfigTab::TakeStructure(Structure structure) {
+    m_problem.segments = std::move(structure.segments);
+    m_problem.points = std::move(structure.points);
+    MoveOrigin(m_problem.points, m_problem.origin);
+    ShowCoords();
+    m_board.Redraw();
+    ShowSeps();
+}
+
+void ConfigTab::RestoreConfigCtrls() {
+    CloseMagnitudes();
+    for (const auto& [index, box] : m_form.txtSegm.Items())
+        box->SetText("");
+    m_form.txtRepeat.SetText("");
+    SetSeriesEnabled(true);
+}
+
+void ConfigTab::CancelLastVector() {
+    if (m_problem.segments.empty())
+        return;
+    if (!m_problem.forces.empty() &&
+        m_form.boxes.ShowMessage("Esta acción borrará los DCL's. ¿Deseas proseguir?", shell::kProgramTitle,
+                                 shell::Buttons::YesNo) != Answer::Yes)
+        return;
+    SegTable segments = m_problem.segments;
+    segments.pop_back();
+    if (segments.empty())
+        return EraseStructure();
+    auto points = ComputeCoords(segments);
+    if (const auto* refusal = std::get_if<Refusal>(&points))
+        return m_form.boxes.Tell(refusal->text);
+    m_board.DropDiagrams();
+    Shorten({std::move(segments), std::get<PointTable>(std::move(points))});
+}
+
+/// Takes a structure with a vector less.
+void ConfigTab::Shorten(Structure structure) {
+    if (PointIndex(structure.points, m_problem.origin) == 0) {
+        m_problem.origin = structure.segments.front().from;
+        m_form.txtOrigin.SetText(m_problem.origin);
+    }
+    TakeStructure(std::move(structure));
+    ForgetLostLetters();
+    m_board.Draw();
+}
+
+/// Letters that no vector holds any more leave the systems, and the lines through them go.
+void ConfigTab::ForgetLostLetters() {
+    const std::vector<std::string> letters = LettersOf(m_problem.segments);
+    for (int system = 2; system <= kSystems; ++system)
+        SetSystem(system, Remaining(m_problem.LettersOfSystem(system), letters));
+    std::erase_if(m_problem.lines,
+                  [&](const LineRow& line) { return Remaining(line.chain, letters) != line.chain; });
+}
+
+void ConfigTab::EraseStructure() {
+    m_board.DropDiagrams();
+    m_problem = {};
+    Clear();
+    m_board.Draw();
+}
+
+void ConfigTab::Clear() {
+    RestoreConfigCtrls();
+    m_form.txtOrigin.SetText("");
+    m_form.txtPoints.SetText("");
+    for (const auto& [index, box] : m_form.txtRefPt.Items())
+        box->SetText("");
+    for (shell::ListBox* list : {&m_form.lstCoords, &m_form.lstSeps, &m_form.lstSysts})
+        list->Clear();
+    for (const auto& [index, label] : m_form.lblPoints.Items())
+        label->SetCaption("");
+    m_form.spnColor.SetValue(1);
+}
+
+void ConfigTab::ChangeOrigin() {
+    if (m_problem.segments.empty())
+        return;
+    if (ShowCoords())
+        m_board.Redraw();
+}
+
+/// Applies the origin that is typed and fills the list of coordinates; a refusal is shown and moves nothing
+/// (false).
+bool ConfigTab::ShowCoords() {
+    const std::string origin = numeric::ToUpper(numeric::Trim(m_form.txtOrigin.Text()));
+    const std::optional<Refusal> refusal = MoveOrigin(m_problem.points, origin);
+    if (!refusal) {
+        m_problem.origin = origin;
+        m_form.txtOrigin.SetText(origin);
+    }
+    RefreshPlaces(m_problem.forces, m_problem.points);
+    m_form.lstCoords.SetItems(CoordLines(m_problem.segments, m_problem.points, m_board.Decimals()));
+    if (refusal)
+        m_board.Refuse(*refusal, m_form.txtOrigin);
+    return !refusal;
+}
+
+/// Fills the lists of vectors and of letters; system 1 is all letters. All of them show as chosen, which is
+/// the program's choice: no other system changes.
+void ConfigTab::ShowSeps() {
+    const std::vector<std::string> letters = LettersOf(m_problem.segments);
+    m_form.lstSeps.SetItems(SepLines(m_problem.segments, m_board.Decimals()));
+    m_form.lstSysts.SetItems(letters);
+    for (int row = 0; row < static_cast<int>(letters.size()); ++row)
+        m_form.lstSysts.SetChosen(row, true);
+    SetSystem(1, Joined(letters));
+}
+
+void ConfigTab::SetSystem(int system, std::string letters) {
+    m_form.lblPoints[system - 1].SetCaption(letters);
+    m_problem.systems[static_cast<std::size_t>(system) - 1] = std::move(letters);
+}
+
+void ConfigTab::ChooseSystemPoints() {
+    std::string letters;
+    const std::vector<std::string>& items = m_form.lstSysts.Items();
+    for (std::size_t row = 0; row < items.size(); ++row)
+        if (m_form.lstSysts.IsChosen(static_cast<int>(row)))
+            letters += items[row];
+    SetSystem(m_form.spnColor.Value(), std::move(letters));
+    m_board.Draw();
+}
+
+void ConfigTab::ShowSystemChoice() {
+    const std::string& letters = m_problem.LettersOfSystem(m_form.spnColor.Value());
+    const std::vector<std::string>& items = m_form.lstSysts.Items();
+    for (std::size_t row = 0; row < items.size(); ++row)
+        m_form.lstSysts.SetChosen(static_cast<int>(row), letters.find(items[row]) != std::string::npos);
+}
+
+void ConfigTab::EnterLine() {
+    auto read = ReadLine(m_form.txtPoints.Text(), m_problem.systems, m_problem.points);
+    if (const auto* refusal = std::get_if<Refusal>(&read))
+        return m_board.Refuse(*refusal, m_form.txtPoints);
+    const auto& [action, line] = std::get<LineCommand>(read);
+    if (action == LineCommand::Action::None)
+        return;
+    if (action == LineCommand::Action::Draw) {
+        m_problem.lines.push_back(line);
+        m_board.DrawOver(line);
+    } else {
+        if (std::erase(m_problem.lines, line) == 0)
+            return;
+        m_board.Draw();
+    }
+    m_form.txtPoints.SetText("");
+}
+
+}  // namespace tavrelo::statics

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "statics/chain_vectors.h"
+#include "statics/rigid_board.h"
+
+namespace tavrelo::statics {
+
+/// The page "Configuración": chains of points and separation vectors, origin, systems and lines.
+class ConfigTab {
+  public:
+    explicit ConfigTab(RigidBoard& board);
+
+    /// Empties the boxes in which vectors are entered.
+    void RestoreConfigCtrls();
+    /// Empties the page: boxes, lists and systems, the selector at 1.
+    void Clear();
+
+    /// The word for the diagrams was typed in place of a chain.
+    std::function<void()> OnDiagramsWanted;
+
+  private:
+    void Wire();
+    void WireChain();
+    void WireSystems();
+
+    bool ArrowKey(int index, const shell::KeyStroke& stroke);
+    void EnterChain();               // Enter in txtSegm(0)
+    void EnterVector();              // Enter in txtSegm(1)
+    void EnterMagnitude(int index);  // Enter in txtSegm(2) and up
+    void EnterSeries();              // Enter in txtRepeat
+    void CloseMagnitudes();
+    void GoBehind(int index);
+    void SetSeriesEnabled(bool enabled);
+
+    void AddVectors();        // cmdOK
+    void CancelLastVector();  // cmdConfig(0)
+    std::vector<std::string> Magnitudes() const;
+    void BeginAt(const std::string& point);
+    void TakeStructure(Structure structure);
+    void Shorten(Structure structure);
+    void ForgetLostLetters();
+    void EraseStructure();
+    void ChangeOrigin();  // cmdUpdate, Enter in txtOrigin
+    bool ShowCoords();
+    void ShowSeps();
+
+    void SetSystem(int system, std::string letters);
+    void ChooseSystemPoints();  // lstSysts
+    void ShowSystemChoice();    // spnColor
+    void EnterLine();           // Enter in txtPoints
+
+    RigidBoard& m_board;
+    shell::Form1& m_form;
+    RigidProblem& m_problem;
+};
+
+}  // namespace tavrelo::statics

@@ -1,0 +1,78 @@
+#include "statics/rigid_report.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "numeric/number_text.h"
+#include "shell/markup.h"
+
+namespace tavrelo::statics {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr std::string_view kMarks = "/\\!;#$¡";
+
+std::string Heading(const std::string& text) { return "\\0100" + text + "\\"; }
+
+Lines Opening(const BodyEquations& equations) {
+    std::string names;
+    for (const std::string& name : equations.unknowns)
+        names.append(names.empty() ? "" : ", ").append(shell::EscapeMarks(name));
+    return {std::to_string(equations.unknowns.size()) + " incógnitas, " +
+                std::to_string(equations.equations.size()) + " ecuaciones.",
+            "Incógnitas: " + names, "Ecuaciones:"};
+}
+
+Lines BodyPortion(int body, const BodyEquations& equations, int decimals) {
+    Lines lines = {Heading("Cuerpo " + std::to_string(body) + ":")};
+    for (const BodyEquation& equation : equations.equations)
+        if (equation.body == body)
+            lines.push_back(EquationLine(equation, decimals));
+    return lines;
+}
+
+Lines Solutions(const BodyResults& results, int decimals) {
+    Lines lines = {Heading("Soluciones:")};
+    for (const FoundUnknown& found : results)
+        lines.push_back(shell::EscapeMarks(found.name) + " = " +
+                        numeric::NumText(found.value, decimals).Text());
+    return lines;
+}
+
+/// At least as many as the rendering counts.
+std::size_t MarksOf(const Lines& lines) {
+    std::size_t marks = 1;  // the end mark
+    for (const std::string& line : lines)
+        marks += static_cast<std::size_t>(std::ranges::count_if(
+            line, [](char each) { return kMarks.find(each) != std::string_view::npos; }));
+    return marks;
+}
+
+void Append(Lines& lines, const Lines& more) { std::ranges::copy(more, std::back_inserter(lines)); }
+
+/// Joins neighbouring portions while one rendering takes them.
+ReportPortions Packed(const std::vector<Lines>& portions) {
+    ReportPortions packed;
+    for (const Lines& portion : portions) {
+        if (!packed.empty() && MarksOf(packed.back()) + MarksOf(portion) <= shell::kMarkLimit)
+            Append(packed.back(), portion);
+        else
+            packed.push_back(portion);
+    }
+    return packed;
+}
+
+}  // namespace
+
+ReportPortions EquilibriumReport(std::span<const ChosenBody> bodies, const BodyEquations& equations,
+                                 const BodyResults& results, int decimals) {
+    std::vector<Lines> portions = {Opening(equations)};
+    for (const ChosenBody& body : bodies)
+        portions.push_back(BodyPortion(body.number, equations, decimals));
+    if (!results.empty())
+        portions.push_back(Solutions(results, decimals));
+    return Packed(portions);
+}
+
+}  // namespace tavrelo::statics

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "statics/rigid_picture.h"
+#include "statics/rigid_sheet.h"
+
+namespace tavrelo::statics {
+
+/// Sets the drawing places of all points, structure and origin in the middle of the sheet with room for
+/// arrows around, and draws the axes through the origin and the points. There must be a point.
+void DrawConfig(RigidSheet& sheet, const RigidScene& scene);
+
+/// Draws one line over the places of the points; a letter without a point breaks it.
+void DrawChain(RigidSheet& sheet, const PointTable& points, const LineRow& line);
+
+/// Draws the lines of the systems in view, or of all systems while none is, over the places that DrawConfig
+/// has set; returns how many rows it has drawn.
+std::size_t DrawLines(RigidSheet& sheet, const RigidScene& scene);
+
+}  // namespace tavrelo::statics
