@@ -42,6 +42,10 @@ void Program::NameGlobals() {
         {"GridCopyMode", [&publics] { return Truth(publics.GridCopyMode); }},
         {"ForceCount", [this] { return std::to_string(m_tools->particle.ForceCount()); }},
         {"BackupCount", [this] { return std::to_string(m_tools->particle.BackupCount()); }},
+        {"SegCount", [this] { return std::to_string(m_tools->rigid_body.Problem().segments.size()); }},
+        {"PointCount", [this] { return std::to_string(m_tools->rigid_body.Problem().points.size()); }},
+        {"LineCount", [this] { return std::to_string(m_tools->rigid_body.Problem().lines.size()); }},
+        {"BodyForceCount", [this] { return std::to_string(m_tools->rigid_body.Problem().forces.size()); }},
         {"ClockSel", [this] { return std::to_string(m_tools->clock.ClockSel()); }},
     };
 }

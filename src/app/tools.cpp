@@ -6,7 +6,6 @@
 #include "motion/motion_help.h"
 #include "motion/motion_panels.h"
 #include "shell/guard.h"
-#include "statics/rigid_grid.h"
 
 namespace tavrelo::app {
 namespace {
@@ -18,7 +17,6 @@ using shell::Tool;
 constexpr int kPointColumnWidth = 960;  // of the motion table, twips
 constexpr int kTableIconWidth = 30;     // of the configurations of the motion table, pixels
 constexpr int kTableIconHeight = 26;
-constexpr int kSystemCount = 5;  // of rigid bodies
 
 constexpr std::string_view kStatPartFile = "\\StatPart.txt";
 constexpr std::string_view kEstcrFile = "\\HelpEstcr.txt";
@@ -38,7 +36,8 @@ Program::Tools::Tools(shell::Form1& window)
       grid(window),
       calculator(window, expression, grid),
       clock(window),
-      particle(window, clock) {
+      particle(window, clock),
+      rigid_body(window) {
     WireMenu();
     WireHelp();
     WireTools();
@@ -47,7 +46,6 @@ Program::Tools::Tools(shell::Form1& window)
 
 void Program::Tools::Load() {
     grid.ArrangeGd();
-    statics::ArrangeGd1(form);
     form.picClock.Canvas().BackColor = shell::Rgb(245, 245, 245);
     clock.Reset();
     help.LoadCalcHelp();
@@ -57,7 +55,6 @@ void Program::Tools::Load() {
     for (const auto& [index, button] : form.cmdTable.Items())
         button->SetPicture(
             {"table_buttons", {index * kTableIconWidth, 0, kTableIconWidth, kTableIconHeight}});
-    form.spnColor.SetRange(1, kSystemCount);
     tool_switch.Load();
 }
 
@@ -113,8 +110,7 @@ void Program::Tools::WireTools() {
                              form.SetFocus(form.gd);
                          }});
     tool_switch.SetHooks(Tool::Particle, particle.Hooks());
-    tool_switch.SetHooks(Tool::RigidBody,
-                         {.on_entry = [this] { form.SetFocus(form.txtSegm[0]); }, .uses_pic1 = true});
+    tool_switch.SetHooks(Tool::RigidBody, rigid_body.Hooks());
     for (const Tool tool : {Tool::Motion, Tool::Projectile})
         tool_switch.SetHooks(tool, {.on_entry = [this, help_tool = static_cast<int>(tool) + 1] {
                                  motion::AdaptCtrls(form, help_tool);

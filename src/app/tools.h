@@ -11,6 +11,7 @@
 #include "shell/preferences.h"
 #include "shell/tool_switch.h"
 #include "statics/particle_tool.h"
+#include "statics/rigid_tool.h"
 #include "vectors/direction_clock.h"
 
 namespace tavrelo::app {
@@ -31,6 +32,7 @@ struct Program::Tools {
     calc::Calculator calculator;
     vectors::DirectionClock clock;
     statics::Parts particle;
+    statics::RigidBody rigid_body;
 
   private:
     void Load();
