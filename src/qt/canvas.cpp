@@ -11,8 +11,12 @@ namespace {
 /// Qt counts angles in sixteenths of a degree.
 int Sixteenths(double degrees) { return static_cast<int>(std::lround(degrees * 16)); }
 
-/// Straight lines along the axes keep sharp edges; all others are smoothed.
-bool IsAlongAxis(const shell::LineOp& op) { return op.x1 == op.x2 || op.y1 == op.y2; }
+/// Straight lines along the axes keep sharp edges; all others are smoothed. Trigonometry leaves a hair in the
+/// ends of upright arrows.
+bool IsAlongAxis(const shell::LineOp& op) {
+    constexpr double kHair = 1e-6;  // pixels
+    return std::abs(op.x1 - op.x2) < kHair || std::abs(op.y1 - op.y2) < kHair;
+}
 
 }  // namespace
 

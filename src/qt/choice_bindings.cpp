@@ -7,6 +7,17 @@
 namespace tavrelo::qt {
 namespace {
 
+/// Takes a click anywhere in its rectangle, not only on the mark and the caption: at every zoom the same
+/// place.
+template <class WidgetType>
+class WholeChoice : public WidgetType {
+  public:
+    using WidgetType::WidgetType;
+
+  protected:
+    bool hitButton(const QPoint& place) const override { return this->rect().contains(place); }
+};
+
 /// Option buttons and check boxes. A click flips the widget at once; the model then says what is really
 /// checked.
 template <class ControlType>
@@ -38,12 +49,14 @@ class ChoiceBinding : public Binding {
 
 std::unique_ptr<Binding> NewOptionBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
     auto& option = dynamic_cast<shell::OptionButton&>(control);
-    return std::make_unique<ChoiceBinding<shell::OptionButton>>(option, *new QRadioButton(&parent), context);
+    return std::make_unique<ChoiceBinding<shell::OptionButton>>(
+        option, *new WholeChoice<QRadioButton>(&parent), context);
 }
 
 std::unique_ptr<Binding> NewCheckBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
     auto& check = dynamic_cast<shell::CheckBox&>(control);
-    return std::make_unique<ChoiceBinding<shell::CheckBox>>(check, *new QCheckBox(&parent), context);
+    return std::make_unique<ChoiceBinding<shell::CheckBox>>(check, *new WholeChoice<QCheckBox>(&parent),
+                                                            context);
 }
 
 }  // namespace tavrelo::qt

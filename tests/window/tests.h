@@ -11,6 +11,7 @@ class ZoomTest : public QObject {
   private slots:
     void ScalesEveryControl();
     void ScalesTheFonts();
+    void OptionsTakeClicksInAllTheirPlace();
     void FollowsTheKeys();
     void FollowsTheWheelOverAnyControl();
     void StaysWithinItsLimits();

@@ -38,6 +38,20 @@ void ZoomTest::ScalesTheFonts() {
     QCOMPARE(QFontInfo(window.Widget("cmdOK").font()).pixelSize(), 36);
 }
 
+void ZoomTest::OptionsTakeClicksInAllTheirPlace() {
+    TestWindow window;
+    window.PressTool(3);
+    window.Form().txtSegm[0].SetText("AB");
+    window.Form().txtSegm[1].SetText("h4");
+    window.Form().cmdOK.UserClick();
+    window.Form().tabStat.UserPick(2);
+    window.view.SetZoom(3);
+    QWidget& option = window.Widget("optShowDCL(0)");
+    QTest::mouseClick(&option, Qt::LeftButton, {}, option.rect().bottomRight() - QPoint(3, 3));
+    QVERIFY(window.Form().optShowDCL[0].Checked());
+    QCOMPARE(window.Form().lstDCL.Items().size(), std::size_t{1});
+}
+
 void ZoomTest::FollowsTheKeys() {
     TestWindow window;
     window.PressTool(2);
