@@ -1,5 +1,5 @@
-// Speed of reading vectors, of whole particle problems, one of each kind of unknowns, and of a frame of three
-// bars.
+// Speed of reading vectors, of whole particle problems, one of each kind of unknowns, and of solving and
+// drawing a frame of three bars.
 
 #include <benchmark/benchmark.h>
 
@@ -8,6 +8,7 @@
 
 #include "statics/body_solver.h"
 #include "statics/particle_solver.h"
+#include "statics/rigid_picture.h"
 #include "vectors/force_parser.h"
 #include "vectors/vector_parser.h"
 
@@ -56,11 +57,16 @@ constexpr TypedForce kFrame[] = {
     {4, "B", 1, 2, "Bx, By"},   {4, "D", 3, 2, "Dx, Dy"},   {4, "F", 2, 2, "v-60"},
 };
 
-void SolveFrame(benchmark::State& state) {
+statics::BodyForces FrameForces() {
     statics::BodyForces forces;
     for (const auto& [body, point, x, y, text] : kFrame)
         forces.push_back(
             std::get<statics::BodyForce>(statics::ReadBodyForce(body, {point, x, y, 0, 0}, text, kDecimals)));
+    return forces;
+}
+
+void SolveFrame(benchmark::State& state) {
+    const statics::BodyForces forces = FrameForces();
     const std::vector<statics::ChosenBody> bodies = {{2, false, 0, 0}, {3, false, 0, 0}, {4, false, 0, 0}};
     for (auto _ : state) {
         const auto equations = std::get<statics::BodyEquations>(statics::BuildEquations(forces, bodies, ""));
@@ -68,5 +74,20 @@ void SolveFrame(benchmark::State& state) {
     }
 }
 BENCHMARK(SolveFrame);
+
+void DrawFrame(benchmark::State& state) {
+    statics::BodyForces forces = FrameForces();
+    statics::PointTable points;
+    for (const auto& force : forces)
+        if (statics::PointIndex(points, force.point) == 0)
+            points.push_back({force.point, force.x, force.y, 0, 0});
+    const statics::LineTable lines = {{"ABC", 2}, {"CDE", 3}, {"BFD", 4}};
+    const statics::SystemPoints systems = {"ABCDEF", "ABC", "CDE", "BFD"};
+    const statics::ShownDCL shown = {false, true, true, true};
+    shell::Recorder canvas(397, 385);
+    for (auto _ : state)
+        statics::RedrawAll(canvas, {points, lines, systems, forces, shown, kDecimals});
+}
+BENCHMARK(DrawFrame);
 
 }  // namespace

@@ -235,17 +235,17 @@ std::optional<Refusal> DclTab::CheckPoints() const {
     for (const std::string& point : points)
         if (PointIndex(m_problem.points, point) == 0)
             return Refusal{kNoPoint};
-    if (const auto refusal = CheckLetters(PointsText()))
+    if (auto refusal = CheckLetters(PointsText()))
         return refusal;
     for (const std::string& point : points)
-        if (const auto refusal = CheckPoint(point))
+        if (auto refusal = CheckPoint(point))
             return refusal;
     return {};
 }
 
 /// The text of the force on a point: as typed on the first one, a further value of the series on the others.
 std::string DclTab::ForceText(std::size_t place) const {
-    const std::string first = numeric::Trim(m_form.txtBody[kForceBox].Text());
+    std::string first = numeric::Trim(m_form.txtBody[kForceBox].Text());
     if (place == 0)
         return first;
     const std::string value = numeric::Trim(m_form.txtBody[kForceBox + static_cast<int>(place)].Text());
