@@ -169,6 +169,18 @@ void ListBox::SetItems(std::vector<std::string> items) {
     Notify(Change::Content);
 }
 
+void ListBox::AddItem(std::string item) {
+    m_items.push_back(std::move(item));
+    m_chosen.push_back(false);
+    Notify(Change::Content);
+}
+
+void ListBox::RemoveItem(int row) {
+    m_items.erase(m_items.begin() + row);
+    m_chosen.erase(m_chosen.begin() + row);
+    Notify(Change::Content);
+}
+
 bool ListBox::IsChosen(int row) const {
     const auto index = static_cast<std::size_t>(row);
     return row >= 0 && index < m_chosen.size() && m_chosen[index];

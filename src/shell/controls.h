@@ -202,6 +202,8 @@ class Grid : public Control {
     void Arrange(int rows, int cols, int fixed_rows, int fixed_cols);
     void AddRow(const std::vector<std::string>& cells);
     void RemoveRow(int row);
+    /// Takes the texts of a row away; those below move up, and the first column keeps its numbers.
+    void RemoveNumberedRow(int row);
     bool HasCell(int row, int col) const;
 
     // A row or column outside the grid fails with SubscriptRange.
@@ -353,6 +355,9 @@ class ListBox : public Control {
     /// New rows; none is chosen.
     void SetItems(std::vector<std::string> items);
     void Clear() { SetItems({}); }
+    /// A row more at the end, not chosen; the others stay as they are.
+    void AddItem(std::string item);
+    void RemoveItem(int row);
     bool IsChosen(int row) const;
     void SetChosen(int row, bool chosen);
     /// Exactly these rows.

@@ -66,6 +66,14 @@ void Grid::RemoveRow(int row) {
     Notify(Change::Content);
 }
 
+void Grid::RemoveNumberedRow(int row) {
+    const int last = Rows() - 1;
+    for (int moved = row; moved < last; ++moved)
+        for (int col = 1; col < Cols(); ++col)
+            SetCell(moved, col, Cell(moved + 1, col));
+    RemoveRow(last);
+}
+
 bool Grid::HasCell(int row, int col) const { return row >= 0 && row < Rows() && col >= 0 && col < Cols(); }
 
 const Grid::CellData& Grid::At(int row, int col) const {

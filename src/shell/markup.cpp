@@ -242,11 +242,19 @@ RichText RenderMarkup(std::string_view font_name, double font_size, std::string_
     return Rendering(font_name, font_size, text).Run();
 }
 
+std::size_t CountMarks(std::string_view text) {
+    const std::u32string characters = numeric::ToCodePoints(text);
+    return static_cast<std::size_t>(std::ranges::count_if(
+        characters, [](char32_t character) { return kMarks.find(character) != std::u32string_view::npos; }));
+}
+
 std::string EscapeMarks(std::string_view text) {
     std::u32string escaped;
     bool skipped = false;  // the scan passes over the character behind an escape
     for (const char32_t character : numeric::ToCodePoints(text)) {
-        const bool is_mark = character != kEndMark && kMarks.find(character) != std::u32string_view::npos;
+        if (character == kEndMark)
+            continue;
+        const bool is_mark = kMarks.find(character) != std::u32string_view::npos;
         const bool doubled = is_mark && !skipped;
         escaped.append(doubled ? 2 : 1, character);
         skipped = doubled;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -24,8 +25,11 @@ char32_t SymbolFontCharacter(char32_t character);
 /// what was rendered so far.
 RichText RenderMarkup(std::string_view font_name, double font_size, std::string_view text);
 
+/// Marks of a markup text, each one counted: at least as many as a rendering interprets.
+std::size_t CountMarks(std::string_view text);
+
 /// Escapes the marks of a text typed by the user, so that a report shows it as typed. The end mark has no
-/// escape.
+/// escape and is left out.
 std::string EscapeMarks(std::string_view text);
 
 /// Renders a markup text for pictures into one list of runs, placed relative to the pen; the marks are ; ! ¡

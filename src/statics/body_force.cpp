@@ -9,6 +9,7 @@
 #include "numeric/angles.h"
 #include "numeric/number_text.h"
 #include "numeric/utf8.h"
+#include "statics/unknowns.h"
 #include "vectors/force_parser.h"
 #include "vectors/symbols.h"
 #include "vectors/vector_format.h"
@@ -204,6 +205,18 @@ std::variant<Refusal, BodyForce> ReadBodyForce(int body, const PointRecord& poin
         if (const auto refusal = SetCouple(row, sides.couple))
             return *refusal;
     return row;
+}
+
+bool NeedsDrawDirection(const BodyForce& force) {
+    return ReadUnknown(force.force[XUnknown].Text()).HasAngle() &&
+           !numeric::IsNum(force.force[DrawDirection]);
+}
+
+void SetDrawDirection(BodyForce& force, double degrees) {
+    const numeric::ClockReading clock = numeric::ClockOf(numeric::CosD(degrees), numeric::SinD(degrees));
+    force.force[DrawDirection] = degrees;
+    force.force[Hour] = clock.hour;
+    force.force[ClockAngle] = clock.angle;
 }
 
 void RefreshPlaces(BodyForces& forces, const PointTable& points) {

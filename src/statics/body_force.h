@@ -36,6 +36,12 @@ using BodyForces = std::vector<BodyForce>;
 std::variant<Refusal, BodyForce> ReadBodyForce(int body, const PointRecord& point, std::string_view text,
                                                int decimals);
 
+/// Whether the force is to be drawn in a direction that only the user knows: an unknown one that has not been
+/// drawn before.
+bool NeedsDrawDirection(const BodyForce& force);
+/// Draws the force from now on in that direction (degrees).
+void SetDrawDirection(BodyForce& force, double degrees);
+
 /// Copies the coordinates and drawing places of the points into the rows that act on them.
 void RefreshPlaces(BodyForces& forces, const PointTable& points);
 

@@ -7,6 +7,7 @@
 #include "numeric/checked.h"
 #include "numeric/number_text.h"
 #include "numeric/utf8.h"
+#include "shell/guard.h"
 #include "vectors/force_parser.h"
 #include "vectors/vector_format.h"
 
@@ -20,7 +21,7 @@ constexpr std::size_t kLongestChain = 7;
 constexpr const char* kChainLength = "Mínimo 2 letras, máximo 7";
 
 // What the further values of a chain mean.
-enum class Series { None, X, Y, Magnitude };
+enum class Series { X, Y, Magnitude };
 
 struct Step {
     double dx;
@@ -59,16 +60,19 @@ std::optional<Refusal> CheckVector(const ForceRecord& vector, std::size_t vector
     return {};
 }
 
-Series SeriesOf(std::string_view text) {
+// Nothing for any other mark.
+std::optional<Series> SeriesOf(std::string_view text) {
     const std::string mark = numeric::ToUpper(numeric::Trim(text));
     if (mark == "X")
         return Series::X;
     if (mark == "Y")
         return Series::Y;
-    return mark == "M" ? Series::Magnitude : Series::None;
+    if (mark == "M")
+        return Series::Magnitude;
+    return {};
 }
 
-Series SeriesFor(const ForceRecord& first, std::string_view text) {
+std::optional<Series> SeriesFor(const ForceRecord& first, std::string_view text) {
     return NeedsSeries(first[vectors::ForceFormatCode].Text()) ? SeriesOf(text) : Series::Magnitude;
 }
 
@@ -98,31 +102,33 @@ Step StepByY(double direction, double y) {
 }
 
 Step StepBy(Series series, double direction, double value) {
-    switch (series) {
-        case Series::X:
-            return StepByX(direction, value);
-        case Series::Y:
-            return StepByY(direction, value);
-        case Series::Magnitude:
-            return {value * numeric::CosD(direction), value * numeric::SinD(direction)};
-        case Series::None:
-            break;
-    }
-    throw numeric::RuntimeFailure(numeric::FailureCode::TypeMismatch, "series that is not told");
+    if (series == Series::X)
+        return StepByX(direction, value);
+    if (series == Series::Y)
+        return StepByY(direction, value);
+    return {value * numeric::CosD(direction), value * numeric::SinD(direction)};
 }
 
-double FurtherValue(const ChainEntry& entry, std::size_t further) {
-    if (further >= entry.texts.size())
-        throw numeric::RuntimeFailure(numeric::FailureCode::TypeMismatch, "missing value of a chain");
-    return numeric::ToNumber(numeric::Trim(entry.texts[further]));
+ChainRefusal Failed(ChainField field, std::size_t value = 0) {
+    return {std::string(shell::kCommandFailed), field, value};
+}
+
+std::variant<ChainRefusal, Step> FurtherStep(const ChainEntry& entry, const ForceRecord& first,
+                                             std::size_t further) {
+    const std::optional<Series> series = SeriesFor(first, entry.series);
+    if (!series)
+        return Failed(ChainField::Series);
+    const std::string text = further < entry.texts.size() ? numeric::Trim(entry.texts[further]) : "";
+    if (!numeric::IsNum(text))
+        return Failed(ChainField::Value, further);
+    return StepBy(*series, first[vectors::ForceDirection].Number(), numeric::ToNumber(text));
 }
 
 // Of the pair that begins at the letter `pair` of the chain.
-Step StepOf(const ChainEntry& entry, const ForceRecord& first, std::size_t pair) {
-    if (pair == 0)
-        return {first[vectors::ForceX].Number(), first[vectors::ForceY].Number()};
-    return StepBy(SeriesFor(first, entry.series), first[vectors::ForceDirection].Number(),
-                  FurtherValue(entry, pair - 1));
+std::variant<ChainRefusal, Step> StepOf(const ChainEntry& entry, const ForceRecord& first, std::size_t pair) {
+    if (pair > 0)
+        return FurtherStep(entry, first, pair - 1);
+    return Step{first[vectors::ForceX].Number(), first[vectors::ForceY].Number()};
 }
 
 std::optional<Refusal> CheckPair(const std::string& from, const std::string& to, const PointTable& known) {
@@ -150,24 +156,27 @@ bool NeedsSeries(std::string_view format_code) {
     return format_code == vectors::kQuadrantComponent || format_code == vectors::kComponents;
 }
 
-std::variant<Refusal, SegTable> ChainRows(const ChainEntry& entry, const PointTable& known, int decimals) {
+std::variant<ChainRefusal, SegTable> ChainRows(const ChainEntry& entry, const PointTable& known,
+                                               int decimals) {
     if (const auto refusal = CheckCommandChain(entry.chain))
-        return *refusal;
+        return ChainRefusal{refusal->text, ChainField::Chain};
     const auto parsed = vectors::ParseForce(entry.vector, decimals);
     if (const auto* refusal = std::get_if<Refusal>(&parsed))
-        return *refusal;
+        return ChainRefusal{refusal->text, ChainField::Vector};
     const auto& first = std::get<ForceRecord>(parsed);
     const std::vector<std::string> letters = LettersOf(entry.chain);
     if (const auto refusal = CheckVector(first, letters.size() - 1))
-        return *refusal;
+        return ChainRefusal{refusal->text, ChainField::Vector};
     SegTable rows;
     for (std::size_t pair = 0; pair + 1 < letters.size(); ++pair) {
         const std::string& from = letters[pair];
         const std::string& to = letters[pair + 1];
         if (const auto refusal = CheckPair(from, to, known))
+            return ChainRefusal{refusal->text, ChainField::Chain};
+        const auto step = StepOf(entry, first, pair);
+        if (const auto* refusal = std::get_if<ChainRefusal>(&step))
             return *refusal;
-        const Step step = StepOf(entry, first, pair);
-        rows.push_back({from, to, step.dx, step.dy});
+        rows.push_back({from, to, std::get<Step>(step).dx, std::get<Step>(step).dy});
     }
     return rows;
 }

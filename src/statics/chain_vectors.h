@@ -23,11 +23,20 @@ struct ChainEntry {
 /// Reads code points, so "AÑ" is two characters.
 std::optional<Refusal> CheckChain(std::string_view chain);
 
+/// The part of the entry that a refusal is about.
+enum class ChainField { Chain, Vector, Series, Value };
+
+struct ChainRefusal {
+    std::string text;
+    ChainField field;
+    std::size_t value = 0;  // place in the texts, for a value
+};
+
 /// The rows of a chain, one for each pair of neighbouring letters. All vectors have the direction of the
 /// first one. `known` are the points that have coordinates before the command: a pair whose two ends are
-/// among them is refused. Throws RuntimeFailure when a further value is missing or no number, or its series
-/// is not told (TypeMismatch), and on a value past the range of a double (Overflow).
-std::variant<Refusal, SegTable> ChainRows(const ChainEntry& entry, const PointTable& known, int decimals);
+/// among them is refused. Throws RuntimeFailure (Overflow) where a component has no value.
+std::variant<ChainRefusal, SegTable> ChainRows(const ChainEntry& entry, const PointTable& known,
+                                               int decimals);
 
 /// Whether the format's further vectors need to be told in which quantity they are given.
 bool NeedsSeries(std::string_view format_code);

@@ -66,7 +66,7 @@ inline constexpr ComponentColumns kYColumns = {YComponent, YCoefficient, YUnknow
 /// The row of a parsed force; its start on the canvas is left empty.
 ForceRow RowOf(const vectors::ForceRecord& record);
 
-/// Whether the user has to be asked in which direction to draw the force.
+/// Whether the force has no direction to be drawn in: an unknown one, or unknown components.
 bool DirectionIsUnknown(const ForceRow& row);
 
 /// Direction in degrees at which an unknown one is drawn when nobody is asked.

@@ -256,22 +256,12 @@ void Parts::CancelChosen() {
         EraseForces();
         DrawForceAxes(m_form.pic1.Canvas(), false, vectors::GetRotAngle(m_form));
     } else {
-        RemoveGridRow(static_cast<std::size_t>(chosen));
+        m_form.gdEqui.RemoveNumberedRow(chosen);
         m_forces.erase(m_forces.begin() + (chosen - 1));
         PlaceAllForces();
         DrawForces();
     }
     m_form.SetFocus(m_form.txtVector);
-}
-
-/// The rows below move up; the numbers in front stay, so that the rows stay numbered.
-void Parts::RemoveGridRow(std::size_t index) {
-    shell::Grid& grid = m_form.gdEqui;
-    const int last = grid.Rows() - 1;
-    for (int row = static_cast<int>(index); row < last; ++row)
-        for (const GridCol col : {kForce, kFx, kFy})
-            grid.SetCell(row, col, grid.Cell(row + 1, col));
-    grid.RemoveRow(last);
 }
 
 void Parts::PlaceAllForces() {

@@ -52,7 +52,6 @@ class Parts {
     /// Asks in which direction to draw a force of unknown direction; false when the user gave no number.
     bool AskDrawDirection(ForceRow& row);
     void AddToGrid(const ForceRow& row);
-    void RemoveGridRow(std::size_t index);
     void PlaceAllForces();
     void EraseForces();
     void SetEntering(bool entering);

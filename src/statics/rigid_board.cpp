@@ -1,5 +1,8 @@
 #include "statics/rigid_board.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "numeric/number_text.h"
 #include "shell/guard.h"
 #include "statics/rigid_grid.h"
@@ -17,11 +20,6 @@ double DirectionOf(const std::optional<std::string>& answer) {
 
 }  // namespace
 
-const std::string& RigidProblem::LettersOfSystem(int system) const {
-    static const std::string kNone;
-    return system >= 1 && system <= kSystems ? systems[static_cast<std::size_t>(system) - 1] : kNone;
-}
-
 void RigidBoard::Redraw() {
     AskDrawDirections();
     Draw();
@@ -29,7 +27,7 @@ void RigidBoard::Redraw() {
 
 void RigidBoard::AskDrawDirections() {
     for (BodyForce& force : m_problem.forces)
-        if (m_problem.shown[static_cast<std::size_t>(force.body) - 1] && NeedsDrawDirection(force))
+        if (m_problem.IsShown(force.body) && NeedsDrawDirection(force))
             SetDrawDirection(
                 force, DirectionOf(m_form.boxes.AskText("¿A qué ángulo deseas trazar esta fuerza en el DCL?",
                                                         shell::kProgramTitle)));
@@ -58,21 +56,25 @@ void RigidBoard::AddGridRow(const BodyForce& force) {
                        force.force[XText].Text(), force.force[YText].Text(), force.couple_text});
 }
 
-/// The numbers in front stay, so that the rows stay numbered.
 void RigidBoard::RemoveForce(std::size_t row) {
-    shell::Grid& grid = m_form.gd1;
     m_problem.forces.erase(m_problem.forces.begin() + static_cast<std::ptrdiff_t>(row) - 1);
-    const int last = grid.Rows() - 1;
-    for (int moved = static_cast<int>(row); moved < last; ++moved)
-        for (int col = kForceBody; col < grid.Cols(); ++col)
-            grid.SetCell(moved, col, grid.Cell(moved + 1, col));
-    grid.RemoveRow(last);
+    m_form.gd1.RemoveNumberedRow(static_cast<int>(row));
 }
 
 void RigidBoard::ShowForces() {
     ArrangeGd1(m_form);
     for (const BodyForce& force : m_problem.forces)
         AddGridRow(force);
+}
+
+void RigidBoard::Hide(int system) {
+    m_problem.Show(system, false);
+    m_form.optDCL[system - 1].Uncheck();
+    m_form.optShowDCL[system - 1].Uncheck();
+    const std::vector<std::string>& bodies = m_form.lstDCL.Items();
+    const auto row = std::ranges::find(bodies, std::to_string(system)) - bodies.begin();
+    if (row < std::ssize(bodies))
+        m_form.lstDCL.RemoveItem(static_cast<int>(row));
 }
 
 void RigidBoard::DropDiagrams() {

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "shell/form1.h"
+#include "statics/rigid_picture.h"
 #include "statics/rigid_problem.h"
 
 namespace tavrelo::statics {
@@ -33,6 +34,8 @@ class RigidBoard {
     void RemoveForce(std::size_t row);
     /// `gd1` as the table of forces stands, each component as its format wrote it.
     void ShowForces();
+    /// Takes a system's diagram out of view and its number out of the list of bodies.
+    void Hide(int system);
     /// No forces, no backup, no diagram in view.
     void DropDiagrams();
 

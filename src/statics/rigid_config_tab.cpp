@@ -49,18 +49,49 @@ std::string Joined(const std::vector<std::string>& letters) {
     return text;
 }
 
-/// The structure with a chain of vectors more.
-std::variant<Refusal, Structure> Extended(const RigidProblem& problem, const ChainEntry& entry,
-                                          int decimals) {
-    auto rows = ChainRows(entry, problem.points, decimals);
-    if (const auto* refusal = std::get_if<Refusal>(&rows))
-        return *refusal;
-    SegTable segments = problem.segments;
-    std::ranges::move(std::get<SegTable>(rows), std::back_inserter(segments));
+bool IsDiagramWord(const std::string& chain) {
+    return std::ranges::find(kDiagramWords, chain) != kDiagramWords.end();
+}
+
+/// The structure that the vectors make, seen from the origin.
+std::variant<Refusal, Structure> StructureOf(SegTable segments, const std::string& origin) {
     auto points = ComputeCoords(segments);
-    if (const auto* refusal = std::get_if<Refusal>(&points))
-        return *refusal;
-    return Structure{std::move(segments), std::get<PointTable>(std::move(points))};
+    if (auto* refusal = std::get_if<Refusal>(&points))
+        return std::move(*refusal);
+    Structure structure{std::move(segments), std::get<PointTable>(std::move(points)), origin};
+    if (auto refusal = MoveOrigin(structure.points, origin))
+        return std::move(*refusal);
+    return structure;
+}
+
+/// The structure with a chain of vectors more. The first point of all is its origin.
+std::variant<ChainRefusal, Structure> Extended(const Structure& structure, const ChainEntry& entry,
+                                               int decimals) {
+    auto rows = ChainRows(entry, structure.points, decimals);
+    if (auto* refusal = std::get_if<ChainRefusal>(&rows))
+        return std::move(*refusal);
+    SegTable segments = structure.segments;
+    std::ranges::move(std::get<SegTable>(rows), std::back_inserter(segments));
+    const std::string origin = structure.segments.empty() ? segments.front().from : structure.origin;
+    auto extended = StructureOf(std::move(segments), origin);
+    if (const auto* refusal = std::get_if<Refusal>(&extended))
+        return ChainRefusal{refusal->text, ChainField::Vector};
+    return std::get<Structure>(std::move(extended));
+}
+
+/// The structure without its last vector, or without as many as it takes until no points coincide; an empty
+/// one when none remains. An origin that is lost becomes the first point.
+Structure Shortened(SegTable segments, const std::string& origin) {
+    while (segments.size() > 1) {
+        segments.pop_back();
+        auto points = ComputeCoords(segments);
+        if (std::holds_alternative<Refusal>(points))
+            continue;
+        const bool is_lost = PointIndex(std::get<PointTable>(points), origin) == 0;
+        auto structure = StructureOf(segments, is_lost ? segments.front().from : origin);
+        return std::get<Structure>(std::move(structure));
+    }
+    return {};
 }
 
 }  // namespace
@@ -124,11 +155,8 @@ void ConfigTab::EnterChain() {
     shell::TextBox& box = m_form.txtSegm[kChainBox];
     const std::string chain = numeric::ToUpper(numeric::Trim(box.Text()));
     box.SetText(chain);
-    if (std::ranges::find(kDiagramWords, chain) != kDiagramWords.end()) {
-        if (OnDiagramsWanted)
-            OnDiagramsWanted();
-        return;
-    }
+    if (IsDiagramWord(chain))
+        return OnDiagramsWanted();
     if (const auto refusal = CheckChain(chain))
         return m_board.Refuse(*refusal, box);
     m_form.lblSegm[kFirstPairLabel].SetCaption(chain.substr(0, 2));
@@ -181,11 +209,11 @@ void ConfigTab::GoBehind(int index) {
         m_form.SetFocus(m_form.cmdOK);
 }
 
-/// The values of the further pairs, as typed.
+/// The values of the further pairs, as typed; none in a box that is closed.
 std::vector<std::string> ConfigTab::Magnitudes() const {
     std::vector<std::string> texts;
     for (int index = kFirstMagnitudeBox; index <= kLastMagnitudeBox; ++index)
-        texts.push_back(numeric::Trim(m_form.txtSegm[index].Text()));
+        texts.push_back(m_form.txtSegm[index].Enabled() ? numeric::Trim(m_form.txtSegm[index].Text()) : "");
     return texts;
 }
 
@@ -194,34 +222,52 @@ void ConfigTab::AddVectors() {
     const std::string vector = numeric::Trim(m_form.txtSegm[kVectorBox].Text());
     if (chain.empty() || vector.empty())
         return;
+    if (IsDiagramWord(chain))
+        return OnDiagramsWanted();
     const std::vector<std::string> magnitudes = Magnitudes();
     auto extended =
         Extended(m_problem, {chain, vector, m_form.txtRepeat.Text(), magnitudes}, m_board.Decimals());
-    if (const auto* refusal = std::get_if<Refusal>(&extended))
-        return m_board.Refuse(*refusal, m_form.txtSegm[CheckChain(chain) ? kChainBox : kVectorBox]);
+    if (const auto* refusal = std::get_if<ChainRefusal>(&extended))
+        return m_board.Refuse({refusal->text}, BoxOf(*refusal));
     if (m_problem.segments.empty())
-        BeginAt(chain.substr(0, 1));
-    TakeStructure(std::get<Structure>(std::move(extended)));
+        BeginAt(std::get<Structure>(extended).origin);
+    const auto unknown_origin = TakeStructure(std::get<Structure>(std::move(extended)));
+    m_board.Redraw();
+    ShowSeps();
     RestoreConfigCtrls();
     m_form.SetFocus(m_form.txtSegm[kChainBox]);
+    if (unknown_origin)
+        m_board.Refuse(*unknown_origin, m_form.txtOrigin);
+}
+
+shell::TextBox& ConfigTab::BoxOf(const ChainRefusal& refusal) const {
+    if (refusal.field == ChainField::Series)
+        return m_form.txtRepeat;
+    if (refusal.field == ChainField::Value)
+        return m_form.txtSegm[kFirstMagnitudeBox + static_cast<int>(refusal.value)];
+    return m_form.txtSegm[refusal.field == ChainField::Chain ? kChainBox : kVectorBox];
 }
 
 /// The first point is the origin and the reference point of every system.
 void ConfigTab::BeginAt(const std::string& point) {
-    m_problem.origin = point;
     m_form.txtOrigin.SetText(point);
     for (const auto& [index, box] : m_form.txtRefPt.Items())
         box->SetText(point);
 }
 
-/// The new vectors and points; the points come with the first vector's start as origin.
-void ConfigTab::TakeStructure(Structure structure) {
-    m_problem.segments = std::move(structure.segments);
-    m_problem.points = std::move(structure.points);
-    MoveOrigin(m_problem.points, m_problem.origin);
+/// Puts a structure in the place of the problem's own, seen from the origin that is typed; when that has no
+/// coordinates, as it comes, and tells so.
+std::optional<Refusal> ConfigTab::TakeStructure(Structure structure) {
+    const std::string origin = numeric::ToUpper(numeric::Trim(m_form.txtOrigin.Text()));
+    auto refusal = MoveOrigin(structure.points, origin);
+    if (!refusal) {
+        structure.origin = origin;
+        m_form.txtOrigin.SetText(origin);
+    }
+    static_cast<Structure&>(m_problem) = std::move(structure);
+    RefreshPlaces(m_problem.forces, m_problem.points);
     ShowCoords();
-    m_board.Redraw();
-    ShowSeps();
+    return refusal;
 }
 
 void ConfigTab::RestoreConfigCtrls() {
@@ -235,30 +281,22 @@ void ConfigTab::RestoreConfigCtrls() {
 void ConfigTab::CancelLastVector() {
     if (m_problem.segments.empty())
         return;
+    Structure shorter = Shortened(m_problem.segments, m_problem.origin);
     if (!m_problem.forces.empty() &&
         m_form.boxes.ShowMessage("Esta acción borrará los DCL's. ¿Deseas proseguir?", shell::kProgramTitle,
                                  shell::Buttons::YesNo) != Answer::Yes)
         return;
-    SegTable segments = m_problem.segments;
-    segments.pop_back();
-    if (segments.empty())
+    if (shorter.segments.empty())
         return EraseStructure();
-    auto points = ComputeCoords(segments);
-    if (const auto* refusal = std::get_if<Refusal>(&points))
-        return m_form.boxes.Tell(refusal->text);
+    if (shorter.origin != m_problem.origin)
+        m_form.txtOrigin.SetText(shorter.origin);
+    const auto unknown_origin = TakeStructure(std::move(shorter));
     m_board.DropDiagrams();
-    Shorten({std::move(segments), std::get<PointTable>(std::move(points))});
-}
-
-/// Takes a structure with a vector less.
-void ConfigTab::Shorten(Structure structure) {
-    if (PointIndex(structure.points, m_problem.origin) == 0) {
-        m_problem.origin = structure.segments.front().from;
-        m_form.txtOrigin.SetText(m_problem.origin);
-    }
-    TakeStructure(std::move(structure));
+    ShowSeps();
     ForgetLostLetters();
     m_board.Draw();
+    if (unknown_origin)
+        m_board.Refuse(*unknown_origin, m_form.txtOrigin);
 }
 
 /// Letters that no vector holds any more leave the systems, and the lines through them go.
@@ -275,6 +313,7 @@ void ConfigTab::EraseStructure() {
     m_problem = {};
     Clear();
     m_board.Draw();
+    OnErased();
 }
 
 void ConfigTab::Clear() {
@@ -293,24 +332,13 @@ void ConfigTab::Clear() {
 void ConfigTab::ChangeOrigin() {
     if (m_problem.segments.empty())
         return;
-    if (ShowCoords())
-        m_board.Redraw();
+    if (const auto refusal = TakeStructure(m_problem))
+        return m_board.Refuse(*refusal, m_form.txtOrigin);
+    m_board.Redraw();
 }
 
-/// Applies the origin that is typed and fills the list of coordinates; a refusal is shown and moves nothing
-/// (false).
-bool ConfigTab::ShowCoords() {
-    const std::string origin = numeric::ToUpper(numeric::Trim(m_form.txtOrigin.Text()));
-    const std::optional<Refusal> refusal = MoveOrigin(m_problem.points, origin);
-    if (!refusal) {
-        m_problem.origin = origin;
-        m_form.txtOrigin.SetText(origin);
-    }
-    RefreshPlaces(m_problem.forces, m_problem.points);
+void ConfigTab::ShowCoords() {
     m_form.lstCoords.SetItems(CoordLines(m_problem.segments, m_problem.points, m_board.Decimals()));
-    if (refusal)
-        m_board.Refuse(*refusal, m_form.txtOrigin);
-    return !refusal;
 }
 
 /// Fills the lists of vectors and of letters; system 1 is all letters. All of them show as chosen, which is
@@ -335,12 +363,15 @@ void ConfigTab::ChooseSystemPoints() {
     for (std::size_t row = 0; row < items.size(); ++row)
         if (m_form.lstSysts.IsChosen(static_cast<int>(row)))
             letters += items[row];
-    SetSystem(m_form.spnColor.Value(), std::move(letters));
+    const int system = m_form.spnColor.Value();
+    if (letters.empty())
+        m_board.Hide(system);
+    SetSystem(system, std::move(letters));
     m_board.Draw();
 }
 
 void ConfigTab::ShowSystemChoice() {
-    const std::string& letters = m_problem.LettersOfSystem(m_form.spnColor.Value());
+    const std::string_view letters = m_problem.LettersOfSystem(m_form.spnColor.Value());
     const std::vector<std::string>& items = m_form.lstSysts.Items();
     for (std::size_t row = 0; row < items.size(); ++row)
         m_form.lstSysts.SetChosen(static_cast<int>(row), letters.find(items[row]) != std::string::npos);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,8 +20,9 @@ class ConfigTab {
     /// Empties the page: boxes, lists and systems, the selector at 1.
     void Clear();
 
-    /// The word for the diagrams was typed in place of a chain.
-    std::function<void()> OnDiagramsWanted;
+    // Set by the tool.
+    std::function<void()> OnDiagramsWanted;  // the word for the diagrams was typed in place of a chain
+    std::function<void()> OnErased;          // the last vector was cancelled
 
   private:
     void Wire();
@@ -40,12 +42,12 @@ class ConfigTab {
     void CancelLastVector();  // cmdConfig(0)
     std::vector<std::string> Magnitudes() const;
     void BeginAt(const std::string& point);
-    void TakeStructure(Structure structure);
-    void Shorten(Structure structure);
+    std::optional<Refusal> TakeStructure(Structure structure);
+    shell::TextBox& BoxOf(const ChainRefusal& refusal) const;
     void ForgetLostLetters();
     void EraseStructure();
     void ChangeOrigin();  // cmdUpdate, Enter in txtOrigin
-    bool ShowCoords();
+    void ShowCoords();
     void ShowSeps();
 
     void SetSystem(int system, std::string letters);

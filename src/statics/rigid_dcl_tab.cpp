@@ -32,10 +32,6 @@ bool IsOneOf(std::span<const std::string_view> words, std::string_view text) {
     return std::ranges::find(words, text) != words.end();
 }
 
-Refusal NotDefined(const std::string& system) {
-    return Refusal{"No se ha definido el sistema " + system + "."};
-}
-
 bool StartsSeries(std::string_view force) { return force.starts_with('h') || force.starts_with('v'); }
 
 /// What is wrong with a chain of points as a text.
@@ -81,6 +77,15 @@ int DclTab::Body() const {
     return is_system ? text[0] - '0' : 0;
 }
 
+/// Whether the number of a body is typed; any other text is refused.
+bool DclTab::HasBody() {
+    if (Body() != 0)
+        return true;
+    shell::TextBox& box = m_form.txtBody[kBodyBox];
+    m_board.Refuse(SystemNotDefined(numeric::Trim(box.Text())), box);
+    return false;
+}
+
 std::string DclTab::PointsText() const {
     return numeric::ToUpper(numeric::Trim(m_form.txtBody[kPointsBox].Text()));
 }
@@ -93,20 +98,20 @@ bool DclTab::ShowBody(int system) {
     m_form.txtBody[kBodyBox].SetText(std::to_string(system));
     m_form.optDCL[system - 1].Choose();
     m_problem.shown.fill(false);
-    m_problem.shown[static_cast<std::size_t>(system) - 1] = true;
+    m_problem.Show(system, true);
     m_board.Redraw();
     return true;
 }
 
 void DclTab::ChooseBody(int system) {
     if (!ShowBody(system))
-        m_form.boxes.Tell(NotDefined(std::to_string(system)).text);
+        m_form.boxes.Tell(SystemNotDefined(std::to_string(system)).text);
 }
 
 void DclTab::EnterBody() {
     shell::TextBox& box = m_form.txtBody[kBodyBox];
     if (!ShowBody(Body()))
-        return m_board.Refuse(NotDefined(numeric::Trim(box.Text())), box);
+        return m_board.Refuse(SystemNotDefined(numeric::Trim(box.Text())), box);
     m_form.SetFocus(m_form.txtBody[kPointsBox]);
 }
 
@@ -114,11 +119,11 @@ void DclTab::EnterPoints() {
     shell::TextBox& box = m_form.txtBody[kPointsBox];
     const std::string text = PointsText();
     box.SetText(text);
-    if (IsOneOf(kConfigurationWords, text) && OnConfigurationWanted)
+    if (IsOneOf(kConfigurationWords, text))
         return OnConfigurationWanted();
-    if (IsOneOf(kEquationWords, text) && OnEquationsWanted)
+    if (IsOneOf(kEquationWords, text))
         return OnEquationsWanted();
-    if (text.empty())
+    if (text.empty() || !HasBody())
         return;
     if (const auto refusal = CheckLetters(text))
         return m_board.Refuse(*refusal, box);
@@ -193,7 +198,7 @@ void DclTab::EnterNextForce(int index) {
 }
 
 void DclTab::AddForces() {
-    if (ForceText(0).empty())
+    if (ForceText(0).empty() || !HasBody())
         return;
     if (const auto refusal = CheckPoints())
         return m_board.Refuse(*refusal, m_form.txtBody[kPointsBox]);
@@ -261,7 +266,7 @@ void DclTab::AddGlobalForces() {
                    return own.body == body && own.point == force.point && own.text == force.text;
                });
     };
-    if (body == 1)
+    if (!HasBody() || body == 1)
         return;
     BodyForces added;
     std::ranges::copy_if(m_problem.forces, std::back_inserter(added), is_new);

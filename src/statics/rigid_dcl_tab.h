@@ -18,7 +18,7 @@ class DclTab {
     /// The page as it is at the start; the table of forces stays.
     void RestoreDCLCtrls();
 
-    /// The word for the configuration, or for the equations, was typed in place of points.
+    // Set by the tool: the word for the configuration, or for the equations, was typed in place of points.
     std::function<void()> OnConfigurationWanted;
     std::function<void()> OnEquationsWanted;
 
@@ -39,6 +39,7 @@ class DclTab {
 
     bool ShowBody(int system);
     int Body() const;
+    bool HasBody();
     std::string PointsText() const;
     std::vector<std::string> Points() const;
     std::optional<Refusal> CheckPoint(const std::string& point) const;

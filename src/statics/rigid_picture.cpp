@@ -1,12 +1,10 @@
 #include "statics/rigid_picture.h"
 
+#include <array>
 #include <cstdint>
 
-#include "numeric/angles.h"
-#include "numeric/number_text.h"
 #include "statics/dcl_drawing.h"
 #include "statics/structure_drawing.h"
-#include "statics/unknowns.h"
 
 namespace tavrelo::statics {
 namespace {
@@ -19,7 +17,7 @@ shell::Color SystemColor(int system) {
     return shell::FromBgr(kSystemColors[static_cast<std::size_t>(system) - 1]);
 }
 
-void RedrawAll(shell::Surface& canvas, const RigidScene& scene) {
+void RedrawAll(shell::Surface& canvas, RigidScene scene) {
     canvas.Cls();
     RigidSheet sheet(canvas);
     if (scene.points.empty())
@@ -35,18 +33,6 @@ void RedrawAll(shell::Surface& canvas, const RigidScene& scene) {
 void DrawOver(shell::Surface& canvas, const PointTable& points, const LineRow& line) {
     RigidSheet sheet(canvas);
     DrawChain(sheet, points, line);
-}
-
-bool NeedsDrawDirection(const BodyForce& force) {
-    return ReadUnknown(force.force[XUnknown].Text()).HasAngle() &&
-           !numeric::IsNum(force.force[DrawDirection]);
-}
-
-void SetDrawDirection(BodyForce& force, double degrees) {
-    const numeric::ClockReading clock = numeric::ClockOf(numeric::CosD(degrees), numeric::SinD(degrees));
-    force.force[DrawDirection] = degrees;
-    force.force[Hour] = clock.hour;
-    force.force[ClockAngle] = clock.angle;
 }
 
 }  // namespace tavrelo::statics

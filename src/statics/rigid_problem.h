@@ -1,23 +1,16 @@
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "statics/body_force.h"
-#include "statics/rigid_picture.h"
 #include "statics/structure.h"
 
 namespace tavrelo::statics {
 
-/// Separation vectors and the points that they lead to.
-struct Structure {
-    SegTable segments;
-    PointTable points;
-};
-
 /// Everything that a problem of rigid bodies consists of. It outlasts a change of tool; only the new-problem
 /// command empties it.
-struct RigidProblem {
-    SegTable segments;
-    PointTable points;   // of the letters that the vectors reach from the first point on
-    std::string origin;  // letter of the point at (0, 0); empty without vectors
+struct RigidProblem : Structure {
     SystemPoints systems;
     LineTable lines;
     BodyForces forces;
@@ -25,8 +18,14 @@ struct RigidProblem {
     ShownDCL shown{};
 
     /// The letters of a system (1 to 5); empty for one that is not defined or does not exist.
-    const std::string& LettersOfSystem(int system) const;
+    std::string_view LettersOfSystem(int system) const;
     bool IsDefined(int system) const { return !LettersOfSystem(system).empty(); }
+    /// Whether the system's diagram is in view.
+    bool IsShown(int system) const { return shown[static_cast<std::size_t>(system) - 1]; }
+    void Show(int system, bool in_view) { shown[static_cast<std::size_t>(system) - 1] = in_view; }
 };
+
+/// What is told about a system, by its number as typed, that is not defined.
+Refusal SystemNotDefined(std::string_view system);
 
 }  // namespace tavrelo::statics

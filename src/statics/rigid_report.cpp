@@ -11,8 +11,6 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr std::string_view kMarks = "/\\!;#$¡";
-
 std::string Heading(const std::string& text) { return "\\0100" + text + "\\"; }
 
 Lines Opening(const BodyEquations& equations) {
@@ -40,26 +38,33 @@ Lines Solutions(const BodyResults& results, int decimals) {
     return lines;
 }
 
-/// At least as many as the rendering counts.
 std::size_t MarksOf(const Lines& lines) {
     std::size_t marks = 1;  // the end mark
     for (const std::string& line : lines)
-        marks += static_cast<std::size_t>(std::ranges::count_if(
-            line, [](char each) { return kMarks.find(each) != std::string_view::npos; }));
+        marks += shell::CountMarks(line);
     return marks;
 }
 
-void Append(Lines& lines, const Lines& more) { std::ranges::copy(more, std::back_inserter(lines)); }
+/// The portion as it is, or line by line when one rendering does not take it.
+std::vector<Lines> Divided(const Lines& portion) {
+    if (MarksOf(portion) <= shell::kMarkLimit)
+        return {portion};
+    std::vector<Lines> lines;
+    for (const std::string& line : portion)
+        lines.push_back({line});
+    return lines;
+}
 
 /// Joins neighbouring portions while one rendering takes them.
 ReportPortions Packed(const std::vector<Lines>& portions) {
     ReportPortions packed;
-    for (const Lines& portion : portions) {
-        if (!packed.empty() && MarksOf(packed.back()) + MarksOf(portion) <= shell::kMarkLimit)
-            Append(packed.back(), portion);
-        else
-            packed.push_back(portion);
-    }
+    for (const Lines& portion : portions)
+        for (const Lines& part : Divided(portion)) {
+            if (!packed.empty() && MarksOf(packed.back()) + MarksOf(part) <= shell::kMarkLimit)
+                std::ranges::copy(part, std::back_inserter(packed.back()));
+            else
+                packed.push_back(part);
+        }
     return packed;
 }
 

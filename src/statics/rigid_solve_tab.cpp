@@ -38,7 +38,7 @@ void SolveTab::RunCommand(int index) {
         case kRestore:
             return Restore();
         case kNewProblem:
-            return OnNewProblem ? OnNewProblem() : void();
+            return OnNewProblem();
         case kUpdate:
             return Update();
         default:
@@ -48,26 +48,17 @@ void SolveTab::RunCommand(int index) {
 
 /// The system's diagram comes into view beside the others, and its number into the list, chosen.
 void SolveTab::ShowSystem(int system) {
+    const std::string number = std::to_string(system);
     if (!m_problem.IsDefined(system)) {
         m_form.optShowDCL[system - 1].Uncheck();
-        return m_form.boxes.Tell("No se ha definido el sistema " + std::to_string(system) + ".");
+        return m_form.boxes.Tell(SystemNotDefined(number).text);
     }
-    m_problem.shown[static_cast<std::size_t>(system) - 1] = true;
+    m_problem.Show(system, true);
     m_board.Redraw();
     shell::ListBox& list = m_form.lstDCL;
-    std::vector<std::string> items = list.Items();
-    const std::string number = std::to_string(system);
-    const auto row = static_cast<int>(std::ranges::find(items, number) - items.begin());
-    if (row < static_cast<int>(items.size()))
-        return list.SetChosen(row, true);
-    std::vector<bool> chosen;
-    for (int each = 0; each < row; ++each)
-        chosen.push_back(list.IsChosen(each));
-    chosen.push_back(true);
-    items.push_back(number);
-    list.SetItems(std::move(items));
-    for (int each = 0; each <= row; ++each)
-        list.SetChosen(each, chosen[static_cast<std::size_t>(each)]);
+    if (std::ranges::find(list.Items(), number) == list.Items().end())
+        list.AddItem(number);
+    list.SetChosen(static_cast<int>(std::ranges::find(list.Items(), number) - list.Items().begin()), true);
 }
 
 void SolveTab::ClearList() {
@@ -141,22 +132,28 @@ void SolveTab::SolveDCL() {
     const auto equations = Equations(*bodies);
     if (!equations)
         return;
-    auto outcome = SolveEquations(*equations, bodies->size());
-    if (const auto* refusal = std::get_if<Refusal>(&outcome))
-        return m_form.boxes.Tell(refusal->text);
-    BodyResults results;
-    if (const auto* choice = std::get_if<BodyChoice>(&outcome)) {
-        const auto answer = m_form.boxes.ShowMessage(QuestionBetween(*choice, m_board.Decimals()),
-                                                     shell::kProgramTitle, shell::Buttons::YesNo);
-        results = (*choice)[answer == shell::Answer::Yes ? 0 : 1];
-    } else {
-        results = std::get<BodyResults>(std::move(outcome));
-    }
+    const auto results = Results(SolveEquations(*equations, bodies->size()));
+    if (!results)
+        return;
     BodyForces solved = m_problem.forces;
-    UpdateBodyForces(solved, results, m_board.Decimals());
-    Write(*bodies, *equations, results);
+    UpdateBodyForces(solved, *results, m_board.Decimals());
+    Write(*bodies, *equations, *results);
     m_problem.forces = std::move(solved);
     m_board.Redraw();
+}
+
+/// The only results, or those of two that the user chooses; nothing after a refusal, which is shown.
+std::optional<BodyResults> SolveTab::Results(const BodyOutcome& outcome) {
+    if (const auto* refusal = std::get_if<Refusal>(&outcome)) {
+        m_form.boxes.Tell(refusal->text);
+        return {};
+    }
+    if (const auto* only = std::get_if<BodyResults>(&outcome))
+        return *only;
+    const auto& choice = std::get<BodyChoice>(outcome);
+    const auto answer = m_form.boxes.ShowMessage(QuestionBetween(choice, m_board.Decimals()),
+                                                 shell::kProgramTitle, shell::Buttons::YesNo);
+    return choice[answer == shell::Answer::Yes ? 0 : 1];
 }
 
 /// The forces as they were before the last solution.

@@ -16,15 +16,14 @@ class SolveTab {
   public:
     explicit SolveTab(RigidBoard& board);
 
-    void SolveDCL();
-
-    /// The new problem was asked for.
+    /// Set by the tool: a new problem was asked for.
     std::function<void()> OnNewProblem;
 
   private:
     void Wire();
     void RunCommand(int index);  // cmdVMb
 
+    void SolveDCL();
     void ShowSystem(int system);  // optShowDCL
     void ClearList();             // cmdClearLstDCL
     void ShowEquations();         // cmdShowIncsEqns
@@ -35,6 +34,7 @@ class SolveTab {
     std::optional<std::vector<ChosenBody>> ChosenBodies();
     /// Their equations; nothing after a refusal.
     std::optional<BodyEquations> Equations(const std::vector<ChosenBody>& bodies);
+    std::optional<BodyResults> Results(const BodyOutcome& outcome);
     void Write(std::span<const ChosenBody> bodies, const BodyEquations& equations,
                const BodyResults& results);
 

@@ -24,6 +24,7 @@ RigidBody::RigidBody(shell::Form1& form)
             m_diagrams.Enter();
     };
     m_config.OnDiagramsWanted = [this] { ShowDiagrams(); };
+    m_config.OnErased = [this] { m_diagrams.RestoreDCLCtrls(); };
     m_diagrams.OnConfigurationWanted = [this] { ShowConfiguration(); };
     m_diagrams.OnEquationsWanted = [this] { ShowEquations(); };
     m_equations.OnNewProblem = [this] { NewEstcrProblem(); };

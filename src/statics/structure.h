@@ -49,6 +49,16 @@ using LineTable = std::vector<LineRow>;
 /// The letters of each system in order; empty for one that is not defined. Index 0 is system 1.
 using SystemPoints = std::array<std::string, kSystems>;
 
+/// The systems whose diagrams are in view; index 0 is system 1.
+using ShownDCL = std::array<bool, kSystems>;
+
+/// Separation vectors and the points that they lead to.
+struct Structure {
+    SegTable segments;
+    PointTable points;   // of the letters that the vectors reach from the first point on
+    std::string origin;  // letter of the point at (0, 0); empty without vectors
+};
+
 /// Place of the point in the table, from 1; 0 when it is not there.
 std::size_t PointIndex(const PointTable& points, std::string_view name);
 /// The point of that name; null when it is not there.
@@ -70,7 +80,7 @@ std::variant<Refusal, PointTable> ComputeCoords(SegTable& segments);
 
 /// Moves the origin of coordinates to the point of that name; refused when it has no coordinates. Fails with
 /// Overflow, the points unmoved.
-std::optional<Refusal> MoveOrigin(PointTable& points, std::string_view origin);
+[[nodiscard]] std::optional<Refusal> MoveOrigin(PointTable& points, std::string_view origin);
 
 /// One line for each letter: "A = (0, 0)", or "D(?, ?)" where the point has no coordinates.
 std::vector<std::string> CoordLines(const SegTable& segments, const PointTable& points, int decimals);

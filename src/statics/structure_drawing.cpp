@@ -119,7 +119,7 @@ void DrawAxes(RigidSheet& sheet, Point origin, const PointTable& points) {
 
 }  // namespace
 
-void DrawConfig(RigidSheet& sheet, const RigidScene& scene) {
+void DrawConfig(RigidSheet& sheet, RigidScene& scene) {
     const Fit fit = FitTo(sheet.Canvas(), scene.points);
     for (PointRecord& point : scene.points) {
         const Point place = fit.At(point.x, point.y);

@@ -7,7 +7,7 @@ namespace tavrelo::statics {
 
 /// Sets the drawing places of all points, structure and origin in the middle of the sheet with room for
 /// arrows around, and draws the axes through the origin and the points. There must be a point.
-void DrawConfig(RigidSheet& sheet, const RigidScene& scene);
+void DrawConfig(RigidSheet& sheet, RigidScene& scene);
 
 /// Draws one line over the places of the points; a letter without a point breaks it.
 void DrawChain(RigidSheet& sheet, const PointTable& points, const LineRow& line);

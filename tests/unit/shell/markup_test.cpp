@@ -138,6 +138,16 @@ TEST(Markup, EscapedTextShowsAsTyped) {
     }
 }
 
+TEST(Markup, EscapingLeavesTheEndMarkOut) {
+    EXPECT_EQ(EscapeMarks("M¬/2"), "M//2");
+    EXPECT_EQ(Render(EscapeMarks("M¬") + " = 1").PlainText(), "M = 1");
+}
+
+TEST(Markup, CountsEveryMark) {
+    EXPECT_EQ(CountMarks("A!x ;- ¡2 /p/ \\0100\\ $ # ¬"), 10u);
+    EXPECT_EQ(CountMarks("Ax = -20"), 0u);
+}
+
 TEST(Markup, TheSymbolFontHasAllItsLetters) {
     EXPECT_EQ(SymbolFontCharacter(U'j'), U'ϕ');
     EXPECT_EQ(SymbolFontCharacter(U'J'), U'ϑ');

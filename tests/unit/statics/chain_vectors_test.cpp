@@ -15,7 +15,7 @@ using Texts = std::vector<std::string>;
 
 const PointTable kNone;
 
-std::variant<Refusal, SegTable> Rows(const std::string& chain, const std::string& vector,
+std::variant<ChainRefusal, SegTable> Rows(const std::string& chain, const std::string& vector,
                                      const std::string& series = "", const Texts& texts = {},
                                      const PointTable& known = kNone) {
     return ChainRows({chain, vector, series, texts}, known, kDecimals);
@@ -85,14 +85,14 @@ TEST(ChainRows, RefusesInTheOrderOfItsTests) {
         {"ABC", "u30", "Operación no válida con este formato."},
     };
     for (const RefusedCommand& row : refused)
-        EXPECT_EQ(std::get<Refusal>(Rows(row.chain, row.vector)).text, row.refusal)
+        EXPECT_EQ(std::get<ChainRefusal>(Rows(row.chain, row.vector)).text, row.refusal)
             << row.chain << ' ' << row.vector;
 }
 
 TEST(ChainRows, RefusesAPairWhoseEndsAreBothKnown) {
     const PointTable known = {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}};
     const auto refusal = [&](const char* chain) {
-        return std::get<Refusal>(Rows(chain, "h4", "", Texts{"1", "1"}, known)).text;
+        return std::get<ChainRefusal>(Rows(chain, "h4", "", Texts{"1", "1"}, known)).text;
     };
     EXPECT_EQ(refusal("AB"), "El segmento AB ya está registrado.");
     EXPECT_EQ(refusal("BA"), "El segmento BA ya está registrado.");
@@ -211,12 +211,23 @@ TEST(ChainRows, ReadsOneValueForEachFurtherPair) {
     }
 }
 
-TEST(ChainRows, FailsOnAValueOrASeriesThatIsMissing) {
-    for (const Texts& texts : {Texts{}, Texts{""}, Texts{" "}, Texts{"F"}, Texts{"1,5"}})
-        EXPECT_THROW(Rows("ABC", "h4", "", texts), numeric::RuntimeFailure);
+TEST(ChainRows, TellsWhichValueOrSeriesIsMissing) {
+    for (const Texts& texts : {Texts{}, Texts{""}, Texts{" "}, Texts{"F"}, Texts{"1,5"}}) {
+        const auto refusal = std::get<ChainRefusal>(Rows("ABC", "h4", "", texts));
+        EXPECT_EQ(refusal.text, "Error en el comando.");
+        EXPECT_EQ(refusal.field, ChainField::Value);
+        EXPECT_EQ(refusal.value, 0u);
+    }
+    EXPECT_EQ(std::get<ChainRefusal>(Rows("ABCD", "h4", "", Texts{"1", ""})).value, 1u);
     for (const char* series : {"", "Z", "XY"})
-        for (const char* vector : {"3,4", "s45x,2h"})
-            EXPECT_THROW(Rows("ABC", vector, series, Texts{"6"}), numeric::RuntimeFailure) << series;
+        for (const char* vector : {"3,4", "s45x,2h"}) {
+            const auto refusal = std::get<ChainRefusal>(Rows("ABC", vector, series, Texts{"6"}));
+            EXPECT_EQ(refusal.text, "Error en el comando.");
+            EXPECT_EQ(refusal.field, ChainField::Series) << series;
+        }
+}
+
+TEST(ChainRows, FailsOnAComponentPastTheRange) {
     EXPECT_THROW(Rows("ABC", "1,1000", "X", Texts{"1E+308"}), numeric::RuntimeFailure);
 }
 
