@@ -16,8 +16,8 @@ using Texts = std::vector<std::string>;
 const PointTable kNone;
 
 std::variant<ChainRefusal, SegTable> Rows(const std::string& chain, const std::string& vector,
-                                     const std::string& series = "", const Texts& texts = {},
-                                     const PointTable& known = kNone) {
+                                          const std::string& series = "", const Texts& texts = {},
+                                          const PointTable& known = kNone) {
     return ChainRows({chain, vector, series, texts}, known, kDecimals);
 }
 
