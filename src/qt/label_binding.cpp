@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include "qt/bindings.h"
 #include "qt/fonts.h"
@@ -13,8 +14,18 @@ class ClickLabel : public QLabel {
   public:
     using QLabel::QLabel;
     std::function<void()> OnClick;
+    int word_pitch = 0;  // pixels on the screen
 
   protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (word_pitch == 0)
+            return QLabel::paintEvent(event);
+        QPainter painter(this);
+        const QStringList words = text().split(u' ', Qt::SkipEmptyParts);
+        for (qsizetype i = 0; i < words.size(); ++i)
+            painter.drawText(rect().translated(static_cast<int>(i) * word_pitch, 0),
+                             static_cast<int>(alignment()), words[i]);
+    }
     void mousePressEvent(QMouseEvent* event) override { event->accept(); }
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
@@ -34,6 +45,7 @@ class LabelBinding : public Binding {
     void ShowState() override {
         Binding::ShowState();
         m_widget.setText(ToQString(m_label.Caption()));
+        m_widget.word_pitch = Context().Scaled(m_label.WordPitch());
         if (m_label.OnClick)
             m_widget.setCursor(Qt::PointingHandCursor);
         if (m_widget.font().underline() != m_label.Underlined()) {

@@ -39,8 +39,15 @@ class Shape : public Control {
 class Label : public Control {
   public:
     using Control::Control;
+    /// Pixels at 100 % from the beginning of one word of the caption to the next, for names that stand over a
+    /// row of boxes; 0 shows the caption as a text.
+    int WordPitch() const { return m_word_pitch; }
+    void SetWordPitch(int pixels) { Set(m_word_pitch, pixels); }
     void UserClick();
     Event OnClick;
+
+  private:
+    int m_word_pitch = 0;
 };
 
 /// Where a button's picture stands in a bitmap of the program; pixels at 100 %.

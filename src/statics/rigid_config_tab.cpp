@@ -99,6 +99,9 @@ Structure Shortened(SegTable segments, const std::string& origin) {
 ConfigTab::ConfigTab(RigidBoard& board) : m_board(board), m_form(board.Form()), m_problem(board.Problem()) {
     for (const auto& [index, label] : m_form.lblPoints.Items())
         label->SetForeColor(SystemColor(index + 1));
+    // Each pair stands over the box of its magnitude.
+    m_form.lblSegm[kOtherPairsLabel].SetWordPitch(m_form.txtSegm[kFirstMagnitudeBox + 1].Bounds().left -
+                                                  m_form.txtSegm[kFirstMagnitudeBox].Bounds().left);
     Wire();
 }
 

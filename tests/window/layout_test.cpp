@@ -33,6 +33,16 @@ Caption CaptionOf(const QWidget& widget, const shell::Control& control) {
     return {};
 }
 
+/// Whether anything but the background is painted between two columns of pixels, the second one excluded.
+bool HasInk(const QImage& image, int from, int to) {
+    constexpr int kInk = 200;  // darkest grey of a background
+    for (int x = from; x < to; ++x)
+        for (int y = 0; y < image.height(); ++y)
+            if (qGray(image.pixel(x, y)) < kInk)
+                return true;
+    return false;
+}
+
 }  // namespace
 
 void LayoutTest::CaptionsFit_data() { AddZooms(); }
@@ -46,6 +56,26 @@ void LayoutTest::CaptionsFit() {
         const Caption caption = CaptionOf(widget, *control);
         const double needed = widget.fontMetrics().horizontalAdvance(caption.text) + caption.margins * zoom;
         QVERIFY2(caption.text.isEmpty() || needed <= widget.width() + 1, control->Name().c_str());
+    }
+}
+
+void LayoutTest::PairsStandOverTheirBoxes_data() { AddZooms(); }
+
+void LayoutTest::PairsStandOverTheirBoxes() {
+    QFETCH(double, zoom);
+    TestWindow window;
+    window.PressTool(3);
+    window.view.SetZoom(zoom);
+    window.Form().txtSegm[0].SetText("ABCDEFG");
+    window.Form().txtSegm[0].UserKeyPress(shell::kEnterCharacter);
+    QWidget& pairs = window.Widget("lblSegm(2)");
+    const QImage image = pairs.grab().toImage();
+    for (int box = 2; box <= 6; ++box) {
+        const QRect place = window.view.WidgetOf(window.Form().txtSegm[box]).geometry();
+        const int left = place.left() - pairs.geometry().left();
+        const int middle = left + place.width() / 2;
+        QVERIFY(HasInk(image, left, middle));
+        QVERIFY(!HasInk(image, middle, left + place.width()));
     }
 }
 

@@ -98,6 +98,8 @@ class LayoutTest : public QObject {
     void CaptionsFit();
     void TabsFit_data();
     void TabsFit();
+    void PairsStandOverTheirBoxes_data();
+    void PairsStandOverTheirBoxes();
     void MotionTableNeedsNoScrollBars_data();
     void MotionTableNeedsNoScrollBars();
     void HelpLiesOverEverything();
