@@ -6,6 +6,7 @@
 #include "numeric/number_text.h"
 #include "numeric/utf8.h"
 #include "statics/rigid_lines.h"
+#include "statics/structure_changes.h"
 #include "vectors/vector_format.h"
 
 namespace tavrelo::statics {
@@ -51,47 +52,6 @@ std::string Joined(const std::vector<std::string>& letters) {
 
 bool IsDiagramWord(const std::string& chain) {
     return std::ranges::find(kDiagramWords, chain) != kDiagramWords.end();
-}
-
-/// The structure that the vectors make, seen from the origin.
-std::variant<Refusal, Structure> StructureOf(SegTable segments, const std::string& origin) {
-    auto points = ComputeCoords(segments);
-    if (auto* refusal = std::get_if<Refusal>(&points))
-        return std::move(*refusal);
-    Structure structure{std::move(segments), std::get<PointTable>(std::move(points)), origin};
-    if (auto refusal = MoveOrigin(structure.points, origin))
-        return std::move(*refusal);
-    return structure;
-}
-
-/// The structure with a chain of vectors more. The first point of all is its origin.
-std::variant<ChainRefusal, Structure> Extended(const Structure& structure, const ChainEntry& entry,
-                                               int decimals) {
-    auto rows = ChainRows(entry, structure.points, decimals);
-    if (auto* refusal = std::get_if<ChainRefusal>(&rows))
-        return std::move(*refusal);
-    SegTable segments = structure.segments;
-    std::ranges::move(std::get<SegTable>(rows), std::back_inserter(segments));
-    const std::string origin = structure.segments.empty() ? segments.front().from : structure.origin;
-    auto extended = StructureOf(std::move(segments), origin);
-    if (const auto* refusal = std::get_if<Refusal>(&extended))
-        return ChainRefusal{refusal->text, ChainField::Vector};
-    return std::get<Structure>(std::move(extended));
-}
-
-/// The structure without its last vector, or without as many as it takes until no points coincide; an empty
-/// one when none remains. An origin that is lost becomes the first point.
-Structure Shortened(SegTable segments, const std::string& origin) {
-    while (segments.size() > 1) {
-        segments.pop_back();
-        auto points = ComputeCoords(segments);
-        if (std::holds_alternative<Refusal>(points))
-            continue;
-        const bool is_lost = PointIndex(std::get<PointTable>(points), origin) == 0;
-        auto structure = StructureOf(segments, is_lost ? segments.front().from : origin);
-        return std::get<Structure>(std::move(structure));
-    }
-    return {};
 }
 
 }  // namespace
@@ -284,7 +244,7 @@ void ConfigTab::RestoreConfigCtrls() {
 void ConfigTab::CancelLastVector() {
     if (m_problem.segments.empty())
         return;
-    Structure shorter = Shortened(m_problem.segments, m_problem.origin);
+    Structure shorter = Shortened(m_problem);
     if (!m_problem.forces.empty() &&
         m_form.boxes.ShowMessage("Esta acción borrará los DCL's. ¿Deseas proseguir?", shell::kProgramTitle,
                                  shell::Buttons::YesNo) != Answer::Yes)
