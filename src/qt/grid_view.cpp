@@ -3,7 +3,10 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
+#include <QToolTip>
 #include <cmath>
 
 #include "qt/keys.h"
@@ -24,6 +27,22 @@ void SetUpHeading(QHeaderView& heading) {
     heading.setMinimumSectionSize(1);
 }
 
+/// Whether a text of that width goes beyond the lines around its cell. The margins of the cell it may take.
+bool IsCut(int text_width, const QRect& cell) { return text_width > cell.width() - 2; }
+
+/// Shows the beginning of a text that its cell cuts, and dots.
+class CellDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (IsCut(option->fontMetrics.horizontalAdvance(option->text), option->rect))
+            option->textElideMode = Qt::ElideRight;
+    }
+};
+
 /// The factor that makes a length fit into the room there is, when that takes little; else 1.
 double Shrinking(double length, double room, double lowest_share) {
     return length > room && length * lowest_share <= room ? room / length : 1;
@@ -40,6 +59,7 @@ GridView::GridView(shell::Grid& model, QWidget& parent)
     setCornerButtonEnabled(false);
     setWordWrap(false);
     setTextElideMode(Qt::ElideNone);
+    setItemDelegate(new CellDelegate(this));
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setAttribute(Qt::WA_InputMethodEnabled);
     SetUpHeading(*horizontalHeader());
@@ -129,6 +149,18 @@ GridView::Cell GridView::CellAt(const QPoint& place) const {
     const int y = std::clamp(place.y(), 0, verticalHeader()->length() - verticalHeader()->offset() - 1);
     const QModelIndex index = indexAt({x, y});
     return {index.row() + m_grid.FixedRows(), index.column() + m_grid.FixedCols()};
+}
+
+bool GridView::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QTableView::viewportEvent(event);
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    const QModelIndex index = indexAt(help.pos());
+    const QString text = index.data().toString();
+    if (!IsCut(fontMetrics().horizontalAdvance(text), visualRect(index)))
+        return QTableView::viewportEvent(event);
+    QToolTip::showText(help.globalPos(), text, this, visualRect(index));
+    return true;
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {

@@ -21,6 +21,8 @@ class GridView : public QTableView {
     QPoint BringIntoView(int row, int col);
 
   protected:
+    /// A text that its cell cuts short is told whole under the pointer.
+    bool viewportEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

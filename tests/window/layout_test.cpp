@@ -1,8 +1,10 @@
 #include <QAbstractButton>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTableView>
+#include <QToolTip>
 
 #include "test_window.h"
 #include "tests.h"
@@ -77,6 +79,23 @@ void LayoutTest::PairsStandOverTheirBoxes() {
         QVERIFY(HasInk(image, left, middle));
         QVERIFY(!HasInk(image, middle, left + place.width()));
     }
+}
+
+void LayoutTest::TextsThatACellCutsAreToldWhole() {
+    TestWindow window;
+    window.PressTool(3);
+    window.Form().tabStat.UserPick(1);
+    window.Form().gd1.AddRow({"1", "1", "A", "c36.87x, 10.125v:/-250.75", "13.5"});
+    auto& grid = window.As<QTableView>("gd1");
+    const auto tip_over = [&](int col) {
+        const QPoint place = grid.visualRect(grid.model()->index(0, col)).center();
+        QHelpEvent event(QEvent::ToolTip, place, grid.viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(grid.viewport(), &event);
+        return QToolTip::text();
+    };
+    constexpr int kForce = 2;  // behind the fixed column of the numbers
+    QCOMPARE(tip_over(kForce + 1), QString());
+    QCOMPARE(tip_over(kForce), QString("c36.87x, 10.125v:/-250.75"));
 }
 
 void LayoutTest::TabsFit_data() { AddZooms(); }

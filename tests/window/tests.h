@@ -100,6 +100,7 @@ class LayoutTest : public QObject {
     void TabsFit();
     void PairsStandOverTheirBoxes_data();
     void PairsStandOverTheirBoxes();
+    void TextsThatACellCutsAreToldWhole();
     void MotionTableNeedsNoScrollBars_data();
     void MotionTableNeedsNoScrollBars();
     void HelpLiesOverEverything();
