@@ -77,15 +77,15 @@ void RigidBoard::Hide(int system) {
         m_form.lstDCL.RemoveItem(static_cast<int>(row));
 }
 
+void RigidBoard::HideAll() {
+    for (int system = 1; system <= kSystems; ++system)
+        Hide(system);
+}
+
 void RigidBoard::DropDiagrams() {
+    HideAll();
     m_problem.forces.clear();
     m_problem.backup.clear();
-    m_problem.shown.fill(false);
-    m_form.lstDCL.Clear();
-    for (const auto& [index, option] : m_form.optDCL.Items())
-        option->Uncheck();
-    for (const auto& [index, option] : m_form.optShowDCL.Items())
-        option->Uncheck();
     ArrangeGd1(m_form);
 }
 

@@ -36,6 +36,7 @@ class RigidBoard {
     void ShowForces();
     /// Takes a system's diagram out of view and its number out of the list of bodies.
     void Hide(int system);
+    void HideAll();
     /// No forces, no backup, no diagram in view.
     void DropDiagrams();
 

@@ -62,12 +62,7 @@ void SolveTab::ShowSystem(int system) {
 }
 
 void SolveTab::ClearList() {
-    m_form.lstDCL.Clear();
-    m_problem.shown.fill(false);
-    for (const auto& [index, option] : m_form.optShowDCL.Items())
-        option->Uncheck();
-    for (const auto& [index, option] : m_form.optDCL.Items())
-        option->Uncheck();
+    m_board.HideAll();
     m_board.Draw();
 }
 
