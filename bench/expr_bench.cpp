@@ -8,12 +8,12 @@
 #include "expr/expression.h"
 #include "expr/postfix.h"
 #include "numeric/angles.h"
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace {
 
 using tavrelo::expr::CExpression;
-using tavrelo::numeric::Value;
+using tavrelo::text::Value;
 
 constexpr double kDegrees = tavrelo::numeric::kRadiansPerDegree;
 constexpr double kX = 1.25;
@@ -82,7 +82,7 @@ void NumberAsText(benchmark::State& state) {
     double number = 1.0 / 3.0;
     for (auto _ : state) {
         benchmark::DoNotOptimize(number);
-        benchmark::DoNotOptimize(tavrelo::numeric::NumberToText(number));
+        benchmark::DoNotOptimize(tavrelo::text::NumberToText(number));
     }
 }
 BENCHMARK(NumberAsText);
@@ -91,7 +91,7 @@ void RoundedNumberAsText(benchmark::State& state) {
     double number = 1.0 / 3.0;
     for (auto _ : state) {
         benchmark::DoNotOptimize(number);
-        benchmark::DoNotOptimize(tavrelo::numeric::RoundedText(number, tavrelo::numeric::kDefaultDecimals));
+        benchmark::DoNotOptimize(tavrelo::text::RoundedText(number, tavrelo::text::kDefaultDecimals));
     }
 }
 BENCHMARK(RoundedNumberAsText);

@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "statics/body_solver.h"
-#include "statics/particle_solver.h"
-#include "statics/rigid_picture.h"
-#include "vectors/force_parser.h"
-#include "vectors/vector_parser.h"
+#include "mechanics/particle/particle_solver.h"
+#include "mechanics/rigid/body_solver.h"
+#include "notation/force_parser.h"
+#include "notation/vector_parser.h"
+#include "tools/rigid/rigid_picture.h"
 
 namespace {
 
@@ -20,7 +20,7 @@ constexpr int kDecimals = 3;
 
 void ParseForce(benchmark::State& state, const std::string& text) {
     for (auto _ : state)
-        benchmark::DoNotOptimize(vectors::ParseForce(text, kDecimals));
+        benchmark::DoNotOptimize(notation::ParseForce(text, kDecimals));
 }
 BENCHMARK_CAPTURE(ParseForce, quadrant_symbol, std::string("p30x,2F1"));
 BENCHMARK_CAPTURE(ParseForce, polar_number, std::string("230<-34"));
@@ -28,15 +28,16 @@ BENCHMARK_CAPTURE(ParseForce, both_unknown, std::string("F1<a1"));
 
 void ParseVector(benchmark::State& state, const std::string& text) {
     for (auto _ : state)
-        benchmark::DoNotOptimize(vectors::ParseVector(text));
+        benchmark::DoNotOptimize(notation::ParseVector(text));
 }
 BENCHMARK_CAPTURE(ParseVector, quadrant, std::string("p30x,10"));
 BENCHMARK_CAPTURE(ParseVector, components, std::string("3,-4"));
 
 void SolveParticle(benchmark::State& state, const std::vector<std::string>& forces) {
-    const auto table = std::get<statics::ForceTable>(statics::ForcesOf(forces, kDecimals));
+    const auto table =
+        std::get<mechanics::forces::ForceTable>(mechanics::forces::ForcesOf(forces, kDecimals));
     for (auto _ : state)
-        benchmark::DoNotOptimize(statics::SolveEquilibrium(table, kDecimals));
+        benchmark::DoNotOptimize(mechanics::particle::SolveEquilibrium(table, kDecimals));
 }
 BENCHMARK_CAPTURE(SolveParticle, two_magnitudes, std::vector<std::string>{"p30x,F1", "s45x,F2", "v-100"});
 BENCHMARK_CAPTURE(SolveParticle, magnitude_and_angle, std::vector<std::string>{"p30x,F1", "20<a", "3,-20"});
@@ -57,36 +58,38 @@ constexpr TypedForce kFrame[] = {
     {4, "B", 1, 2, "Bx, By"},   {4, "D", 3, 2, "Dx, Dy"},   {4, "F", 2, 2, "v-60"},
 };
 
-statics::BodyForces FrameForces() {
-    statics::BodyForces forces;
+mechanics::rigid::BodyForces FrameForces() {
+    mechanics::rigid::BodyForces forces;
     for (const auto& [body, point, x, y, text] : kFrame)
-        forces.push_back(
-            std::get<statics::BodyForce>(statics::ReadBodyForce(body, {point, x, y, 0, 0}, text, kDecimals)));
+        forces.push_back(std::get<mechanics::rigid::BodyForce>(
+            mechanics::rigid::ReadBodyForce(body, {point, x, y, 0, 0}, text, kDecimals)));
     return forces;
 }
 
 void SolveFrame(benchmark::State& state) {
-    const statics::BodyForces forces = FrameForces();
-    const std::vector<statics::ChosenBody> bodies = {{2, false, 0, 0}, {3, false, 0, 0}, {4, false, 0, 0}};
+    const mechanics::rigid::BodyForces forces = FrameForces();
+    const std::vector<mechanics::rigid::ChosenBody> bodies = {
+        {2, false, 0, 0}, {3, false, 0, 0}, {4, false, 0, 0}};
     for (auto _ : state) {
-        const auto equations = std::get<statics::BodyEquations>(statics::BuildEquations(forces, bodies, ""));
-        benchmark::DoNotOptimize(statics::SolveEquations(equations, bodies.size()));
+        const auto equations =
+            std::get<mechanics::rigid::BodyEquations>(mechanics::rigid::BuildEquations(forces, bodies, ""));
+        benchmark::DoNotOptimize(mechanics::rigid::SolveEquations(equations, bodies.size()));
     }
 }
 BENCHMARK(SolveFrame);
 
 void DrawFrame(benchmark::State& state) {
-    statics::BodyForces forces = FrameForces();
-    statics::PointTable points;
+    mechanics::rigid::BodyForces forces = FrameForces();
+    mechanics::rigid::PointTable points;
     for (const auto& force : forces)
-        if (statics::PointIndex(points, force.point) == 0)
+        if (mechanics::rigid::PointIndex(points, force.point) == 0)
             points.push_back({force.point, force.x, force.y, 0, 0});
-    const statics::LineTable lines = {{"ABC", 2}, {"CDE", 3}, {"BFD", 4}};
-    const statics::SystemPoints systems = {"ABCDEF", "ABC", "CDE", "BFD"};
-    const statics::ShownDCL shown = {false, true, true, true};
-    shell::Recorder canvas(397, 385);
+    const mechanics::rigid::LineTable lines = {{"ABC", 2}, {"CDE", 3}, {"BFD", 4}};
+    const mechanics::rigid::SystemPoints systems = {"ABCDEF", "ABC", "CDE", "BFD"};
+    const mechanics::rigid::ShownDCL shown = {false, true, true, true};
+    window::Recorder canvas(397, 385);
     for (auto _ : state)
-        statics::RedrawAll(canvas, {points, lines, systems, forces, shown, kDecimals});
+        tools::rigid::RedrawAll(canvas, {points, lines, systems, forces, shown, kDecimals});
 }
 BENCHMARK(DrawFrame);
 

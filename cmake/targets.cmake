@@ -16,7 +16,7 @@ if(TAVRELO_SANITIZE)
     target_link_options(tavrelo_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# tavrelo_library(numeric SOURCES a.cpp b.cpp LINKS shell): the static library of one folder of src/.
+# tavrelo_library(numeric SOURCES a.cpp b.cpp LINKS text): the static library of one folder of src/.
 # It links only the folders named, so an include that points up does not link.
 function(tavrelo_library folder)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})

@@ -17,13 +17,13 @@
 #include "expr/postfix.h"
 #include "numeric/angles.h"
 #include "numeric/checked.h"
-#include "numeric/utf8.h"
+#include "text/utf8.h"
 
 namespace {
 
 using tavrelo::expr::CExpression;
 using tavrelo::numeric::RuntimeFailure;
-using tavrelo::numeric::Value;
+using tavrelo::text::Value;
 
 /// A message adds no more to what it quotes; a number has no more characters.
 constexpr std::size_t kMessageBytes = 100;
@@ -38,7 +38,7 @@ void Require(bool condition, std::string_view what) {
 }
 
 bool IsUtf8(std::string_view text) {
-    return tavrelo::numeric::ToUtf8(tavrelo::numeric::ToCodePoints(text)) == text;
+    return tavrelo::text::ToUtf8(tavrelo::text::ToCodePoints(text)) == text;
 }
 
 /// Out of valid text only valid text of at most `bytes` bytes may come.

@@ -3,9 +3,10 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "numeric/utf8.h"
-#include "shell/help_files.h"
-#include "shell/markup.h"
+#include "drawing/print_markup.h"
+#include "frame/help_files.h"
+#include "text/markup.h"
+#include "text/utf8.h"
 
 namespace {
 
@@ -20,22 +21,22 @@ void Require(bool holds) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tavrelo;
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    const std::size_t length = numeric::CharacterCount(text);
+    const std::size_t length = text::CharacterCount(text);
 
-    const shell::RichText rich = shell::RenderMarkup(shell::kTextFont, 10, text);
-    Require(numeric::CharacterCount(rich.PlainText()) <= length + 1);
+    const text::RichText rich = text::RenderMarkup(text::kTextFont, 10, text);
+    Require(text::CharacterCount(rich.PlainText()) <= length + 1);
 
-    shell::Recorder surface(200, 100);
-    shell::PrintMarkup(surface, text, 0, 50, shell::kTextFont, 8);
+    window::Recorder surface(200, 100);
+    drawing::PrintMarkup(surface, text, 0, 50, text::kTextFont, 8);
     for (const std::string& shown : surface.VisibleTexts())
-        Require(numeric::CharacterCount(shown) <= length);
+        Require(text::CharacterCount(shown) <= length);
 
-    const std::string line = numeric::ToUtf8(numeric::ToCodePoints(text)) + "\r\n";
-    if (line.find("¬") == std::string::npos && length < shell::kMarkLimit) {
+    const std::string line = text::ToUtf8(text::ToCodePoints(text)) + "\r\n";
+    if (line.find("¬") == std::string::npos && length < text::kMarkLimit) {
         const std::string shown =
-            shell::RenderMarkup(shell::kTextFont, 10, shell::EscapeMarks(line)).PlainText();
+            text::RenderMarkup(text::kTextFont, 10, text::EscapeMarks(line)).PlainText();
         Require(shown == line);
     }
-    shell::ToCodePage(shell::FromCodePage(text));
+    frame::ToCodePage(frame::FromCodePage(text));
     return 0;
 }

@@ -10,18 +10,18 @@
 #include <variant>
 #include <vector>
 
+#include "mechanics/rigid/body_solver.h"
+#include "mechanics/rigid/chain_vectors.h"
+#include "mechanics/rigid/rigid_lines.h"
+#include "mechanics/rigid/rigid_report.h"
 #include "numeric/checked.h"
-#include "shell/surface.h"
-#include "statics/body_solver.h"
-#include "statics/chain_vectors.h"
-#include "statics/rigid_lines.h"
-#include "statics/rigid_picture.h"
-#include "statics/rigid_report.h"
+#include "tools/rigid/rigid_picture.h"
+#include "window/surface.h"
 
 namespace {
 
 using namespace tavrelo;
-using namespace tavrelo::statics;
+using namespace tavrelo::mechanics::rigid;
 
 constexpr int kDecimals = 3;
 constexpr double kPictureSide = 400;
@@ -31,7 +31,7 @@ void RequireFinite(double number) {
         std::abort();
 }
 
-void RequireFinite(const numeric::Value& value) {
+void RequireFinite(const text::Value& value) {
     if (value.HoldsNumber())
         RequireFinite(value.Number());
 }
@@ -93,12 +93,12 @@ BodyForces ForcesOf(const std::vector<std::string>& lines, const PointTable& poi
 }
 
 void Draw(PointTable& points, BodyForces& forces, const LineTable& lines) {
-    shell::Recorder canvas(kPictureSide, kPictureSide);
+    window::Recorder canvas(kPictureSide, kPictureSide);
     for (BodyForce& force : forces)
         if (NeedsDrawDirection(force))
-            SetDrawDirection(force, kDefaultDrawDirection);
+            SetDrawDirection(force, mechanics::forces::kDefaultDrawDirection);
     const SystemPoints systems = {"ABC"};
-    RedrawAll(canvas, {points, lines, systems, forces, {true}, kDecimals});
+    tools::rigid::RedrawAll(canvas, {points, lines, systems, forces, {true}, kDecimals});
 }
 
 void Solve(BodyForces& forces, std::string_view suppressed) {
@@ -120,7 +120,7 @@ void Solve(BodyForces& forces, std::string_view suppressed) {
         RequireFinite(found.value);
     UpdateBodyForces(forces, results, kDecimals);
     for (const BodyForce& force : forces)
-        for (const numeric::Value& cell : force.force)
+        for (const text::Value& cell : force.force)
             RequireFinite(cell);
     EquilibriumReport(bodies, *equations, results, kDecimals);
 }

@@ -8,11 +8,11 @@
 #include <string_view>
 #include <variant>
 
+#include "notation/force_parser.h"
+#include "notation/vector_format.h"
+#include "notation/vector_parser.h"
 #include "numeric/checked.h"
-#include "vectors/force_parser.h"
-#include "vectors/symbols.h"
-#include "vectors/vector_format.h"
-#include "vectors/vector_parser.h"
+#include "text/symbols.h"
 
 namespace {
 
@@ -25,39 +25,39 @@ void RequireFinite(double number) {
         std::abort();
 }
 
-void RequireFinite(std::span<const numeric::Value> elements) {
-    for (const numeric::Value& element : elements)
+void RequireFinite(std::span<const text::Value> elements) {
+    for (const text::Value& element : elements)
         if (element.HoldsNumber())
             RequireFinite(element.Number());
 }
 
 void TryParsers(std::string_view text) {
-    const auto force = vectors::ParseForce(text, kDecimals);
-    if (const auto* record = std::get_if<vectors::ForceRecord>(&force))
+    const auto force = notation::ParseForce(text, kDecimals);
+    if (const auto* record = std::get_if<notation::ForceRecord>(&force))
         RequireFinite(*record);
-    const auto vector = vectors::ParseVector(text);
-    if (const auto* record = std::get_if<vectors::VectorRecord>(&vector))
+    const auto vector = notation::ParseVector(text);
+    if (const auto* record = std::get_if<notation::VectorRecord>(&vector))
         RequireFinite(*record);
 }
 
 // A text without a readable factor has one documented failure.
 void TrySymbol(std::string_view text) {
     try {
-        const vectors::FactoredSymbol symbol = vectors::SplitFactor(text);
+        const text::FactoredSymbol symbol = text::SplitFactor(text);
         RequireFinite(symbol.factor);
-        vectors::SymbolMarkup(symbol.factor, symbol.symbol, kDecimals);
-        vectors::FactorText(symbol.factor, symbol.symbol, kDecimals);
+        text::SymbolMarkup(symbol.factor, symbol.symbol, kDecimals);
+        text::FactorText(symbol.factor, symbol.symbol, kDecimals);
     } catch (const numeric::RuntimeFailure&) {
     }
-    vectors::SymbolMarkup(1, text, kDecimals);
-    vectors::SubscriptName(text);
+    text::SymbolMarkup(1, text, kDecimals);
+    text::SubscriptName(text);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    vectors::VectorFormatOf(text);
+    notation::VectorFormatOf(text);
     TryParsers(text);
     TrySymbol(text);
     return 0;

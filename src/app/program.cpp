@@ -1,7 +1,7 @@
 #include "app/program.h"
 
 #include "app/tools.h"
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace tavrelo::app {
 namespace {
@@ -10,13 +10,13 @@ std::string Truth(bool value) { return value ? "yes" : "no"; }
 
 }  // namespace
 
-Program::Program(const shell::Host& host) : m_form(host), m_tools(std::make_unique<Tools>(m_form)) {
+Program::Program(const window::Host& host) : m_form(host), m_tools(std::make_unique<Tools>(m_form)) {
     NameGlobals();
 }
 
 Program::~Program() = default;
 
-shell::Form1& Program::Window() { return m_form; }
+window::Form1& Program::Window() { return m_form; }
 
 std::optional<std::string> Program::GlobalValue(std::string_view name) const {
     const auto found = m_globals.find(name);
@@ -26,7 +26,7 @@ std::optional<std::string> Program::GlobalValue(std::string_view name) const {
 }
 
 void Program::NameGlobals() {
-    const shell::Publics& publics = m_form.publics;
+    const window::Publics& publics = m_form.publics;
     m_globals = {
         {"CurrentTool", [&publics] { return std::to_string(static_cast<int>(publics.CurrentTool)); }},
         {"HelpTool", [&publics] { return std::to_string(publics.HelpTool); }},
@@ -34,7 +34,7 @@ void Program::NameGlobals() {
         {"KinemMode", [&publics] { return std::to_string(publics.ProcCategory); }},
         {"ProcNumber", [&publics] { return std::to_string(publics.ProcNumber); }},
         {"Decimals", [&publics] { return std::to_string(publics.Decimals); }},
-        {"AngleFactor", [&publics] { return numeric::NumberToText(publics.AngleFactor); }},
+        {"AngleFactor", [&publics] { return text::NumberToText(publics.AngleFactor); }},
         {"ShowingWelcome", [&publics] { return Truth(publics.ShowingWelcome); }},
         {"QuickKeys", [&publics] { return Truth(publics.QuickKeys); }},
         {"InfixNotation", [&publics] { return Truth(publics.InfixNotation); }},

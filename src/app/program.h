@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "shell/form1.h"
+#include "window/form1.h"
 
 namespace tavrelo::app {
 
@@ -16,10 +16,10 @@ namespace tavrelo::app {
 class Program {
   public:
     /// Makes the window and runs the start of the program, welcome page included. The host must outlive it.
-    explicit Program(const shell::Host& host);
+    explicit Program(const window::Host& host);
     ~Program();
 
-    shell::Form1& Window();
+    window::Form1& Window();
 
     /// The text of a global of the program by its name ("Decimals", "CurrentTool"; truth as "yes" or "no");
     /// nothing for a name that the program does not have.
@@ -30,7 +30,7 @@ class Program {
 
     void NameGlobals();
 
-    shell::Form1 m_form;
+    window::Form1 m_form;
     std::unique_ptr<Tools> m_tools;
     std::map<std::string, std::function<std::string()>, std::less<>> m_globals;
 };

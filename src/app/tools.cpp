@@ -1,18 +1,18 @@
 #include "app/tools.h"
 
-#include "calc/argument_prompt.h"
-#include "calc/catalogue.h"
-#include "kinematics/kinem_panel.h"
-#include "motion/motion_help.h"
-#include "motion/motion_panels.h"
-#include "shell/guard.h"
+#include "tools/calculator/argument_prompt.h"
+#include "tools/calculator/catalogue.h"
+#include "tools/kinematics/kinem_panel.h"
+#include "tools/motion/motion_help.h"
+#include "tools/motion/motion_panels.h"
+#include "window/guard.h"
 
 namespace tavrelo::app {
 namespace {
 
-using shell::Guard;
-using shell::kCommandFailed;
-using shell::Tool;
+using text::kCommandFailed;
+using window::Guard;
+using window::Tool;
 
 constexpr int kPointColumnWidth = 960;  // of the motion table, twips
 constexpr int kTableIconWidth = 30;     // of the configurations of the motion table, pixels
@@ -24,7 +24,7 @@ constexpr std::string_view kEstcrTags[] = {"CONFIG", "SYSTS", "DCL", "SOLVE"};
 
 }  // namespace
 
-Program::Tools::Tools(shell::Form1& window)
+Program::Tools::Tools(window::Form1& window)
     : form(window),
       menu(window),
       tool_switch(window, menu),
@@ -46,12 +46,12 @@ Program::Tools::Tools(shell::Form1& window)
 
 void Program::Tools::Load() {
     grid.ArrangeGd();
-    form.picClock.Canvas().BackColor = shell::Rgb(245, 245, 245);
+    form.picClock.Canvas().BackColor = text::Rgb(245, 245, 245);
     clock.Reset();
     help.LoadCalcHelp();
     option_strip.FillTeclas();
-    motion::ArrangeGd2(form, kPointColumnWidth, motion::kMotionHelpTool);
-    motion::DrawTableStrip(form);
+    tools::motion::ArrangeGd2(form, kPointColumnWidth, tools::motion::kMotionHelpTool);
+    tools::motion::DrawTableStrip(form);
     for (const auto& [index, button] : form.cmdTable.Items())
         button->SetPicture(
             {"table_buttons", {index * kTableIconWidth, 0, kTableIconWidth, kTableIconHeight}});
@@ -59,13 +59,13 @@ void Program::Tools::Load() {
 }
 
 void Program::Tools::WireMenu() {
-    menu.OnRoutine = [this](int routine) { calc::ShowArgs(form, routine); };
+    menu.OnRoutine = [this](int routine) { tools::calculator::ShowArgs(form, routine); };
     menu.OnHelp = [this](int index) { help.ShowArgHelp(index); };
     menu.RoutineTitle = [](int number) {
-        const calc::Routine* routine = calc::FindRoutine(number);
+        const tools::calculator::Routine* routine = tools::calculator::FindRoutine(number);
         return routine ? std::string(routine->title) : std::string();
     };
-    menu.OnWay = [this](int way) { kinematics::ShowWay(form, way); };
+    menu.OnWay = [this](int way) { tools::kinematics::ShowWay(form, way); };
 }
 
 void Program::Tools::WireHelp() {
@@ -74,14 +74,14 @@ void Program::Tools::WireHelp() {
     particle.OnExample = [this](int index) {
         help.ShowShortTopic(kStatPartFile, std::to_string(index + 1) + "EXAMPLE");
     };
-    form.imgProcs.OnMouseDown = [this](const shell::MouseStroke& stroke) {
-        Guard(form.boxes, kCommandFailed, [&] { motion::ChooseProcedureRow(form, stroke.y); });
+    form.imgProcs.OnMouseDown = [this](const window::MouseStroke& stroke) {
+        Guard(form.boxes, kCommandFailed, [&] { tools::motion::ChooseProcedureRow(form, stroke.y); });
     };
     for (const auto& [index, button] : form.cmdHelpTable.Items())
         button->OnClick = [this, index = index] {
             Guard(form.boxes, kCommandFailed, [&] {
-                const auto topic = motion::HelpOfButton(index, form.publics.HelpTool,
-                                                        motion::ProcedureRow(form), form.cboProcs.Index());
+                const auto topic = tools::motion::HelpOfButton(
+                    index, form.publics.HelpTool, tools::motion::ProcedureRow(form), form.cboProcs.Index());
                 if (topic)
                     help.ShowShortTopic(topic->file, topic->tag);
             });
@@ -94,7 +94,7 @@ void Program::Tools::WireHelp() {
 
 void Program::Tools::WireTools() {
     form.txtVector.OnKeyPress = [this](char32_t character) {
-        if (character != shell::kEnterCharacter)
+        if (character != window::kEnterCharacter)
             return false;
         Guard(form.boxes, kCommandFailed, [this] { EnterVector(); });
         return true;
@@ -113,11 +113,11 @@ void Program::Tools::WireTools() {
     tool_switch.SetHooks(Tool::RigidBody, rigid_body.Hooks());
     for (const Tool tool : {Tool::Motion, Tool::Projectile})
         tool_switch.SetHooks(tool, {.on_entry = [this, help_tool = static_cast<int>(tool) + 1] {
-                                 motion::AdaptCtrls(form, help_tool);
-                                 motion::ArrangeGd2(form, kPointColumnWidth, help_tool);
-                                 motion::DrawTableStrip(form);
-                                 motion::DrawProcedureRows(form, help_tool);
-                                 motion::FillMruaCbo(form, help_tool);
+                                 tools::motion::AdaptCtrls(form, help_tool);
+                                 tools::motion::ArrangeGd2(form, kPointColumnWidth, help_tool);
+                                 tools::motion::DrawTableStrip(form);
+                                 tools::motion::DrawProcedureRows(form, help_tool);
+                                 tools::motion::FillMruaCbo(form, help_tool);
                                  form.SetFocus(form.cmdTable[0]);
                              }});
     tool_switch.SetHooks(Tool::Kinematics,

@@ -1,38 +1,38 @@
 #pragma once
 
 #include "app/program.h"
-#include "calc/argument_grid.h"
-#include "calc/calculator.h"
-#include "entry/expression_box.h"
-#include "entry/option_strip.h"
-#include "entry/shared_expression.h"
-#include "shell/help_panel.h"
-#include "shell/menu_bar.h"
-#include "shell/preferences.h"
-#include "shell/tool_switch.h"
-#include "statics/particle_tool.h"
-#include "statics/rigid_tool.h"
-#include "vectors/direction_clock.h"
+#include "frame/direction_clock.h"
+#include "frame/expression_box.h"
+#include "frame/help_panel.h"
+#include "frame/menu_bar.h"
+#include "frame/option_strip.h"
+#include "frame/preferences.h"
+#include "frame/shared_expression.h"
+#include "frame/tool_switch.h"
+#include "tools/calculator/argument_grid.h"
+#include "tools/calculator/calculator.h"
+#include "tools/particle/particle_tool.h"
+#include "tools/rigid/rigid_tool.h"
 
 namespace tavrelo::app {
 
 /// Every part of the program over one window, wired to each other and started.
 struct Program::Tools {
-    explicit Tools(shell::Form1& window);
+    explicit Tools(window::Form1& window);
 
-    shell::Form1& form;
-    shell::MenuBar menu;
-    shell::ToolSwitch tool_switch;
-    shell::HelpPanel help;
-    shell::Preferences preferences;
-    entry::SharedExpression expression;
-    entry::ExpressionBox expression_box;
-    entry::OptionStrip option_strip;
-    calc::ArgumentGrid grid;
-    calc::Calculator calculator;
-    vectors::DirectionClock clock;
-    statics::Parts particle;
-    statics::RigidBody rigid_body;
+    window::Form1& form;
+    frame::MenuBar menu;
+    frame::ToolSwitch tool_switch;
+    frame::HelpPanel help;
+    frame::Preferences preferences;
+    frame::SharedExpression expression;
+    frame::ExpressionBox expression_box;
+    frame::OptionStrip option_strip;
+    tools::calculator::ArgumentGrid grid;
+    tools::calculator::Calculator calculator;
+    frame::DirectionClock clock;
+    tools::particle::Parts particle;
+    tools::rigid::RigidBody rigid_body;
 
   private:
     void Load();

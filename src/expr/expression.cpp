@@ -5,7 +5,7 @@
 
 #include "expr/roots.h"
 #include "numeric/checked.h"
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace tavrelo::expr {
 
@@ -16,8 +16,8 @@ void CExpression::SetExpression(std::string new_value) {
     m_error = ParseExpression(m_expression, m_variables, AutoCreateVariables, m_program);
 }
 
-VariablePtr CExpression::Variable(const numeric::Value& var_name, bool create_if_needed) {
-    if (numeric::IsNum(var_name)) {
+VariablePtr CExpression::Variable(const text::Value& var_name, bool create_if_needed) {
+    if (text::IsNum(var_name)) {
         try {
             return m_variables.At(numeric::RoundToInteger(var_name.Number()));
         } catch (const numeric::RuntimeFailure&) {
@@ -44,7 +44,7 @@ void CExpression::AssignVariables(std::span<const Argument> vars) {
     }
 }
 
-numeric::Value CExpression::Value(std::span<const numeric::Value> vars) {
+text::Value CExpression::Value(std::span<const text::Value> vars) {
     if (!IsEvaluable()) {
         return {};
     }
@@ -67,7 +67,7 @@ double CExpression::EvaluateNumber(std::span<const double> vars) {
     return NumberOf(RunProgram());
 }
 
-numeric::Value CExpression::Evaluate(std::string expr, std::span<const numeric::Value> vars) {
+text::Value CExpression::Evaluate(std::string expr, std::span<const text::Value> vars) {
     SetExpression(std::move(expr));
     return Value(vars);
 }
@@ -85,7 +85,7 @@ void CExpression::FindRoots(double low_limit, double high_limit, double interval
     if (!variable) {
         return;
     }
-    const numeric::Value saved = variable->Value;
+    const text::Value saved = variable->Value;
     const auto value_at = [&](double x) {
         variable->Value = x;
         return NumberOf(RunProgram());

@@ -8,7 +8,7 @@
 #include "expr/parser.h"
 #include "expr/program.h"
 #include "expr/variables.h"
-#include "numeric/value.h"
+#include "text/value.h"
 
 namespace tavrelo::expr {
 
@@ -31,7 +31,7 @@ class CExpression {
     CExpression& operator=(CExpression&&) = default;
 
     /// Free for the owner; nothing here reads it.
-    numeric::Value DefaultValue;
+    text::Value DefaultValue;
     /// When false, `Value` gives the empty text where an evaluation fails, instead of failing.
     bool RaiseErrors = true;
     /// When false, the parser refuses a variable that does not exist yet.
@@ -55,7 +55,7 @@ class CExpression {
 
     /// The variable of that name in any case, or at that 1-based position when the name is a number; null
     /// when there is none. A missing name is made when `create_if_needed`, spelled as given.
-    VariablePtr Variable(const numeric::Value& var_name, bool create_if_needed);
+    VariablePtr Variable(const text::Value& var_name, bool create_if_needed);
     /// Puts a variable (not null) in its place by name, instead of one of the same name; its 1-based
     /// position.
     int AddVariable(VariablePtr new_var) { return m_variables.Add(std::move(new_var)); }
@@ -69,14 +69,14 @@ class CExpression {
     /// unused) and evaluates. Nothing when the formula is empty or in error. A formula that is one literal
     /// without a point is the text of the literal; numbers are finite. Fails with a RuntimeFailure unless
     /// RaiseErrors is off.
-    numeric::Value Value(std::span<const numeric::Value> vars = {});
+    text::Value Value(std::span<const text::Value> vars = {});
 
     /// `Value` as a number, for samplers: nothing counts as 0 and a text is converted. Fails with a
     /// RuntimeFailure whatever RaiseErrors says. Allocates nothing.
     double EvaluateNumber(std::span<const double> vars = {});
 
     /// Assigns the formula and evaluates it.
-    numeric::Value Evaluate(std::string expr, std::span<const numeric::Value> vars);
+    text::Value Evaluate(std::string expr, std::span<const text::Value> vars);
 
     /// The formula in reverse Polish order, a blank before each token: " 2 3 +". Empty when in error.
     std::string RPNExpression() const;

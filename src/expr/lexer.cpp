@@ -1,6 +1,6 @@
 #include "expr/lexer.h"
 
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace tavrelo::expr {
 
@@ -60,7 +60,7 @@ double ScanNumber(std::string_view number) {
         return 0.0;
     }
     const bool complete = letter == std::string_view::npos || IsDigit(number.back());
-    return numeric::LiteralToNumber(complete ? number : mantissa);
+    return text::LiteralToNumber(complete ? number : mantissa);
 }
 
 }  // namespace tavrelo::expr

@@ -1,12 +1,12 @@
 #include "expr/operand.h"
 
 #include "numeric/checked.h"
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace tavrelo::expr {
 
 OperandKind ClassifyText(const std::string& text, double& number) {
-    const numeric::LiteralReading reading = numeric::ReadLiteral(text);
+    const text::LiteralReading reading = text::ReadLiteral(text);
     number = reading.value;
     if (!reading.failure) {
         return OperandKind::NumericText;
@@ -17,7 +17,7 @@ OperandKind ClassifyText(const std::string& text, double& number) {
 
 Operand NumberOperand(double number) { return {number, nullptr, OperandKind::Number}; }
 
-Operand OperandOf(const numeric::Value& value) {
+Operand OperandOf(const text::Value& value) {
     if (const double* number = value.IfNumber()) {
         return NumberOperand(*number);
     }
@@ -28,11 +28,11 @@ Operand OperandOf(const numeric::Value& value) {
     return operand;
 }
 
-numeric::Value ValueOf(const Operand& operand) {
+text::Value ValueOf(const Operand& operand) {
     if (IsText(operand)) {
         return *operand.text;
     }
-    return operand.kind == OperandKind::Number ? numeric::Value(operand.number) : numeric::Value();
+    return operand.kind == OperandKind::Number ? text::Value(operand.number) : text::Value();
 }
 
 void ThrowNoNumber(const Operand& operand) {

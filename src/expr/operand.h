@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "numeric/value.h"
+#include "text/value.h"
 
 namespace tavrelo::expr {
 
@@ -27,8 +27,8 @@ struct Operand {
 OperandKind ClassifyText(const std::string& text, double& number);
 
 Operand NumberOperand(double number);
-Operand OperandOf(const numeric::Value& value);
-numeric::Value ValueOf(const Operand& operand);
+Operand OperandOf(const text::Value& value);
+text::Value ValueOf(const Operand& operand);
 
 [[noreturn]] void ThrowNoNumber(const Operand& operand);
 

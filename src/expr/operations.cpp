@@ -7,7 +7,7 @@
 
 #include "numeric/angles.h"
 #include "numeric/checked.h"
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace tavrelo::expr {
 
@@ -67,7 +67,7 @@ bool IsAtLeast(double a, double b) {
     if (b - a > kFarApart + kRelativelyFarApart * std::max(std::abs(a), std::abs(b))) {
         return false;
     }
-    return numeric::RoundTo(a, kDecimals) >= numeric::RoundTo(b, kDecimals);
+    return text::RoundTo(a, kDecimals) >= text::RoundTo(b, kDecimals);
 }
 
 /// (x - a)^n behind a, 0 before it: the step functions of beam theory.

@@ -5,7 +5,7 @@
 
 #include "expr/lexer.h"
 #include "numeric/checked.h"
-#include "numeric/utf8.h"
+#include "text/utf8.h"
 
 namespace tavrelo::expr {
 
@@ -43,7 +43,9 @@ struct Refusal {
     std::string_view detail;
 };
 
-[[noreturn]] void Refuse(ParseErrorCode code, std::string_view detail = {}) { throw Refusal{code, detail}; }
+[[noreturn]] void Refuse(ParseErrorCode code, std::string_view detail = {}) {
+    throw Refusal{code, detail};
+}
 
 template <typename Entry>
 class Pile {
@@ -183,7 +185,7 @@ void Parser::ParseNamed() {
         } else {
             ParseCall(function);
         }
-    } else if (numeric::EqualIgnoringCase(name, RowOf(Token::Not).name)) {
+    } else if (text::EqualIgnoringCase(name, RowOf(Token::Not).name)) {
         PushOperator(Token::Not);
     } else {
         ParseVariable(name);

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace tavrelo::expr {
 
@@ -24,16 +24,16 @@ std::string PowerText(std::size_t exponent) {
 std::optional<std::string> GetPolynomial(std::span<const std::string> coefs) {
     std::string text;
     for (std::size_t i = 0; i < coefs.size(); ++i) {
-        if (!numeric::IsNum(coefs[i])) {
+        if (!text::IsNum(coefs[i])) {
             return std::nullopt;
         }
-        const double coef = numeric::ToNumber(coefs[i]);
+        const double coef = text::ToNumber(coefs[i]);
         if (coef < 0.0) {
             text += "-";
         } else if (i > 0) {
             text += "+";
         }
-        text += numeric::NumberToText(std::abs(coef)) + PowerText(coefs.size() - 1 - i);
+        text += text::NumberToText(std::abs(coef)) + PowerText(coefs.size() - 1 - i);
     }
     return text;
 }

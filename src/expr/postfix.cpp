@@ -7,8 +7,8 @@
 #include "expr/operations.h"
 #include "numeric/angles.h"
 #include "numeric/checked.h"
-#include "numeric/number_text.h"
-#include "numeric/utf8.h"
+#include "text/number_text.h"
+#include "text/utf8.h"
 
 namespace tavrelo::expr {
 
@@ -114,10 +114,10 @@ void ApplyToken(std::string_view token, NumberPile& pile) {
     if (token.empty()) {
         return;
     }
-    if (numeric::IsNum(token)) {
-        pile.Push(numeric::ToNumber(token));
+    if (text::IsNum(token)) {
+        pile.Push(text::ToNumber(token));
     } else {
-        ApplyWord(numeric::ToLower(token), pile);
+        ApplyWord(text::ToLower(token), pile);
     }
 }
 
@@ -126,7 +126,7 @@ double EvaluateTokens(std::string_view text) {
     std::size_t start = 0;
     for (std::size_t position = 0; position < text.size();) {
         const std::size_t at = position;
-        const char32_t character = numeric::NextCodePoint(text, position);
+        const char32_t character = text::NextCodePoint(text, position);
         if (kStrangeCharacters.find(character) != std::u32string_view::npos) {
             throw Refusal{kStrangeCharacterTitle, kStrangeCharacter};
         }

@@ -1,7 +1,7 @@
 #include "expr/program.h"
 
 #include "numeric/checked.h"
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace tavrelo::expr {
 

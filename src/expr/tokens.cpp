@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "numeric/utf8.h"
+#include "text/utf8.h"
 
 namespace tavrelo::expr {
 
@@ -133,7 +133,7 @@ constexpr auto kFunctions = [] {
 }();
 
 bool StandsAt(std::string_view text, std::size_t position, std::string_view name) {
-    return numeric::EqualIgnoringCase(text.substr(position, name.size()), name);
+    return text::EqualIgnoringCase(text.substr(position, name.size()), name);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "numeric/utf8.h"
+#include "text/utf8.h"
 
 namespace tavrelo::expr {
 
@@ -12,7 +12,7 @@ VariablePtr VariableList::At(int position) const {
 }
 
 VariablePtr VariableList::Find(std::string_view name) const {
-    const std::string key = numeric::ToUpper(name);
+    const std::string key = text::ToUpper(name);
     const auto entry = std::find_if(m_entries.begin(), m_entries.end(),
                                     [&](const Entry& candidate) { return candidate.key == key; });
     return entry != m_entries.end() ? entry->variable : nullptr;
@@ -26,7 +26,7 @@ VariablePtr VariableList::Create(std::string_view name) {
 }
 
 int VariableList::Add(VariablePtr variable) {
-    std::string key = numeric::ToUpper(variable->Name);
+    std::string key = text::ToUpper(variable->Name);
     auto place =
         std::lower_bound(m_entries.begin(), m_entries.end(), key,
                          [](const Entry& entry, const std::string& wanted) { return entry.key < wanted; });

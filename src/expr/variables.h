@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "numeric/value.h"
+#include "text/value.h"
 
 namespace tavrelo::expr {
 
@@ -13,7 +13,7 @@ namespace tavrelo::expr {
 struct CVariable {
     std::string Name;  // as it was first spelled
     int VarType = 0;   // free for the owner; nothing here reads it
-    numeric::Value Value;
+    text::Value Value;
 };
 
 using VariablePtr = std::shared_ptr<CVariable>;

@@ -86,7 +86,7 @@ Ordinal Split(std::string_view name) {
 
 }  // namespace
 
-QString AccessibleName(const shell::Control& control) {
+QString AccessibleName(const window::Control& control) {
     const Ordinal ordinal = Split(control.Name());
     const auto* row = std::ranges::find(kDescriptions, ordinal.base, &Description::name);
     if (!control.Caption().empty() || row == std::end(kDescriptions))

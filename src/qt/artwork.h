@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-#include "shell/host.h"
+#include "window/host.h"
 
 namespace tavrelo::qt {
 
@@ -14,7 +14,7 @@ namespace tavrelo::qt {
 /// first asked for; any other name is a file beside the program.
 class Artwork {
   public:
-    explicit Artwork(const shell::Files& files) : m_files(files) {}
+    explicit Artwork(const window::Files& files) : m_files(files) {}
 
     /// Paints the piece `source` (pixels at 100 %) of a bitmap into `target`; `scale` is the number of device
     /// pixels that a pixel at 100 % gets. A bitmap that does not exist leaves the place as it is.
@@ -32,7 +32,7 @@ class Artwork {
     const Bitmap& Load(const std::string& name, double scale);
     Bitmap ReadFile(const std::string& name) const;
 
-    const shell::Files& m_files;
+    const window::Files& m_files;
     std::map<std::pair<std::string, int>, Bitmap> m_bitmaps;
 };
 

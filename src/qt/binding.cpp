@@ -10,32 +10,32 @@
 
 namespace tavrelo::qt {
 
-QRect ViewContext::Scaled(const shell::Rect& rect) const {
+QRect ViewContext::Scaled(const window::Rect& rect) const {
     const int left = Scaled(rect.left);
     const int top = Scaled(rect.top);
     return {left, top, Scaled(rect.left + rect.width) - left, Scaled(rect.top + rect.height) - top};
 }
 
-Binding::Binding(shell::Control& control, QWidget& widget, ViewContext& context)
+Binding::Binding(window::Control& control, QWidget& widget, ViewContext& context)
     : m_control(control), m_widget(widget), m_context(context) {
     widget.setObjectName(ToQString(control.Name()));
     if (widget.focusPolicy() != Qt::NoFocus)
         widget.installEventFilter(this);
 }
 
-void Binding::Refresh(shell::Change change) {
+void Binding::Refresh(window::Change change) {
     const QScopedValueRollback refreshing(m_refreshing, m_refreshing + 1);
     switch (change) {
-        case shell::Change::State:
+        case window::Change::State:
             ShowState();
             break;
-        case shell::Change::Content:
+        case window::Change::Content:
             ShowContent();
             break;
-        case shell::Change::Selection:
+        case window::Change::Selection:
             ShowSelection();
             break;
-        case shell::Change::Focus:
+        case window::Change::Focus:
             m_widget.setFocus(Qt::OtherFocusReason);
             break;
     }
@@ -49,8 +49,8 @@ void Binding::RefreshAll() {
 }
 
 bool Binding::IsPageInFront() const {
-    const auto* strip = dynamic_cast<const shell::TabStrip*>(m_control.Parent());
-    return !strip || m_control.Page() == shell::Control::kAllPages || m_control.Page() == strip->Current();
+    const auto* strip = dynamic_cast<const window::TabStrip*>(m_control.Parent());
+    return !strip || m_control.Page() == window::Control::kAllPages || m_control.Page() == strip->Current();
 }
 
 void Binding::ShowState() {
@@ -74,7 +74,7 @@ void Binding::ShowColors() {
         return;
     m_colors = colors;
     QPalette palette;
-    if (m_control.ForeColor() != shell::kBlack)
+    if (m_control.ForeColor() != text::kBlack)
         for (const auto group : {QPalette::Active, QPalette::Inactive})
             for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
                 palette.setColor(group, role, ToQColor(m_control.ForeColor()));

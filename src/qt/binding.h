@@ -6,19 +6,19 @@
 #include <utility>
 
 #include "qt/artwork.h"
-#include "shell/form1.h"
+#include "window/form1.h"
 
 namespace tavrelo::qt {
 
 /// What all bindings of a window share.
 struct ViewContext {
-    shell::Form1& form;
+    window::Form1& form;
     Artwork& artwork;
     double zoom = 1;
 
     int Scaled(double pixels) const { return qRound(pixels * zoom); }
     /// Edges are scaled, not sizes, so that neighbours still meet.
-    QRect Scaled(const shell::Rect& rect) const;
+    QRect Scaled(const window::Rect& rect) const;
 };
 
 /// Joins one control of the model with the widget that shows it. Refresh carries a change of the model to the
@@ -26,13 +26,13 @@ struct ViewContext {
 class Binding : public QObject {
   public:
     /// The widget belongs to its parent widget.
-    Binding(shell::Control& control, QWidget& widget, ViewContext& context);
+    Binding(window::Control& control, QWidget& widget, ViewContext& context);
 
     QWidget& Widget() const { return m_widget; }
-    shell::Control& Model() const { return m_control; }
+    window::Control& Model() const { return m_control; }
 
     /// Shows that aspect of the model.
-    void Refresh(shell::Change change);
+    void Refresh(window::Change change);
     /// Shows everything, also after a change of the zoom.
     void RefreshAll();
 
@@ -53,7 +53,7 @@ class Binding : public QObject {
     }
 
     const ViewContext& Context() const { return m_context; }
-    shell::Form1& Form() const { return m_context.form; }
+    window::Form1& Form() const { return m_context.form; }
     double Zoom() const { return m_context.zoom; }
 
     /// Reports the focus; every widget that can take it has this filter.
@@ -63,14 +63,14 @@ class Binding : public QObject {
     void ShowColors();
     bool IsPageInFront() const;
 
-    shell::Control& m_control;
+    window::Control& m_control;
     QWidget& m_widget;
     ViewContext& m_context;
     int m_refreshing = 0;
-    std::pair<shell::Color, shell::Color> m_colors{shell::kBlack, shell::Control::kNoColor};
+    std::pair<text::Color, text::Color> m_colors{text::kBlack, window::Control::kNoColor};
 };
 
 /// Makes the widget of a control, with its binding.
-std::unique_ptr<Binding> NewBinding(shell::Control& control, QWidget& parent, ViewContext& context);
+std::unique_ptr<Binding> NewBinding(window::Control& control, QWidget& parent, ViewContext& context);
 
 }  // namespace tavrelo::qt

@@ -6,11 +6,11 @@
 namespace tavrelo::qt {
 namespace {
 
-using shell::ControlKind;
+using window::ControlKind;
 
 struct Maker {
     ControlKind kind;
-    std::unique_ptr<Binding> (*make)(shell::Control&, QWidget&, ViewContext&);
+    std::unique_ptr<Binding> (*make)(window::Control&, QWidget&, ViewContext&);
 };
 
 constexpr Maker kMakers[] = {
@@ -25,7 +25,7 @@ constexpr Maker kMakers[] = {
 
 }  // namespace
 
-std::unique_ptr<Binding> NewBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+std::unique_ptr<Binding> NewBinding(window::Control& control, QWidget& parent, ViewContext& context) {
     const auto* maker = std::ranges::find(kMakers, control.Kind(), &Maker::kind);
     Q_ASSERT(maker != std::end(kMakers));
     return maker->make(control, parent, context);

@@ -14,22 +14,22 @@ namespace tavrelo::qt {
 namespace {
 
 struct BoxButton {
-    shell::Buttons box;
-    shell::Answer answer;
+    window::Buttons box;
+    window::Answer answer;
     QMessageBox::StandardButton button;
     const char* caption;
 };
 
 // The first one of a box is its default, the last one answers Escape.
 constexpr BoxButton kBoxButtons[] = {
-    {shell::Buttons::Ok, shell::Answer::Ok, QMessageBox::Ok, "Aceptar"},
-    {shell::Buttons::OkCancel, shell::Answer::Ok, QMessageBox::Ok, "Aceptar"},
-    {shell::Buttons::OkCancel, shell::Answer::Cancel, QMessageBox::Cancel, "Cancelar"},
-    {shell::Buttons::YesNo, shell::Answer::Yes, QMessageBox::Yes, "Sí"},
-    {shell::Buttons::YesNo, shell::Answer::No, QMessageBox::No, "No"},
+    {window::Buttons::Ok, window::Answer::Ok, QMessageBox::Ok, "Aceptar"},
+    {window::Buttons::OkCancel, window::Answer::Ok, QMessageBox::Ok, "Aceptar"},
+    {window::Buttons::OkCancel, window::Answer::Cancel, QMessageBox::Cancel, "Cancelar"},
+    {window::Buttons::YesNo, window::Answer::Yes, QMessageBox::Yes, "Sí"},
+    {window::Buttons::YesNo, window::Answer::No, QMessageBox::No, "No"},
 };
 
-void AddButtons(QMessageBox& box, shell::Buttons buttons) {
+void AddButtons(QMessageBox& box, window::Buttons buttons) {
     for (const BoxButton& row : kBoxButtons) {
         if (row.box != buttons)
             continue;
@@ -42,8 +42,8 @@ void AddButtons(QMessageBox& box, shell::Buttons buttons) {
 }
 
 /// The answer of a box that ended with a button, or by other means, which count as Escape.
-shell::Answer AnswerOf(shell::Buttons buttons, int button) {
-    shell::Answer answer = shell::Answer::Ok;
+window::Answer AnswerOf(window::Buttons buttons, int button) {
+    window::Answer answer = window::Answer::Ok;
     for (const BoxButton& row : kBoxButtons) {
         if (row.box != buttons)
             continue;
@@ -80,9 +80,9 @@ void KeepLines(QMessageBox& box) {
 
 }  // namespace
 
-shell::Answer WindowBoxes::ShowMessage(std::string_view text, std::string_view title,
-                                       shell::Buttons buttons) {
-    const auto icon = buttons == shell::Buttons::Ok ? QMessageBox::Information : QMessageBox::Question;
+window::Answer WindowBoxes::ShowMessage(std::string_view text, std::string_view title,
+                                        window::Buttons buttons) {
+    const auto icon = buttons == window::Buttons::Ok ? QMessageBox::Information : QMessageBox::Question;
     QMessageBox box(icon, ToQString(title), ToQString(text), QMessageBox::NoButton, WindowInUse());
     box.setTextFormat(Qt::PlainText);
     FitToWindow(box);

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "shell/host.h"
+#include "window/host.h"
 
 namespace tavrelo::qt {
 
 /// Message and input boxes on the desktop, over the active window.
-class WindowBoxes : public shell::Boxes {
+class WindowBoxes : public window::Boxes {
   public:
-    shell::Answer ShowMessage(std::string_view text, std::string_view title, shell::Buttons buttons) override;
+    window::Answer ShowMessage(std::string_view text, std::string_view title,
+                               window::Buttons buttons) override;
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title) override;
 };
 

@@ -8,7 +8,7 @@ namespace {
 
 class ButtonBinding : public Binding {
   public:
-    ButtonBinding(shell::Button& button, QPushButton& widget, ViewContext& context)
+    ButtonBinding(window::Button& button, QPushButton& widget, ViewContext& context)
         : Binding(button, widget, context), m_button(button), m_widget(widget) {
         connect(&widget, &QPushButton::clicked, this, [this] { Report([this] { m_button.UserClick(); }); });
     }
@@ -29,25 +29,25 @@ class ButtonBinding : public Binding {
             return;
         m_icon = m_button.Picture();
         m_icon_zoom = Zoom();
-        const shell::Rect& place = m_icon.source;
+        const window::Rect& place = m_icon.source;
         const QRectF source(place.left, place.top, place.width, place.height);
         m_widget.setIconSize((source.size() * Zoom()).toSize());
         m_widget.setIcon(
             Context().artwork.Piece(m_icon.bitmap, source, Zoom(), m_widget.devicePixelRatioF()));
     }
 
-    shell::Button& m_button;
+    window::Button& m_button;
     QPushButton& m_widget;
-    shell::Icon m_icon;
+    window::Icon m_icon;
     double m_icon_zoom = 0;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> NewButtonBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+std::unique_ptr<Binding> NewButtonBinding(window::Control& control, QWidget& parent, ViewContext& context) {
     auto* widget = new QPushButton(&parent);
     widget->setAutoDefault(false);
-    return std::make_unique<ButtonBinding>(dynamic_cast<shell::Button&>(control), *widget, context);
+    return std::make_unique<ButtonBinding>(dynamic_cast<window::Button&>(control), *widget, context);
 }
 
 }  // namespace tavrelo::qt

@@ -13,7 +13,7 @@ int Sixteenths(double degrees) { return static_cast<int>(std::lround(degrees * 1
 
 /// Straight lines along the axes keep sharp edges; all others are smoothed. Trigonometry leaves a hair in the
 /// ends of upright arrows.
-bool IsAlongAxis(const shell::LineOp& op) {
+bool IsAlongAxis(const window::LineOp& op) {
     constexpr double kHair = 1e-6;  // pixels
     return std::abs(op.x1 - op.x2) < kHair || std::abs(op.y1 - op.y2) < kHair;
 }
@@ -26,7 +26,7 @@ Canvas::Canvas(QPainter& painter, QSizeF size, double zoom, Artwork& artwork)
     m_painter.setRenderHint(QPainter::TextAntialiasing);
 }
 
-void Canvas::Draw(shell::DrawOp op) {
+void Canvas::Draw(window::DrawOp op) {
     std::visit([this](const auto& operation) { Paint(operation); }, op);
 }
 
@@ -40,22 +40,22 @@ QRectF Canvas::CircleAt(double x, double y, double radius) const {
     return {At(x, y) - QPointF(r, r), QSizeF(2 * r, 2 * r)};
 }
 
-void Canvas::SetPen(shell::Color color, double width) {
+void Canvas::SetPen(text::Color color, double width) {
     m_painter.setPen(QPen(ToQColor(color), width * m_zoom, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
 }
 
-void Canvas::Paint(const shell::ClearOp& op) {
+void Canvas::Paint(const window::ClearOp& op) {
     m_painter.fillRect(QRectF(QPointF(), m_size * m_zoom), ToQColor(op.background));
 }
 
-void Canvas::Paint(const shell::LineOp& op) {
+void Canvas::Paint(const window::LineOp& op) {
     SetPen(op.color, op.width);
     m_painter.setRenderHint(QPainter::Antialiasing, !IsAlongAxis(op));
     m_painter.drawLine(At(op.x1, op.y1), At(op.x2, op.y2));
     m_painter.setRenderHint(QPainter::Antialiasing);
 }
 
-void Canvas::Paint(const shell::BoxOp& op) {
+void Canvas::Paint(const window::BoxOp& op) {
     SetPen(op.color, op.width);
     m_painter.setBrush(op.filled ? QBrush(ToQColor(op.color)) : QBrush(Qt::NoBrush));
     m_painter.setRenderHint(QPainter::Antialiasing, false);
@@ -63,13 +63,13 @@ void Canvas::Paint(const shell::BoxOp& op) {
     m_painter.setRenderHint(QPainter::Antialiasing);
 }
 
-void Canvas::Paint(const shell::CircleOp& op) {
+void Canvas::Paint(const window::CircleOp& op) {
     SetPen(op.color, op.width);
     m_painter.setBrush(op.filled ? QBrush(ToQColor(op.color)) : QBrush(Qt::NoBrush));
     m_painter.drawEllipse(CircleAt(op.x, op.y, op.radius));
 }
 
-void Canvas::Paint(const shell::ArcOp& op) {
+void Canvas::Paint(const window::ArcOp& op) {
     SetPen(op.color, op.width);
     double span = op.end - op.start;
     if (span < 0)
@@ -77,20 +77,20 @@ void Canvas::Paint(const shell::ArcOp& op) {
     m_painter.drawArc(CircleAt(op.x, op.y, op.radius), Sixteenths(op.start), Sixteenths(span));
 }
 
-void Canvas::Paint(const shell::PolygonOp& op) {
+void Canvas::Paint(const window::PolygonOp& op) {
     QPolygonF polygon;
-    for (const shell::Point& point : op.points)
+    for (const window::Point& point : op.points)
         polygon << At(point.x, point.y);
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(ToQColor(op.color));
     m_painter.drawPolygon(polygon);
 }
 
-void Canvas::Paint(const shell::TextOp& op) {
-    for (const shell::PlacedRun& run : op.runs) {
+void Canvas::Paint(const window::TextOp& op) {
+    for (const text::PlacedRun& run : op.runs) {
         m_painter.setFont(ToQFont(run.font, m_zoom));
         m_painter.setPen(ToQColor(run.color));
-        const double base_line = op.y + run.dy + shell::TextAscent(run.font);
+        const double base_line = op.y + run.dy + text::TextAscent(run.font);
         const double stretch = FontStretch(run.font, m_zoom);
         m_painter.save();
         m_painter.translate((op.x + run.dx) * m_zoom, base_line * m_zoom);
@@ -100,18 +100,18 @@ void Canvas::Paint(const shell::TextOp& op) {
     }
 }
 
-void Canvas::Paint(const shell::ImageOp& op) {
+void Canvas::Paint(const window::ImageOp& op) {
     const QRectF source(op.source_x, op.source_y, op.width, op.height);
     const QRectF target(op.x * m_zoom, op.y * m_zoom, op.width * m_zoom, op.height * m_zoom);
     m_artwork.Paint(m_painter, op.name, source, target, m_zoom * m_painter.device()->devicePixelRatioF());
 }
 
-void PaintRecording(QPainter& painter, const shell::Recorder& recording, double zoom, Artwork& artwork) {
+void PaintRecording(QPainter& painter, const window::Recorder& recording, double zoom, Artwork& artwork) {
     Canvas canvas(painter, QSizeF(recording.Width(), recording.Height()), zoom, artwork);
-    shell::Replay(recording.Operations(), canvas);
+    window::Replay(recording.Operations(), canvas);
 }
 
-QImage ToImage(const shell::Recorder& recording, double zoom, Artwork& artwork) {
+QImage ToImage(const window::Recorder& recording, double zoom, Artwork& artwork) {
     QImage image((QSizeF(recording.Width(), recording.Height()) * zoom).toSize(), QImage::Format_RGB32);
     image.fill(ToQColor(recording.BackColor));
     QPainter painter(&image);

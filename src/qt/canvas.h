@@ -3,32 +3,32 @@
 #include <QPainter>
 
 #include "qt/artwork.h"
-#include "shell/surface.h"
+#include "window/surface.h"
 
 namespace tavrelo::qt {
 
 /// A surface that paints each operation at once, `zoom` times its size, at the true resolution of the
 /// painter's device.
-class Canvas : public shell::Surface {
+class Canvas : public window::Surface {
   public:
     /// `size` is that of the surface at 100 %.
     Canvas(QPainter& painter, QSizeF size, double zoom, Artwork& artwork);
 
     double Width() const override { return m_size.width(); }
     double Height() const override { return m_size.height(); }
-    void Draw(shell::DrawOp op) override;
+    void Draw(window::DrawOp op) override;
 
   private:
-    void Paint(const shell::ClearOp& op);
-    void Paint(const shell::LineOp& op);
-    void Paint(const shell::BoxOp& op);
-    void Paint(const shell::CircleOp& op);
-    void Paint(const shell::ArcOp& op);
-    void Paint(const shell::PolygonOp& op);
-    void Paint(const shell::TextOp& op);
-    void Paint(const shell::ImageOp& op);
+    void Paint(const window::ClearOp& op);
+    void Paint(const window::LineOp& op);
+    void Paint(const window::BoxOp& op);
+    void Paint(const window::CircleOp& op);
+    void Paint(const window::ArcOp& op);
+    void Paint(const window::PolygonOp& op);
+    void Paint(const window::TextOp& op);
+    void Paint(const window::ImageOp& op);
 
-    void SetPen(shell::Color color, double width);
+    void SetPen(text::Color color, double width);
     /// The middle of a pixel at 100 %, in device-independent pixels.
     QPointF At(double x, double y) const;
     QRectF CircleAt(double x, double y, double radius) const;
@@ -40,9 +40,9 @@ class Canvas : public shell::Surface {
 };
 
 /// Paints a recording in the rectangle of `size` times `zoom` at the painter's origin.
-void PaintRecording(QPainter& painter, const shell::Recorder& recording, double zoom, Artwork& artwork);
+void PaintRecording(QPainter& painter, const window::Recorder& recording, double zoom, Artwork& artwork);
 
 /// A recording as an image of `zoom` times its size.
-QImage ToImage(const shell::Recorder& recording, double zoom, Artwork& artwork);
+QImage ToImage(const window::Recorder& recording, double zoom, Artwork& artwork);
 
 }  // namespace tavrelo::qt

@@ -29,7 +29,7 @@ class ChoiceBinding : public Binding {
         widget.setAutoExclusive(false);
         connect(&widget, &QAbstractButton::clicked, this, [this] {
             Report([this] { m_choice.UserClick(); });
-            Refresh(shell::Change::State);
+            Refresh(window::Change::State);
         });
     }
 
@@ -47,16 +47,16 @@ class ChoiceBinding : public Binding {
 
 }  // namespace
 
-std::unique_ptr<Binding> NewOptionBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    auto& option = dynamic_cast<shell::OptionButton&>(control);
-    return std::make_unique<ChoiceBinding<shell::OptionButton>>(
+std::unique_ptr<Binding> NewOptionBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    auto& option = dynamic_cast<window::OptionButton&>(control);
+    return std::make_unique<ChoiceBinding<window::OptionButton>>(
         option, *new WholeChoice<QRadioButton>(&parent), context);
 }
 
-std::unique_ptr<Binding> NewCheckBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    auto& check = dynamic_cast<shell::CheckBox&>(control);
-    return std::make_unique<ChoiceBinding<shell::CheckBox>>(check, *new WholeChoice<QCheckBox>(&parent),
-                                                            context);
+std::unique_ptr<Binding> NewCheckBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    auto& check = dynamic_cast<window::CheckBox&>(control);
+    return std::make_unique<ChoiceBinding<window::CheckBox>>(check, *new WholeChoice<QCheckBox>(&parent),
+                                                             context);
 }
 
 }  // namespace tavrelo::qt

@@ -14,7 +14,7 @@ void SystemClipboard::SetText(std::string_view text) {
     QGuiApplication::clipboard()->setText(ToQString(text));
 }
 
-void SystemClipboard::SetPicture(const shell::Recorder& picture) {
+void SystemClipboard::SetPicture(const window::Recorder& picture) {
     QGuiApplication::clipboard()->setImage(ToImage(picture, kExportScale, m_artwork));
 }
 

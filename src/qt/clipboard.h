@@ -1,7 +1,7 @@
 #pragma once
 
 #include "qt/artwork.h"
-#include "shell/host.h"
+#include "window/host.h"
 
 namespace tavrelo::qt {
 
@@ -9,13 +9,13 @@ namespace tavrelo::qt {
 inline constexpr double kExportScale = 2;
 
 /// The desktop's clipboard.
-class SystemClipboard : public shell::Clipboard {
+class SystemClipboard : public window::Clipboard {
   public:
     explicit SystemClipboard(Artwork& artwork) : m_artwork(artwork) {}
 
     std::string Text() const override;
     void SetText(std::string_view text) override;
-    void SetPicture(const shell::Recorder& picture) override;
+    void SetPicture(const window::Recorder& picture) override;
 
   private:
     Artwork& m_artwork;

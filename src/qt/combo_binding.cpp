@@ -31,7 +31,7 @@ class WideCombo : public QComboBox {
 
 class ComboBinding : public Binding {
   public:
-    ComboBinding(shell::ComboBox& combo, QComboBox& widget, ViewContext& context)
+    ComboBinding(window::ComboBox& combo, QComboBox& widget, ViewContext& context)
         : Binding(combo, widget, context), m_combo(combo), m_widget(widget) {
         connect(&widget, &QComboBox::activated, this,
                 [this](int row) { Report([this, row] { m_combo.UserPick(row); }); });
@@ -50,18 +50,18 @@ class ComboBinding : public Binding {
     QPalette::ColorRole BackRole() const override { return QPalette::Base; }
 
   private:
-    shell::ComboBox& m_combo;
+    window::ComboBox& m_combo;
     QComboBox& m_widget;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> NewComboBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+std::unique_ptr<Binding> NewComboBinding(window::Control& control, QWidget& parent, ViewContext& context) {
     auto* widget = new WideCombo(&parent);
     widget->setMaxVisibleItems(20);
     // The list is measured when it opens, not when it is filled.
     widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    return std::make_unique<ComboBinding>(dynamic_cast<shell::ComboBox&>(control), *widget, context);
+    return std::make_unique<ComboBinding>(dynamic_cast<window::ComboBox&>(control), *widget, context);
 }
 
 }  // namespace tavrelo::qt

@@ -2,12 +2,12 @@
 
 #include <filesystem>
 
-#include "shell/host.h"
+#include "window/host.h"
 
 namespace tavrelo::qt {
 
 /// The files of one folder.
-class FolderFiles : public shell::Files {
+class FolderFiles : public window::Files {
   public:
     explicit FolderFiles(std::filesystem::path folder) : m_folder(std::move(folder)) {}
     std::string Read(std::string_view name) const override;

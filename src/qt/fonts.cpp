@@ -28,25 +28,24 @@ double ScreenDotsPerInch() {
     return screen ? screen->logicalDotsPerInchY() : kUsualDotsPerInch;
 }
 
-QFont ToQFont(const shell::Font& font, double scale) {
-    QFont result(QStringList{ToQString(shell::FontFamily(font.name)), QStringLiteral("FreeSerif")});
-    SetPixels(result, shell::PixelsOf(font.size) * scale);
+QFont ToQFont(const text::Font& font, double scale) {
+    QFont result(QStringList{ToQString(text::FontFamily(font.name)), QStringLiteral("FreeSerif")});
+    SetPixels(result, text::PixelsOf(font.size) * scale);
     result.setBold(font.bold);
     result.setItalic(font.italic);
     result.setUnderline(font.underline);
     return result;
 }
 
-double FontStretch(const shell::Font& font, double scale) {
-    const double pixels = shell::PixelsOf(font.size) * scale;
+double FontStretch(const text::Font& font, double scale) {
+    const double pixels = text::PixelsOf(font.size) * scale;
     return pixels / std::max(1.0, std::round(pixels));
 }
 
 double InterfacePoints() { return ToPoints(kInterfacePixels); }
 
 QFont InterfaceFont(double scale) {
-    QFont result(
-        QStringList{ToQString(shell::FontFamily(shell::kInterfaceFont)), QStringLiteral("FreeSans")});
+    QFont result(QStringList{ToQString(text::FontFamily(text::kInterfaceFont)), QStringLiteral("FreeSans")});
     SetPixels(result, kInterfacePixels * scale);
     return result;
 }

@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QFont>
 
-#include "shell/font.h"
+#include "text/font.h"
 
 namespace tavrelo::qt {
 
@@ -12,10 +12,10 @@ inline constexpr double kInterfacePixels = 12;
 
 /// The machine's font for one of the program's, `scale` times its size; signs that the family lacks come from
 /// a fallback. Glyphs are not fitted to the pixel grid, so that widths grow evenly with the scale.
-QFont ToQFont(const shell::Font& font, double scale);
+QFont ToQFont(const text::Font& font, double scale);
 /// The toolkit makes fonts of whole pixels only; a text painted with ToQFont is as large as it should be when
 /// it is stretched by this factor.
-double FontStretch(const shell::Font& font, double scale);
+double FontStretch(const text::Font& font, double scale);
 /// The font of captions, cells and text boxes.
 QFont InterfaceFont(double scale);
 /// Its size at 100 %, in points.
@@ -23,8 +23,6 @@ double InterfacePoints();
 /// Logical dots of an inch that font sizes refer to.
 double ScreenDotsPerInch();
 
-inline QColor ToQColor(shell::Color color) {
-    return QColor::fromRgb(static_cast<QRgb>(color.rgb & 0xffffff));
-}
+inline QColor ToQColor(text::Color color) { return QColor::fromRgb(static_cast<QRgb>(color.rgb & 0xffffff)); }
 
 }  // namespace tavrelo::qt

@@ -10,7 +10,7 @@
 
 namespace tavrelo::qt {
 
-FormWindow::FormWindow(shell::Window& model, QWidget* parent, Qt::WindowFlags flags)
+FormWindow::FormWindow(window::Window& model, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), m_model(model), m_page(this) {
     setObjectName(ToQString(model.Name()));
     // Else the first control of the window would have the focus as soon as the window is active.

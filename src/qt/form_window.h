@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "shell/controls.h"
+#include "window/controls.h"
 
 namespace tavrelo::qt {
 
@@ -11,7 +11,7 @@ namespace tavrelo::qt {
 /// frame.
 class FormWindow : public QWidget {
   public:
-    FormWindow(shell::Window& model, QWidget* parent, Qt::WindowFlags flags);
+    FormWindow(window::Window& model, QWidget* parent, Qt::WindowFlags flags);
 
     /// The widget whose children are the window's controls.
     QWidget& Page() { return m_page; }
@@ -37,7 +37,7 @@ class FormWindow : public QWidget {
   private:
     void PlacePage();
 
-    shell::Window& m_model;
+    window::Window& m_model;
     QWidget m_page;
 };
 

@@ -4,7 +4,7 @@
 
 namespace tavrelo::qt {
 
-std::unique_ptr<Binding> NewFrameBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+std::unique_ptr<Binding> NewFrameBinding(window::Control& control, QWidget& parent, ViewContext& context) {
     auto* frame = new QFrame(&parent);
     // Panels lie over one another, so none lets what is below it shine through.
     frame->setAutoFillBackground(true);

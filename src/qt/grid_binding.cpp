@@ -6,7 +6,7 @@ namespace {
 
 class GridBinding : public Binding {
   public:
-    GridBinding(shell::Grid& grid, GridView& view, ViewContext& context)
+    GridBinding(window::Grid& grid, GridView& view, ViewContext& context)
         : Binding(grid, view, context), m_view(view) {}
 
   protected:
@@ -24,8 +24,8 @@ class GridBinding : public Binding {
 
 }  // namespace
 
-std::unique_ptr<Binding> NewGridBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    auto& grid = dynamic_cast<shell::Grid&>(control);
+std::unique_ptr<Binding> NewGridBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    auto& grid = dynamic_cast<window::Grid&>(control);
     return std::make_unique<GridBinding>(grid, *new GridView(grid, parent), context);
 }
 

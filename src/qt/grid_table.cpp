@@ -8,13 +8,13 @@
 namespace tavrelo::qt {
 namespace {
 
-Qt::Alignment ToQt(shell::Alignment alignment) {
+Qt::Alignment ToQt(window::Alignment alignment) {
     switch (alignment) {
-        case shell::Alignment::Center:
+        case window::Alignment::Center:
             return Qt::AlignCenter;
-        case shell::Alignment::Right:
+        case window::Alignment::Right:
             return Qt::AlignRight | Qt::AlignVCenter;
-        case shell::Alignment::Left:
+        case window::Alignment::Left:
             break;
     }
     return Qt::AlignLeft | Qt::AlignVCenter;

@@ -2,14 +2,14 @@
 
 #include <QAbstractTableModel>
 
-#include "shell/controls.h"
+#include "window/controls.h"
 
 namespace tavrelo::qt {
 
 /// The cells of a grid for a table view: the fixed rows and columns are the headings, all others the body.
 class GridTable : public QAbstractTableModel {
   public:
-    explicit GridTable(const shell::Grid& grid) : m_grid(grid) {}
+    explicit GridTable(const window::Grid& grid) : m_grid(grid) {}
 
     /// Cells have changed, or their number.
     void Renew();
@@ -20,7 +20,7 @@ class GridTable : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
-    const shell::Grid& m_grid;
+    const window::Grid& m_grid;
     int m_rows = 0;
     int m_cols = 0;
 };

@@ -15,9 +15,9 @@
 namespace tavrelo::qt {
 namespace {
 
-bool IsArrow(shell::Key key) {
-    return key == shell::Key::Left || key == shell::Key::Right || key == shell::Key::Up ||
-           key == shell::Key::Down;
+bool IsArrow(window::Key key) {
+    return key == window::Key::Left || key == window::Key::Right || key == window::Key::Up ||
+           key == window::Key::Down;
 }
 
 void SetUpHeading(QHeaderView& heading) {
@@ -50,7 +50,7 @@ double Shrinking(double length, double room, double lowest_share) {
 
 }  // namespace
 
-GridView::GridView(shell::Grid& model, QWidget& parent)
+GridView::GridView(window::Grid& model, QWidget& parent)
     : QTableView(&parent), m_grid(model), m_table(model), m_corner(this) {
     setModel(&m_table);
     setSelectionMode(QAbstractItemView::ContiguousSelection);
@@ -78,7 +78,7 @@ void GridView::ShowCells(double zoom) {
 }
 
 void GridView::ShowSizes(double zoom) {
-    const double pixels_per_twip = zoom / shell::kTwipsPerPixel;
+    const double pixels_per_twip = zoom / window::kTwipsPerPixel;
     horizontalHeader()->setVisible(m_grid.FixedRows() > 0);
     verticalHeader()->setVisible(m_grid.FixedCols() > 0);
     const int row_height = ShowRows(pixels_per_twip);
@@ -126,7 +126,7 @@ void GridView::ShowCorner(const QSize& size) {
 }
 
 void GridView::ShowChoice() {
-    const shell::CellBlock& block = m_grid.Selection();
+    const window::CellBlock& block = m_grid.Selection();
     const QItemSelection chosen(IndexOf(block.first_row, block.first_col),
                                 IndexOf(block.last_row, block.last_col));
     selectionModel()->select(chosen, QItemSelectionModel::ClearAndSelect);
@@ -205,7 +205,7 @@ bool GridView::TakeKey(const QKeyEvent& event) {
 void GridView::CopyBlock() const {
     bool has_text = false;
     QStringList lines;
-    const shell::CellBlock& block = m_grid.Selection();
+    const window::CellBlock& block = m_grid.Selection();
     for (int row = std::max(block.first_row, 0); row <= block.last_row; ++row) {
         QStringList cells;
         for (int col = std::max(block.first_col, 0); col <= block.last_col; ++col) {

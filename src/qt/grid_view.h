@@ -11,7 +11,7 @@ namespace tavrelo::qt {
 /// chosen block.
 class GridView : public QTableView {
   public:
-    GridView(shell::Grid& model, QWidget& parent);
+    GridView(window::Grid& model, QWidget& parent);
 
     void ShowCells(double zoom);
     void ShowSizes(double zoom);
@@ -51,7 +51,7 @@ class GridView : public QTableView {
     bool TakeKey(const QKeyEvent& event);
     void CopyBlock() const;
 
-    shell::Grid& m_grid;
+    window::Grid& m_grid;
     GridTable m_table;
     QLabel m_corner;
     bool m_is_dragging = false;

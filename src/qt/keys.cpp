@@ -7,7 +7,7 @@
 namespace tavrelo::qt {
 namespace {
 
-using shell::Key;
+using window::Key;
 
 struct NamedKey {
     int qt_key;
@@ -50,8 +50,8 @@ bool IsPrintable(char32_t character) { return character != 0 && QChar::isPrint(c
 
 }  // namespace
 
-std::optional<shell::KeyStroke> ToKeyStroke(const QKeyEvent& event) {
-    shell::KeyStroke stroke;
+std::optional<window::KeyStroke> ToKeyStroke(const QKeyEvent& event) {
+    window::KeyStroke stroke;
     stroke.shift = event.modifiers() & Qt::ShiftModifier;
     stroke.ctrl = event.modifiers() & Qt::ControlModifier;
     stroke.alt = event.modifiers() & Qt::AltModifier;
@@ -73,9 +73,9 @@ std::optional<char32_t> ToTypedCharacter(const QKeyEvent& event) {
     switch (event.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return shell::kEnterCharacter;
+            return window::kEnterCharacter;
         case Qt::Key_Backspace:
-            return shell::kBackspaceCharacter;
+            return window::kBackspaceCharacter;
         default:
             break;
     }

@@ -5,13 +5,13 @@
 #include <optional>
 #include <vector>
 
-#include "shell/keys.h"
+#include "window/keys.h"
 
 namespace tavrelo::qt {
 
 /// The stroke that the model knows for a key event; nothing for keys that only the widgets and the desktop
 /// know.
-std::optional<shell::KeyStroke> ToKeyStroke(const QKeyEvent& event);
+std::optional<window::KeyStroke> ToKeyStroke(const QKeyEvent& event);
 /// The character that a key press types for the model; nothing when it types none.
 std::optional<char32_t> ToTypedCharacter(const QKeyEvent& event);
 /// The characters that an input method has made.

@@ -35,7 +35,7 @@ class ClickLabel : public QLabel {
 
 class LabelBinding : public Binding {
   public:
-    LabelBinding(shell::Label& label, ClickLabel& widget, ViewContext& context)
+    LabelBinding(window::Label& label, ClickLabel& widget, ViewContext& context)
         : Binding(label, widget, context), m_label(label), m_widget(widget) {
         widget.setTextFormat(Qt::PlainText);
         widget.OnClick = [this] { Report([this] { m_label.UserClick(); }); };
@@ -56,14 +56,14 @@ class LabelBinding : public Binding {
     }
 
   private:
-    shell::Label& m_label;
+    window::Label& m_label;
     ClickLabel& m_widget;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> NewLabelBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    return std::make_unique<LabelBinding>(dynamic_cast<shell::Label&>(control), *new ClickLabel(&parent),
+std::unique_ptr<Binding> NewLabelBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    return std::make_unique<LabelBinding>(dynamic_cast<window::Label&>(control), *new ClickLabel(&parent),
                                           context);
 }
 

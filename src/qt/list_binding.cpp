@@ -43,7 +43,7 @@ class ChoiceList : public QListWidget {
 
 class ListBinding : public Binding {
   public:
-    ListBinding(shell::ListBox& list, ChoiceList& widget, ViewContext& context)
+    ListBinding(window::ListBox& list, ChoiceList& widget, ViewContext& context)
         : Binding(list, widget, context), m_list(list), m_widget(widget) {
         widget.setSelectionMode(list.multiple ? QAbstractItemView::ExtendedSelection
                                               : QAbstractItemView::SingleSelection);
@@ -65,14 +65,14 @@ class ListBinding : public Binding {
     QPalette::ColorRole BackRole() const override { return QPalette::Base; }
 
   private:
-    shell::ListBox& m_list;
+    window::ListBox& m_list;
     ChoiceList& m_widget;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> NewListBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    return std::make_unique<ListBinding>(dynamic_cast<shell::ListBox&>(control), *new ChoiceList(&parent),
+std::unique_ptr<Binding> NewListBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    return std::make_unique<ListBinding>(dynamic_cast<window::ListBox&>(control), *new ChoiceList(&parent),
                                          context);
 }
 

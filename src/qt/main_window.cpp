@@ -21,20 +21,20 @@ constexpr std::string_view kRaised[] = {"picArgs", "fraHelp"};
 
 }  // namespace
 
-MainWindow::MainWindow(shell::Form1& form, Artwork& artwork)
+MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
     : m_context{form, artwork},
       m_main(form.ThisWindow, nullptr, Qt::Window),
       m_dialog(form.Form2, &m_main, Qt::Dialog) {
-    for (shell::Control* control : form.Controls())
-        if (control->Kind() != shell::ControlKind::Window)
+    for (window::Control* control : form.Controls())
+        if (control->Kind() != window::ControlKind::Window)
             m_unmade.push_back(control);
     m_main.setMinimumSize(m_main.SizeAt(kSmallestZoom));
     m_main.setWindowIcon(QIcon(artwork.Piece("tavrelo", QRectF(0, 0, 64, 64), 1, 1)));
     MakeShortcuts();
     SetZoom(FirstZoom(m_main.SizeAt(1), m_main.screen()->availableSize()));
     m_main.OnResize = [this] { ApplyZoom(m_main.ZoomFitting(m_main.size())); };
-    form.OnChange = [this](shell::Control& control, shell::Change change) { OnChange(control, change); };
-    form.OnRaise = [this](shell::Window&) {
+    form.OnChange = [this](window::Control& control, window::Change change) { OnChange(control, change); };
+    form.OnRaise = [this](window::Window&) {
         m_dialog.raise();
         m_dialog.activateWindow();
     };
@@ -48,19 +48,19 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::MakeWidgets() {
-    const auto is_in_view = [](const shell::Control* control) {
+    const auto is_in_view = [](const window::Control* control) {
         return control->IsShown() && control->Bounds().left + control->Bounds().width > 0;
     };
     const auto first_shown = std::stable_partition(m_unmade.begin(), m_unmade.end(), std::not_fn(is_in_view));
-    const std::vector<shell::Control*> shown(first_shown, m_unmade.end());
+    const std::vector<window::Control*> shown(first_shown, m_unmade.end());
     if (shown.empty())
         return;
-    for (shell::Control* control : shown)
+    for (window::Control* control : shown)
         BindingOf(*control);
     OrderTabs();
 }
 
-QWidget& MainWindow::ParentWidgetOf(const shell::Control& control) {
+QWidget& MainWindow::ParentWidgetOf(const window::Control& control) {
     if (control.Parent() == &m_context.form.ThisWindow)
         return m_main.Page();
     if (control.Parent() == &m_context.form.Form2)
@@ -68,7 +68,7 @@ QWidget& MainWindow::ParentWidgetOf(const shell::Control& control) {
     return BindingOf(*control.Parent()).Widget();
 }
 
-Binding& MainWindow::BindingOf(shell::Control& control) {
+Binding& MainWindow::BindingOf(window::Control& control) {
     if (const auto found = m_bindings.find(&control); found != m_bindings.end())
         return *found->second;
     QWidget& parent = ParentWidgetOf(control);
@@ -80,9 +80,9 @@ Binding& MainWindow::BindingOf(shell::Control& control) {
     return binding;
 }
 
-void MainWindow::Stack(const shell::Control& control, QWidget& widget) {
+void MainWindow::Stack(const window::Control& control, QWidget& widget) {
     const auto controls = m_context.form.Controls();
-    const auto is_over = [&](const shell::Control* other) {
+    const auto is_over = [&](const window::Control* other) {
         return other != &control && other->Parent() == control.Parent() && m_bindings.contains(other);
     };
     const auto over = std::find_if(std::ranges::find(controls, &control), controls.end(), is_over);
@@ -95,7 +95,7 @@ void MainWindow::Stack(const shell::Control& control, QWidget& widget) {
 
 void MainWindow::OrderTabs() {
     QWidget* previous = nullptr;
-    for (shell::Control* control : m_context.form.Controls()) {
+    for (window::Control* control : m_context.form.Controls()) {
         const auto made = m_bindings.find(control);
         if (made == m_bindings.end() || made->second->Widget().focusPolicy() == Qt::NoFocus)
             continue;
@@ -119,8 +119,8 @@ void MainWindow::MakeShortcuts() {
 void MainWindow::Show() {
     MakeWidgets();
     ShowWindows();
-    if (shell::Control* focus = m_context.form.Focus())
-        OnChange(*focus, shell::Change::Focus);
+    if (window::Control* focus = m_context.form.Focus())
+        OnChange(*focus, window::Change::Focus);
 }
 
 void MainWindow::ShowWindows() {
@@ -128,7 +128,7 @@ void MainWindow::ShowWindows() {
     m_dialog.ShowState(m_context.form.Pointer());
 }
 
-QWidget& MainWindow::WidgetOf(shell::Control& control) {
+QWidget& MainWindow::WidgetOf(window::Control& control) {
     if (&control == &m_context.form.ThisWindow)
         return m_main;
     if (&control == &m_context.form.Form2)
@@ -143,31 +143,31 @@ Binding* MainWindow::BindingOf(const QWidget* widget) const {
     return nullptr;
 }
 
-shell::Control* MainWindow::FocusedControl() const {
+window::Control* MainWindow::FocusedControl() const {
     const Binding* binding = BindingOf(QApplication::focusWidget());
     if (!binding)
         binding = BindingOf(m_main.focusWidget());
     return binding ? &binding->Model() : nullptr;
 }
 
-void MainWindow::OnChange(shell::Control& control, shell::Change change) {
-    const bool may_show = change == shell::Change::State || change == shell::Change::Selection;
+void MainWindow::OnChange(window::Control& control, window::Change change) {
+    const bool may_show = change == window::Change::State || change == window::Change::Selection;
     if (may_show)
         DropLostFocus();
-    if (control.Kind() == shell::ControlKind::Window)
+    if (control.Kind() == window::ControlKind::Window)
         ShowWindows();
-    else if (change == shell::Change::Focus || m_bindings.contains(&control))
+    else if (change == window::Change::Focus || m_bindings.contains(&control))
         BindingOf(control).Refresh(change);
-    if (control.Kind() == shell::ControlKind::TabStrip && change == shell::Change::Selection)
+    if (control.Kind() == window::ControlKind::TabStrip && change == window::Change::Selection)
         RefreshPages(control);
     if (may_show)
         MakeWidgets();
 }
 
-void MainWindow::RefreshPages(const shell::Control& strip) {
+void MainWindow::RefreshPages(const window::Control& strip) {
     for (const auto& [control, binding] : m_bindings)
         if (control->Parent() == &strip)
-            binding->Refresh(shell::Change::State);
+            binding->Refresh(window::Change::State);
 }
 
 void MainWindow::DropLostFocus() {

@@ -15,7 +15,7 @@ namespace tavrelo::qt {
 class MainWindow : public QObject {
   public:
     /// Both must outlive it.
-    MainWindow(shell::Form1& form, Artwork& artwork);
+    MainWindow(window::Form1& form, Artwork& artwork);
     ~MainWindow() override;
 
     /// Brings the windows that the model shows to the screen.
@@ -24,10 +24,10 @@ class MainWindow : public QObject {
     /// The program's window.
     QWidget& Frame() { return m_main; }
     /// The widget that shows a control of the form, or its window.
-    QWidget& WidgetOf(shell::Control& control);
+    QWidget& WidgetOf(window::Control& control);
     /// The control with the keyboard focus, or the one that has it when the program's window is active; or
     /// null.
-    shell::Control* FocusedControl() const;
+    window::Control* FocusedControl() const;
 
     double Zoom() const { return m_context.zoom; }
     /// Scales both windows, contents and all, between kSmallestZoom and kLargestZoom.
@@ -42,17 +42,17 @@ class MainWindow : public QObject {
     /// Makes the widgets of all controls that have come in view.
     void MakeWidgets();
     /// The binding of a control, made with those of its panels if need be.
-    Binding& BindingOf(shell::Control& control);
-    QWidget& ParentWidgetOf(const shell::Control& control);
+    Binding& BindingOf(window::Control& control);
+    QWidget& ParentWidgetOf(const window::Control& control);
     /// Widgets lie over one another and follow by Tab in the order of the form's table, whenever they were
     /// made.
-    void Stack(const shell::Control& control, QWidget& widget);
+    void Stack(const window::Control& control, QWidget& widget);
     void OrderTabs();
-    void OnChange(shell::Control& control, shell::Change change);
+    void OnChange(window::Control& control, window::Change change);
     void ShowWindows();
     /// When the control in use becomes unusable, no other widget inherits the focus.
     void DropLostFocus();
-    void RefreshPages(const shell::Control& strip);
+    void RefreshPages(const window::Control& strip);
     Binding* BindingOf(const QWidget* widget) const;
 
     void ApplyZoom(double zoom);
@@ -61,8 +61,8 @@ class MainWindow : public QObject {
     ViewContext m_context;
     FormWindow m_main;
     FormWindow m_dialog;
-    std::vector<shell::Control*> m_unmade;  // controls that were not in view yet
-    std::unordered_map<const shell::Control*, std::unique_ptr<Binding>> m_bindings;
+    std::vector<window::Control*> m_unmade;  // controls that were not in view yet
+    std::unordered_map<const window::Control*, std::unique_ptr<Binding>> m_bindings;
     std::unordered_map<const QWidget*, Binding*> m_by_widget;
     int m_wheel_turn = 0;  // eighths of a degree that make no whole step yet
 };

@@ -12,7 +12,7 @@ constexpr std::string_view kBlackboards[] = {"pic", "pic1"};
 
 class PictureBinding : public Binding {
   public:
-    PictureBinding(shell::Picture& picture, PictureView& view, ViewContext& context)
+    PictureBinding(window::Picture& picture, PictureView& view, ViewContext& context)
         : Binding(picture, view, context), m_view(view) {}
 
   protected:
@@ -28,8 +28,8 @@ class PictureBinding : public Binding {
 
 }  // namespace
 
-std::unique_ptr<Binding> NewPictureBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    auto& picture = dynamic_cast<shell::Picture&>(control);
+std::unique_ptr<Binding> NewPictureBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    auto& picture = dynamic_cast<window::Picture&>(control);
     auto* view = new PictureView(picture, parent, context);
     view->SetMenu(std::ranges::find(kBlackboards, picture.Name()) != std::end(kBlackboards));
     return std::make_unique<PictureBinding>(picture, *view, context);

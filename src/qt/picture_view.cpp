@@ -13,7 +13,7 @@
 
 namespace tavrelo::qt {
 
-PictureView::PictureView(shell::Picture& model, QWidget& parent, const ViewContext& context)
+PictureView::PictureView(window::Picture& model, QWidget& parent, const ViewContext& context)
     : QWidget(&parent), m_picture(model), m_context(context) {
     setMouseTracking(true);
 }
@@ -24,7 +24,7 @@ void PictureView::SetMenu(bool has_menu) {
 }
 
 void PictureView::ShowPointer() {
-    if (m_picture.PointerShape() == shell::kPointerDefault)
+    if (m_picture.PointerShape() == window::kPointerDefault)
         unsetCursor();
     else
         setCursor(ToCursor(m_picture.PointerShape()));
@@ -50,13 +50,13 @@ void PictureView::paintEvent(QPaintEvent*) {
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-shell::MouseStroke PictureView::ToStroke(const QMouseEvent& event) const {
+window::MouseStroke PictureView::ToStroke(const QMouseEvent& event) const {
     const QPointF pixels = event.position() / m_context.zoom;
-    const shell::Point own = m_picture.ToOwnUnits({pixels.x(), pixels.y()});
+    const window::Point own = m_picture.ToOwnUnits({pixels.x(), pixels.y()});
     const bool is_right = event.button() == Qt::RightButton || (event.buttons() & Qt::RightButton);
     return {own.x,
             own.y,
-            is_right ? shell::MouseButton::Right : shell::MouseButton::Left,
+            is_right ? window::MouseButton::Right : window::MouseButton::Left,
             event.modifiers().testFlag(Qt::ShiftModifier),
             event.modifiers().testFlag(Qt::ControlModifier),
             event.modifiers().testFlag(Qt::AltModifier)};

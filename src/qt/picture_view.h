@@ -9,7 +9,7 @@ namespace tavrelo::qt {
 /// Paints a picture's recording at the zoom in force and tells the model what the mouse does on it.
 class PictureView : public QWidget {
   public:
-    PictureView(shell::Picture& model, QWidget& parent, const ViewContext& context);
+    PictureView(window::Picture& model, QWidget& parent, const ViewContext& context);
 
     /// With a menu to copy and save the picture, the right button is the menu's; without it, the model's.
     void SetMenu(bool has_menu);
@@ -26,11 +26,11 @@ class PictureView : public QWidget {
 
   private:
     bool IsForModel(const QMouseEvent& event) const;
-    shell::MouseStroke ToStroke(const QMouseEvent& event) const;
+    window::MouseStroke ToStroke(const QMouseEvent& event) const;
     void CopyImage() const;
     void SaveImage();
 
-    shell::Picture& m_picture;
+    window::Picture& m_picture;
     const ViewContext& m_context;
     bool m_has_menu = false;
 };

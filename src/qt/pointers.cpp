@@ -1,20 +1,20 @@
 #include "qt/pointers.h"
 
-#include "shell/pointer.h"
+#include "window/pointer.h"
 
 namespace tavrelo::qt {
 
 QCursor ToCursor(int shape) {
     switch (shape) {
-        case shell::kPointerCross:
+        case window::kPointerCross:
             return Qt::CrossCursor;
-        case shell::kPointerMove:
+        case window::kPointerMove:
             return Qt::SizeAllCursor;
-        case shell::kPointerArrowHourglass:
+        case window::kPointerArrowHourglass:
             return Qt::BusyCursor;
-        case shell::kPointerUpArrow:
+        case window::kPointerUpArrow:
             return Qt::UpArrowCursor;
-        case shell::kPointerBusy:
+        case window::kPointerBusy:
             return Qt::WaitCursor;
         default:
             return Qt::ArrowCursor;

@@ -18,7 +18,7 @@ constexpr double kTwipsPerInch = 1440;
 constexpr double kProgramDotsPerInch = 96;
 
 /// The place for text on the paper, in dots of the printer.
-QRectF ColumnOf(const QPrinter& printer, const shell::PageMargins& margins) {
+QRectF ColumnOf(const QPrinter& printer, const window::PageMargins& margins) {
     const double dots_per_twip = printer.resolution() / kTwipsPerInch;
     const QRectF paper = printer.pageLayout().fullRectPixels(printer.resolution());
     return paper.adjusted(margins.left * dots_per_twip, margins.top * dots_per_twip,
@@ -26,7 +26,7 @@ QRectF ColumnOf(const QPrinter& printer, const shell::PageMargins& margins) {
 }
 
 /// Lays the text out in pages of the column's size.
-void LayOut(QTextDocument& document, const shell::RichText& text, QPrinter& printer, const QSizeF& column) {
+void LayOut(QTextDocument& document, const text::RichText& text, QPrinter& printer, const QSizeF& column) {
     document.setDocumentMargin(0);
     document.documentLayout()->setPaintDevice(&printer);
     document.setPageSize(column);
@@ -43,7 +43,7 @@ void DrawPage(QTextDocument& document, QPainter& painter, const QRectF& column, 
 
 }  // namespace
 
-bool PrintPages(QPrinter& printer, const shell::RichText& text, const shell::PageMargins& margins) {
+bool PrintPages(QPrinter& printer, const text::RichText& text, const window::PageMargins& margins) {
     printer.setPageOrientation(QPageLayout::Portrait);
     printer.setFullPage(true);
     QPainter painter(&printer);
@@ -60,7 +60,7 @@ bool PrintPages(QPrinter& printer, const shell::RichText& text, const shell::Pag
     return true;
 }
 
-bool SystemPrinter::Print(const shell::RichText& text, const shell::PageMargins& margins) {
+bool SystemPrinter::Print(const text::RichText& text, const window::PageMargins& margins) {
     QPrinter printer(QPrinter::HighResolution);
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted)

@@ -4,10 +4,10 @@
 #include <QTextBlock>
 #include <algorithm>
 
-#include "numeric/utf8.h"
 #include "qt/fonts.h"
 #include "qt/text.h"
-#include "shell/geometry.h"
+#include "text/utf8.h"
+#include "window/geometry.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -22,36 +22,36 @@ enum RunProperty : int {
 constexpr std::string_view kLineEnd = "\r\n";
 
 /// The offset as a percentage of the font's height, positive upward.
-double BaselinePercent(const shell::Run& run, const QFont& font, double scale) {
+double BaselinePercent(const text::Run& run, const QFont& font, double scale) {
     const QFontMetricsF metrics(font);
-    const double pixels = scale * run.offset / shell::kTwipsPerPixel;
+    const double pixels = scale * run.offset / window::kTwipsPerPixel;
     return 100 * pixels / (metrics.ascent() + metrics.descent());
 }
 
-shell::Run ToRun(const QTextCharFormat& format, const QString& text) {
-    shell::Run run;
+text::Run ToRun(const QTextCharFormat& format, const QString& text) {
+    text::Run run;
     run.text = ToUtf8(text);
     run.font.name = ToUtf8(format.property(kFontName).toString());
     run.font.size = format.property(kFontSize).toDouble();
     run.font.bold = format.fontWeight() >= QFont::Bold;
     run.font.italic = format.fontItalic();
     run.font.underline = format.fontUnderline();
-    run.color = shell::Color{format.foreground().color().rgb() & 0xffffff};
+    run.color = text::Color{format.foreground().color().rgb() & 0xffffff};
     run.offset = format.property(kOffset).toInt();
     return run;
 }
 
-shell::Run WithText(const shell::Run& run, std::string text) {
-    shell::Run result = run;
+text::Run WithText(const text::Run& run, std::string text) {
+    text::Run result = run;
     result.text = std::move(text);
     return result;
 }
 
 /// A format of plain standard properties.
-QTextCharFormat ToExchangeFormat(const shell::Run& run) {
+QTextCharFormat ToExchangeFormat(const text::Run& run) {
     constexpr double kTextSize = 10;
     QTextCharFormat format;
-    format.setFontFamilies({QStringLiteral("Times New Roman"), ToQString(shell::FontFamily(run.font.name))});
+    format.setFontFamilies({QStringLiteral("Times New Roman"), ToQString(text::FontFamily(run.font.name))});
     format.setFontPointSize(run.offset == 0 ? run.font.size : kTextSize);
     format.setFontWeight(run.font.bold ? QFont::Bold : QFont::Normal);
     format.setFontItalic(run.font.italic);
@@ -65,7 +65,7 @@ QTextCharFormat ToExchangeFormat(const shell::Run& run) {
 
 }  // namespace
 
-QTextCharFormat ToCharFormat(const shell::Run& run, double scale) {
+QTextCharFormat ToCharFormat(const text::Run& run, double scale) {
     const QFont font = ToQFont(run.font, scale);
     QTextCharFormat format;
     format.setFont(font);
@@ -78,15 +78,15 @@ QTextCharFormat ToCharFormat(const shell::Run& run, double scale) {
     return format;
 }
 
-void InsertRuns(QTextCursor& cursor, const shell::RichText& text, double scale) {
+void InsertRuns(QTextCursor& cursor, const text::RichText& text, double scale) {
     cursor.beginEditBlock();
-    for (const shell::Run& run : text.Runs())
-        cursor.insertText(ToQString(numeric::ReplaceAll(run.text, kLineEnd, "\n")), ToCharFormat(run, scale));
+    for (const text::Run& run : text.Runs())
+        cursor.insertText(ToQString(text::ReplaceAll(run.text, kLineEnd, "\n")), ToCharFormat(run, scale));
     cursor.endEditBlock();
 }
 
-shell::RichText ReadRuns(const QTextDocument& document) {
-    shell::RichText text;
+text::RichText ReadRuns(const QTextDocument& document) {
+    text::RichText text;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         if (block.position() > 0)
             text.Append(ToRun(block.charFormat(), ToQString(kLineEnd)));
@@ -96,25 +96,25 @@ shell::RichText ReadRuns(const QTextDocument& document) {
     return text;
 }
 
-shell::RichText Piece(const shell::RichText& text, std::size_t start, std::size_t length) {
-    shell::RichText piece;
+text::RichText Piece(const text::RichText& text, std::size_t start, std::size_t length) {
+    text::RichText piece;
     std::size_t position = 0;
-    for (const shell::Run& run : text.Runs()) {
-        const std::u32string characters = numeric::ToCodePoints(run.text);
+    for (const text::Run& run : text.Runs()) {
+        const std::u32string characters = text::ToCodePoints(run.text);
         const std::size_t first = std::clamp(start, position, position + characters.size()) - position;
         const std::size_t last =
             std::clamp(start + length, position, position + characters.size()) - position;
-        piece.Append(WithText(run, numeric::ToUtf8(characters.substr(first, last - first))));
+        piece.Append(WithText(run, text::ToUtf8(characters.substr(first, last - first))));
         position += characters.size();
     }
     return piece;
 }
 
-QString ToHtml(const shell::RichText& text) {
+QString ToHtml(const text::RichText& text) {
     QTextDocument document;
     QTextCursor cursor(&document);
-    for (const shell::Run& run : text.Runs())
-        cursor.insertText(ToQString(numeric::ReplaceAll(run.text, kLineEnd, "\n")), ToExchangeFormat(run));
+    for (const text::Run& run : text.Runs())
+        cursor.insertText(ToQString(text::ReplaceAll(run.text, kLineEnd, "\n")), ToExchangeFormat(run));
     return document.toHtml();
 }
 

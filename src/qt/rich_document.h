@@ -4,25 +4,25 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-#include "shell/rich_text.h"
+#include "text/rich_text.h"
 
 namespace tavrelo::qt {
 
 /// The format of a run at a scale. The program's own font name, size and offset are kept with it, so that a
 /// run can be read back whole.
-QTextCharFormat ToCharFormat(const shell::Run& run, double scale);
+QTextCharFormat ToCharFormat(const text::Run& run, double scale);
 
 /// Writes the runs behind the cursor; "\r\n" begins a new block.
-void InsertRuns(QTextCursor& cursor, const shell::RichText& text, double scale);
+void InsertRuns(QTextCursor& cursor, const text::RichText& text, double scale);
 
 /// The runs of a document that InsertRuns wrote.
-shell::RichText ReadRuns(const QTextDocument& document);
+text::RichText ReadRuns(const QTextDocument& document);
 
 /// The characters [start, start + length) of a text, a line end being two.
-shell::RichText Piece(const shell::RichText& text, std::size_t start, std::size_t length);
+text::RichText Piece(const text::RichText& text, std::size_t start, std::size_t length);
 
 /// The text as word processors take it from the clipboard: raised and lowered runs in the standard way, fonts
 /// by the names and sizes of the program.
-QString ToHtml(const shell::RichText& text);
+QString ToHtml(const text::RichText& text);
 
 }  // namespace tavrelo::qt

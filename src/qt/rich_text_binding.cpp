@@ -6,7 +6,7 @@ namespace {
 
 class RichTextBinding : public Binding {
   public:
-    RichTextBinding(shell::RichTextBox& box, RichTextView& view, ViewContext& context)
+    RichTextBinding(window::RichTextBox& box, RichTextView& view, ViewContext& context)
         : Binding(box, view, context), m_box(box), m_view(view) {
         connect(&view, &QTextEdit::selectionChanged, this, [this] { ReportSelection(); });
         connect(&view, &QTextEdit::cursorPositionChanged, this, [this] { ReportSelection(); });
@@ -30,14 +30,14 @@ class RichTextBinding : public Binding {
         Report([this] { m_box.UserSelected(m_view.Selected()); });
     }
 
-    shell::RichTextBox& m_box;
+    window::RichTextBox& m_box;
     RichTextView& m_view;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> NewRichTextBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    auto& box = dynamic_cast<shell::RichTextBox&>(control);
+std::unique_ptr<Binding> NewRichTextBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    auto& box = dynamic_cast<window::RichTextBox&>(control);
     if (!box.Locked())
         return NewTextBinding(control, parent, context);
     return std::make_unique<RichTextBinding>(box, *new RichTextView(box, parent), context);

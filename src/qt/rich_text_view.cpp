@@ -6,10 +6,10 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
-#include "numeric/utf8.h"
 #include "qt/fonts.h"
 #include "qt/rich_document.h"
 #include "qt/text.h"
+#include "text/utf8.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -17,12 +17,12 @@ namespace {
 constexpr QStringView kLineEnd(u"\r\n");
 constexpr double kPageMargin = 4;
 
-bool SameLook(const shell::Run& a, const shell::Run& b) {
+bool SameLook(const text::Run& a, const text::Run& b) {
     return a.font == b.font && a.color == b.color && a.offset == b.offset;
 }
 
 /// True when `text` is `front` with something behind it.
-bool GoesOnFrom(const shell::RichText& front, const shell::RichText& text) {
+bool GoesOnFrom(const text::RichText& front, const text::RichText& text) {
     const auto& old_runs = front.Runs();
     const auto& new_runs = text.Runs();
     if (old_runs.empty() || old_runs.size() > new_runs.size())
@@ -39,7 +39,7 @@ bool GoesOnFrom(const shell::RichText& front, const shell::RichText& text) {
 
 }  // namespace
 
-RichTextView::RichTextView(const shell::RichTextBox& model, QWidget& parent)
+RichTextView::RichTextView(const window::RichTextBox& model, QWidget& parent)
     : QTextEdit(&parent), m_model(model) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
@@ -47,19 +47,19 @@ RichTextView::RichTextView(const shell::RichTextBox& model, QWidget& parent)
     setTabChangesFocus(true);
 }
 
-shell::RichText RichTextView::TakeNew(const shell::RichText& text, double scale) {
+text::RichText RichTextView::TakeNew(const text::RichText& text, double scale) {
     if (scale == m_shown_scale && GoesOnFrom(m_shown, text)) {
-        const std::size_t shown = numeric::CharacterCount(m_shown.PlainText());
+        const std::size_t shown = text::CharacterCount(m_shown.PlainText());
         return Piece(text, shown, std::string::npos - shown);
     }
     clear();
     document()->setDocumentMargin(kPageMargin * scale);
-    document()->setDefaultFont(ToQFont(shell::Font{}, scale));
+    document()->setDefaultFont(ToQFont(text::Font{}, scale));
     return text;
 }
 
-void RichTextView::ShowText(const shell::RichText& text, double scale) {
-    const shell::RichText added = TakeNew(text, scale);
+void RichTextView::ShowText(const text::RichText& text, double scale) {
+    const text::RichText added = TakeNew(text, scale);
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     InsertRuns(cursor, added, scale);
@@ -79,13 +79,13 @@ int RichTextView::ToDocumentPosition(std::size_t position) const {
     return utf16 - static_cast<int>(text.left(utf16).count(kLineEnd));
 }
 
-shell::TextSelection RichTextView::Selected() const {
+window::TextSelection RichTextView::Selected() const {
     const QTextCursor cursor = textCursor();
     const std::size_t start = ToModelPosition(cursor.selectionStart());
     return {start, ToModelPosition(cursor.selectionEnd()) - start};
 }
 
-void RichTextView::Select(shell::TextSelection selection) {
+void RichTextView::Select(window::TextSelection selection) {
     QTextCursor cursor(document());
     cursor.setPosition(ToDocumentPosition(selection.start));
     cursor.setPosition(ToDocumentPosition(selection.start + selection.length), QTextCursor::KeepAnchor);
@@ -95,9 +95,9 @@ void RichTextView::Select(shell::TextSelection selection) {
 
 QMimeData* RichTextView::createMimeDataFromSelection() const {
     const auto [start, length] = Selected();
-    const shell::RichText piece = Piece(m_model.Content(), start, length);
+    const text::RichText piece = Piece(m_model.Content(), start, length);
     auto* data = new QMimeData;
-    data->setText(ToQString(numeric::ReplaceAll(piece.PlainText(), "\r\n", "\n")));
+    data->setText(ToQString(text::ReplaceAll(piece.PlainText(), "\r\n", "\n")));
     data->setHtml(ToHtml(piece));
     return data;
 }

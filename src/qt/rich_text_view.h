@@ -2,22 +2,22 @@
 
 #include <QTextEdit>
 
-#include "shell/controls.h"
+#include "window/controls.h"
 
 namespace tavrelo::qt {
 
 /// A page of formatted text to read, select and copy.
 class RichTextView : public QTextEdit {
   public:
-    RichTextView(const shell::RichTextBox& model, QWidget& parent);
+    RichTextView(const window::RichTextBox& model, QWidget& parent);
 
     /// The selection, counted as the model does. Positions of the document are those of QTextCursor.
-    shell::TextSelection Selected() const;
-    void Select(shell::TextSelection selection);
+    window::TextSelection Selected() const;
+    void Select(window::TextSelection selection);
 
     /// Writes the text at a scale; what already stands in front of it is kept when `text` only goes on from
     /// there.
-    void ShowText(const shell::RichText& text, double scale);
+    void ShowText(const text::RichText& text, double scale);
 
   protected:
     QMimeData* createMimeDataFromSelection() const override;
@@ -27,10 +27,10 @@ class RichTextView : public QTextEdit {
     std::size_t ToModelPosition(int position) const;
     int ToDocumentPosition(std::size_t position) const;
     /// Runs of `text` behind what is shown, or all of it after clearing the page.
-    shell::RichText TakeNew(const shell::RichText& text, double scale);
+    text::RichText TakeNew(const text::RichText& text, double scale);
 
-    const shell::RichTextBox& m_model;
-    shell::RichText m_shown;
+    const window::RichTextBox& m_model;
+    text::RichText m_shown;
     double m_shown_scale = 0;
 };
 

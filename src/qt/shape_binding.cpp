@@ -9,7 +9,7 @@ namespace {
 /// A filled rectangle, or only its outline where the shape has no back colour.
 class ShapeWidget : public QWidget {
   public:
-    ShapeWidget(const shell::Control& model, QWidget& parent, const ViewContext& context)
+    ShapeWidget(const window::Control& model, QWidget& parent, const ViewContext& context)
         : QWidget(&parent), m_model(model), m_context(context) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
@@ -29,7 +29,7 @@ class ShapeWidget : public QWidget {
     }
 
   private:
-    const shell::Control& m_model;
+    const window::Control& m_model;
     const ViewContext& m_context;
 };
 
@@ -47,7 +47,7 @@ class ShapeBinding : public Binding {
 
 }  // namespace
 
-std::unique_ptr<Binding> NewShapeBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
+std::unique_ptr<Binding> NewShapeBinding(window::Control& control, QWidget& parent, ViewContext& context) {
     return std::make_unique<ShapeBinding>(control, *new ShapeWidget(control, parent, context), context);
 }
 

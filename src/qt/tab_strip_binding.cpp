@@ -70,7 +70,7 @@ class TabStripWidget : public QWidget {
 
 class TabStripBinding : public Binding {
   public:
-    TabStripBinding(shell::TabStrip& strip, TabStripWidget& widget, ViewContext& context)
+    TabStripBinding(window::TabStrip& strip, TabStripWidget& widget, ViewContext& context)
         : Binding(strip, widget, context), m_strip(strip), m_tabs(widget.Tabs()) {
         m_tabs.setAccessibleName(widget.accessibleName());
         m_tabs.installEventFilter(this);
@@ -108,14 +108,14 @@ class TabStripBinding : public Binding {
         Report([this, tab] { m_strip.UserPick(tab); });
     }
 
-    shell::TabStrip& m_strip;
+    window::TabStrip& m_strip;
     QTabBar& m_tabs;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> NewTabStripBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    auto& strip = dynamic_cast<shell::TabStrip&>(control);
+std::unique_ptr<Binding> NewTabStripBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    auto& strip = dynamic_cast<window::TabStrip&>(control);
     return std::make_unique<TabStripBinding>(strip, *new TabStripWidget(parent, context), context);
 }
 

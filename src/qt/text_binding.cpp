@@ -9,7 +9,7 @@ namespace {
 
 class TextBinding : public Binding {
   public:
-    TextBinding(shell::TextControl& box, TextField& widget, ViewContext& context)
+    TextBinding(window::TextControl& box, TextField& widget, ViewContext& context)
         : Binding(box, widget, context), m_box(box), m_widget(widget) {
         connect(&widget, &QLineEdit::textChanged, this, [this] { ReportEdit(); });
         connect(&widget, &QLineEdit::selectionChanged, this, [this] { ReportSelection(); });
@@ -47,7 +47,7 @@ class TextBinding : public Binding {
     QPalette::ColorRole BackRole() const override { return QPalette::Base; }
 
   private:
-    shell::TextSelection Selected() const {
+    window::TextSelection Selected() const {
         const QString text = m_widget.text();
         if (!m_widget.hasSelectedText())
             return {CharactersBefore(text, m_widget.cursorPosition()), 0};
@@ -77,14 +77,14 @@ class TextBinding : public Binding {
             Report([this] { m_box.UserSelected(Selected()); });
     }
 
-    shell::TextControl& m_box;
+    window::TextControl& m_box;
     TextField& m_widget;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> NewTextBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    auto& box = dynamic_cast<shell::TextControl&>(control);
+std::unique_ptr<Binding> NewTextBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    auto& box = dynamic_cast<window::TextControl&>(control);
     return std::make_unique<TextBinding>(box, *new TextField(box, parent), context);
 }
 

@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-#include "shell/controls.h"
+#include "window/controls.h"
 
 namespace tavrelo::qt {
 
@@ -10,7 +10,7 @@ namespace tavrelo::qt {
 /// usual.
 class TextField : public QLineEdit {
   public:
-    TextField(shell::TextControl& model, QWidget& parent) : QLineEdit(&parent), m_model(model) {}
+    TextField(window::TextControl& model, QWidget& parent) : QLineEdit(&parent), m_model(model) {}
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -19,7 +19,7 @@ class TextField : public QLineEdit {
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
-    shell::TextControl& m_model;
+    window::TextControl& m_model;
 };
 
 }  // namespace tavrelo::qt

@@ -48,7 +48,7 @@ class Arrows : public QWidget {
 
 class ArrowsBinding : public Binding {
   public:
-    ArrowsBinding(shell::UpDown& number, Arrows& widget, ViewContext& context)
+    ArrowsBinding(window::UpDown& number, Arrows& widget, ViewContext& context)
         : Binding(number, widget, context), m_number(number) {
         widget.OnStep = [this](int step) { Report([this, step] { Step(step); }); };
     }
@@ -60,13 +60,13 @@ class ArrowsBinding : public Binding {
             m_number.UserSpin(value);
     }
 
-    shell::UpDown& m_number;
+    window::UpDown& m_number;
 };
 
 /// A box that shows its number itself.
 class SpinBinding : public Binding {
   public:
-    SpinBinding(shell::UpDown& number, QSpinBox& widget, ViewContext& context)
+    SpinBinding(window::UpDown& number, QSpinBox& widget, ViewContext& context)
         : Binding(number, widget, context), m_number(number), m_widget(widget) {
         connect(&widget, &QSpinBox::valueChanged, this,
                 [this](int value) { Report([this, value] { m_number.UserSpin(value); }); });
@@ -84,14 +84,14 @@ class SpinBinding : public Binding {
     QPalette::ColorRole BackRole() const override { return QPalette::Base; }
 
   private:
-    shell::UpDown& m_number;
+    window::UpDown& m_number;
     QSpinBox& m_widget;
 };
 
 }  // namespace
 
-std::unique_ptr<Binding> NewUpDownBinding(shell::Control& control, QWidget& parent, ViewContext& context) {
-    auto& number = dynamic_cast<shell::UpDown&>(control);
+std::unique_ptr<Binding> NewUpDownBinding(window::Control& control, QWidget& parent, ViewContext& context) {
+    auto& number = dynamic_cast<window::UpDown&>(control);
     if (number.buddy)
         return std::make_unique<ArrowsBinding>(number, *new Arrows(parent), context);
     return std::make_unique<SpinBinding>(number, *new QSpinBox(&parent), context);

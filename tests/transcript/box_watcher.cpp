@@ -18,22 +18,22 @@ namespace {
 
 using qt::ToUtf8;
 
-shell::Buttons ButtonsOf(const QMessageBox& box) {
+window::Buttons ButtonsOf(const QMessageBox& box) {
     const auto buttons = box.standardButtons();
     if (buttons == (QMessageBox::Yes | QMessageBox::No))
-        return shell::Buttons::YesNo;
-    return buttons == QMessageBox::Ok ? shell::Buttons::Ok : shell::Buttons::OkCancel;
+        return window::Buttons::YesNo;
+    return buttons == QMessageBox::Ok ? window::Buttons::Ok : window::Buttons::OkCancel;
 }
 
-QMessageBox::StandardButton ButtonFor(shell::Answer answer) {
+QMessageBox::StandardButton ButtonFor(window::Answer answer) {
     switch (answer) {
-        case shell::Answer::Yes:
+        case window::Answer::Yes:
             return QMessageBox::Yes;
-        case shell::Answer::No:
+        case window::Answer::No:
             return QMessageBox::No;
-        case shell::Answer::Cancel:
+        case window::Answer::Cancel:
             return QMessageBox::Cancel;
-        case shell::Answer::Ok:
+        case window::Answer::Ok:
             break;
     }
     return QMessageBox::Ok;
@@ -68,7 +68,8 @@ void BoxWatcher::Answer(QDialog& box) {
 }
 
 void BoxWatcher::AnswerMessage(QMessageBox& box) {
-    const shell::Answer answer = m_log.Message(ToUtf8(box.text()), ToUtf8(box.windowTitle()), ButtonsOf(box));
+    const window::Answer answer =
+        m_log.Message(ToUtf8(box.text()), ToUtf8(box.windowTitle()), ButtonsOf(box));
     box.button(ButtonFor(answer))->click();
 }
 

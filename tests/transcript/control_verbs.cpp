@@ -1,21 +1,21 @@
 #include "key_names.h"
-#include "numeric/utf8.h"
+#include "text/utf8.h"
 #include "verbs.h"
 
 namespace tavrelo::transcript {
 namespace {
 
-bool IsPressed(shell::ControlKind kind) {
-    return kind == shell::ControlKind::Button || kind == shell::ControlKind::OptionButton ||
-           kind == shell::ControlKind::CheckBox || kind == shell::ControlKind::Label;
+bool IsPressed(window::ControlKind kind) {
+    return kind == window::ControlKind::Button || kind == window::ControlKind::OptionButton ||
+           kind == window::ControlKind::CheckBox || kind == window::ControlKind::Label;
 }
 
-bool TakesKeys(const shell::Control& control) {
-    return dynamic_cast<const shell::TextControl*>(&control) || dynamic_cast<const shell::Grid*>(&control);
+bool TakesKeys(const window::Control& control) {
+    return dynamic_cast<const window::TextControl*>(&control) || dynamic_cast<const window::Grid*>(&control);
 }
 
-shell::Control& FindTyped(Session& session, std::string_view name) {
-    shell::Control& control = session.Find(name);
+window::Control& FindTyped(Session& session, std::string_view name) {
+    window::Control& control = session.Find(name);
     if (!TakesKeys(control))
         Session::FailMisfit(name);
     return control;
@@ -28,18 +28,18 @@ std::vector<int> ReadIndexes(Arguments& arguments) {
     return indexes;
 }
 
-bool TakesSeveral(const shell::Control& control) {
-    const auto* list = dynamic_cast<const shell::ListBox*>(&control);
+bool TakesSeveral(const window::Control& control) {
+    const auto* list = dynamic_cast<const window::ListBox*>(&control);
     return list && list->multiple;
 }
 
 /// How many rows or tabs a control has to pick from.
-std::size_t ChoiceCount(const shell::Control& control) {
-    if (const auto* combo = dynamic_cast<const shell::ComboBox*>(&control))
+std::size_t ChoiceCount(const window::Control& control) {
+    if (const auto* combo = dynamic_cast<const window::ComboBox*>(&control))
         return combo->Items().size();
-    if (const auto* tabs = dynamic_cast<const shell::TabStrip*>(&control))
+    if (const auto* tabs = dynamic_cast<const window::TabStrip*>(&control))
         return tabs->Tabs().size();
-    if (const auto* list = dynamic_cast<const shell::ListBox*>(&control))
+    if (const auto* list = dynamic_cast<const window::ListBox*>(&control))
         return list->Items().size();
     Session::FailMisfit(control.Name());
 }
@@ -53,7 +53,7 @@ void CheckIndexes(const std::vector<int>& indexes, std::size_t count) {
 }  // namespace
 
 void Press(Session& session, Arguments& arguments) {
-    shell::Control& control = session.Find(arguments.Word());
+    window::Control& control = session.Find(arguments.Word());
     if (!IsPressed(control.Kind()))
         Session::FailMisfit(control.Name());
     arguments.ExpectEnd();
@@ -61,13 +61,13 @@ void Press(Session& session, Arguments& arguments) {
         session.driver.Press(control);
 }
 
-void TypeCharacters(Session& session, shell::Control& control, std::string_view text) {
-    for (const char32_t character : numeric::ToCodePoints(text))
+void TypeCharacters(Session& session, window::Control& control, std::string_view text) {
+    for (const char32_t character : text::ToCodePoints(text))
         session.driver.Stroke(control, StrokeOf(character));
 }
 
 void Type(Session& session, Arguments& arguments) {
-    shell::Control& control = FindTyped(session, arguments.Word());
+    window::Control& control = FindTyped(session, arguments.Word());
     if (!session.Reach(control))
         return;
     session.driver.GiveFocus(control);
@@ -75,8 +75,8 @@ void Type(Session& session, Arguments& arguments) {
 }
 
 void PressKey(Session& session, Arguments& arguments) {
-    shell::Control& control = FindTyped(session, arguments.Word());
-    const shell::KeyStroke stroke = StrokeNamed(arguments.Word());
+    window::Control& control = FindTyped(session, arguments.Word());
+    const window::KeyStroke stroke = StrokeNamed(arguments.Word());
     arguments.ExpectEnd();
     if (!session.Reach(control))
         return;
@@ -85,7 +85,7 @@ void PressKey(Session& session, Arguments& arguments) {
 }
 
 void SetText(Session& session, Arguments& arguments) {
-    auto& box = session.FindAs<shell::TextControl>(arguments.Word());
+    auto& box = session.FindAs<window::TextControl>(arguments.Word());
     if (!session.Reach(box))
         return;
     session.driver.GiveFocus(box);
@@ -94,7 +94,7 @@ void SetText(Session& session, Arguments& arguments) {
 }
 
 void Pick(Session& session, Arguments& arguments) {
-    shell::Control& control = session.Find(arguments.Word());
+    window::Control& control = session.Find(arguments.Word());
     const std::size_t count = ChoiceCount(control);
     const std::vector<int> indexes = ReadIndexes(arguments);
     if (indexes.size() != 1 && !TakesSeveral(control))
@@ -102,16 +102,16 @@ void Pick(Session& session, Arguments& arguments) {
     if (!session.Reach(control))
         return;
     CheckIndexes(indexes, count);
-    if (auto* combo = dynamic_cast<shell::ComboBox*>(&control))
+    if (auto* combo = dynamic_cast<window::ComboBox*>(&control))
         session.driver.Pick(*combo, indexes.front());
-    else if (auto* tabs = dynamic_cast<shell::TabStrip*>(&control))
+    else if (auto* tabs = dynamic_cast<window::TabStrip*>(&control))
         session.driver.Pick(*tabs, indexes.front());
     else
-        session.driver.Pick(dynamic_cast<shell::ListBox&>(control), indexes);
+        session.driver.Pick(dynamic_cast<window::ListBox&>(control), indexes);
 }
 
 void Spin(Session& session, Arguments& arguments) {
-    auto& control = session.FindAs<shell::UpDown>(arguments.Word());
+    auto& control = session.FindAs<window::UpDown>(arguments.Word());
     const int value = arguments.WholeNumber();
     arguments.ExpectEnd();
     if (session.Reach(control))

@@ -6,7 +6,7 @@
 
 #include "app/program.h"
 #include "recorded_host.h"
-#include "shell/controls.h"
+#include "window/controls.h"
 
 namespace tavrelo::transcript {
 
@@ -17,9 +17,9 @@ struct Appearance {
     bool underlined = false;
     std::string caption;
     std::string tooltip;
-    shell::Color fore_color;
-    shell::Color back_color;
-    shell::Rect bounds;  // pixels at 100 %, in its panel
+    text::Color fore_color;
+    text::Color back_color;
+    window::Rect bounds;  // pixels at 100 %, in its panel
 };
 
 /// One row of a combo or a list.
@@ -60,68 +60,68 @@ class Driver {
     virtual RecordedHost& World() = 0;
 
     /// The control is in view and enabled, and so are its panels; its tab is in front.
-    virtual bool IsReachable(const shell::Control& control) = 0;
+    virtual bool IsReachable(const window::Control& control) = 0;
 
     // What the student does.
 
     /// Clicks in the middle of a button, option button, check box or label.
-    virtual void Press(shell::Control& control) = 0;
+    virtual void Press(window::Control& control) = 0;
     /// Presses at the first place and releases at the second one (the same for a plain click, else the
     /// pointer moves there in between), in the picture's own units. Both have the same button and held keys.
-    virtual void Drag(shell::Picture& picture, const shell::MouseStroke& from,
-                      const shell::MouseStroke& to) = 0;
+    virtual void Drag(window::Picture& picture, const window::MouseStroke& from,
+                      const window::MouseStroke& to) = 0;
     /// Moves the pointer there, own units.
-    virtual void Hover(shell::Picture& picture, shell::Point place) = 0;
+    virtual void Hover(window::Picture& picture, window::Point place) = 0;
 
     /// Gives the focus to a control that is about to be typed into; nothing happens when it has it already.
-    virtual void GiveFocus(shell::Control& control) = 0;
+    virtual void GiveFocus(window::Control& control) = 0;
     /// One key, pressed and released, to a control that GiveFocus was called for.
-    virtual void Stroke(shell::Control& control, const shell::KeyStroke& stroke) = 0;
+    virtual void Stroke(window::Control& control, const window::KeyStroke& stroke) = 0;
     /// Selects all of a box that has the focus and is not locked, and pastes the text over it: one change,
     /// the caret behind it.
-    virtual void ReplaceText(shell::TextControl& box, const std::string& text) = 0;
+    virtual void ReplaceText(window::TextControl& box, const std::string& text) = 0;
 
-    virtual void PressCell(shell::Grid& grid, CellPlace cell) = 0;
+    virtual void PressCell(window::Grid& grid, CellPlace cell) = 0;
     /// Drags from the first cell of the block to the last one.
-    virtual void DragCells(shell::Grid& grid, const shell::CellBlock& block) = 0;
-    virtual void DoubleClickCell(shell::Grid& grid, CellPlace cell) = 0;
+    virtual void DragCells(window::Grid& grid, const window::CellBlock& block) = 0;
+    virtual void DoubleClickCell(window::Grid& grid, CellPlace cell) = 0;
 
     // Rows and tabs from 0; they exist.
-    virtual void Pick(shell::ComboBox& combo, int row) = 0;
-    virtual void Pick(shell::TabStrip& tabs, int tab) = 0;
+    virtual void Pick(window::ComboBox& combo, int row) = 0;
+    virtual void Pick(window::TabStrip& tabs, int tab) = 0;
     /// Exactly these rows.
-    virtual void Pick(shell::ListBox& list, const std::vector<int>& rows) = 0;
+    virtual void Pick(window::ListBox& list, const std::vector<int>& rows) = 0;
     /// Arrows up or down until the number stands there; it may lie outside the range, where the control
     /// stops.
-    virtual void Spin(shell::UpDown& control, int value) = 0;
+    virtual void Spin(window::UpDown& control, int value) = 0;
 
     virtual void PutOnClipboard(const std::string& text) = 0;
 
     // What is seen (of hidden and disabled controls too).
 
-    virtual Appearance Look(const shell::Control& control) = 0;
+    virtual Appearance Look(const window::Control& control) = 0;
     /// The text of a text box, as it stands.
-    virtual std::string Text(const shell::TextBox& box) = 0;
+    virtual std::string Text(const window::TextBox& box) = 0;
     /// The runs of a rich box, line ends "\r\n" or "\n"; neighbours may be equal.
-    virtual std::vector<shell::Run> Runs(const shell::RichTextBox& box) = 0;
+    virtual std::vector<text::Run> Runs(const window::RichTextBox& box) = 0;
     /// Start and length in characters.
-    virtual shell::TextSelection Selection(const shell::TextControl& box) = 0;
+    virtual window::TextSelection Selection(const window::TextControl& box) = 0;
     /// All cells by row, fixed ones included.
-    virtual std::vector<std::vector<std::string>> Cells(const shell::Grid& grid) = 0;
+    virtual std::vector<std::vector<std::string>> Cells(const window::Grid& grid) = 0;
     /// The selected block, ordered; (-1, -1, -1, -1) when there is none.
-    virtual shell::CellBlock Selection(const shell::Grid& grid) = 0;
-    virtual std::vector<ListRow> Rows(const shell::ComboBox& combo) = 0;
-    virtual std::vector<ListRow> Rows(const shell::ListBox& list) = 0;
-    virtual bool IsChecked(const shell::OptionButton& option) = 0;
-    virtual bool IsChecked(const shell::CheckBox& check) = 0;
-    virtual int FrontTab(const shell::TabStrip& tabs) = 0;
-    virtual int Value(const shell::UpDown& control) = 0;
+    virtual window::CellBlock Selection(const window::Grid& grid) = 0;
+    virtual std::vector<ListRow> Rows(const window::ComboBox& combo) = 0;
+    virtual std::vector<ListRow> Rows(const window::ListBox& list) = 0;
+    virtual bool IsChecked(const window::OptionButton& option) = 0;
+    virtual bool IsChecked(const window::CheckBox& check) = 0;
+    virtual int FrontTab(const window::TabStrip& tabs) = 0;
+    virtual int Value(const window::UpDown& control) = 0;
     /// The drawing as it stands, pixels at 100 %.
-    virtual std::vector<shell::DrawOp> Drawing(const shell::Picture& picture) = 0;
-    virtual std::vector<std::string> DrawnTexts(const shell::Picture& picture) = 0;
+    virtual std::vector<window::DrawOp> Drawing(const window::Picture& picture) = 0;
+    virtual std::vector<std::string> DrawnTexts(const window::Picture& picture) = 0;
 
     /// The control with the focus, or null.
-    virtual const shell::Control* Focus() = 0;
+    virtual const window::Control* Focus() = 0;
     /// The number of the pointer shape in force; see shell::PointerShape.
     virtual int Pointer() = 0;
     virtual ClipboardContent OnClipboard() = 0;

@@ -11,7 +11,7 @@ CellPlace ReadCell(Arguments& arguments) {
 }
 
 /// True when the student can press that cell; else the command shows why not.
-bool ReachCell(Session& session, const shell::Grid& grid, CellPlace cell) {
+bool ReachCell(Session& session, const window::Grid& grid, CellPlace cell) {
     if (!session.Reach(grid))
         return false;
     if (grid.HasCell(cell.row, cell.col))
@@ -23,7 +23,7 @@ bool ReachCell(Session& session, const shell::Grid& grid, CellPlace cell) {
 }  // namespace
 
 void PressCell(Session& session, Arguments& arguments) {
-    auto& grid = session.FindAs<shell::Grid>(arguments.Word());
+    auto& grid = session.FindAs<window::Grid>(arguments.Word());
     const CellPlace cell = ReadCell(arguments);
     arguments.ExpectEnd();
     if (ReachCell(session, grid, cell))
@@ -31,7 +31,7 @@ void PressCell(Session& session, Arguments& arguments) {
 }
 
 void DragBlock(Session& session, Arguments& arguments) {
-    auto& grid = session.FindAs<shell::Grid>(arguments.Word());
+    auto& grid = session.FindAs<window::Grid>(arguments.Word());
     const CellPlace first = ReadCell(arguments);
     const CellPlace last = ReadCell(arguments);
     arguments.ExpectEnd();
@@ -40,7 +40,7 @@ void DragBlock(Session& session, Arguments& arguments) {
 }
 
 void FillCells(Session& session, Arguments& arguments) {
-    auto& grid = session.FindAs<shell::Grid>(arguments.Word());
+    auto& grid = session.FindAs<window::Grid>(arguments.Word());
     CellPlace cell = ReadCell(arguments);
     std::string_view rest = arguments.Rest();
     while (true) {
@@ -60,7 +60,7 @@ void FillCells(Session& session, Arguments& arguments) {
 }
 
 void DoubleClickCell(Session& session, Arguments& arguments) {
-    auto& grid = session.FindAs<shell::Grid>(arguments.Word());
+    auto& grid = session.FindAs<window::Grid>(arguments.Word());
     const CellPlace cell = ReadCell(arguments);
     arguments.ExpectEnd();
     if (ReachCell(session, grid, cell))

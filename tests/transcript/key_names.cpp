@@ -3,14 +3,14 @@
 #include <optional>
 #include <string>
 
-#include "numeric/utf8.h"
 #include "script.h"
+#include "text/utf8.h"
 
 namespace tavrelo::transcript {
 namespace {
 
-using shell::Key;
-using shell::KeyStroke;
+using window::Key;
+using window::KeyStroke;
 
 struct KeyName {
     std::string_view name;
@@ -36,11 +36,11 @@ constexpr HeldKey kHeldKeys[] = {
     {"Alt+", &KeyStroke::alt},
 };
 
-char32_t OnlyCharacter(const std::string& text) { return numeric::ToCodePoints(text).front(); }
+char32_t OnlyCharacter(const std::string& text) { return text::ToCodePoints(text).front(); }
 
-char32_t Capital(char32_t character) { return OnlyCharacter(numeric::ToUpper(numeric::ToUtf8(character))); }
+char32_t Capital(char32_t character) { return OnlyCharacter(text::ToUpper(text::ToUtf8(character))); }
 
-char32_t Small(char32_t character) { return OnlyCharacter(numeric::ToLower(numeric::ToUtf8(character))); }
+char32_t Small(char32_t character) { return OnlyCharacter(text::ToLower(text::ToUtf8(character))); }
 
 /// Takes the name of a held key off the front of a name that goes on behind it.
 const HeldKey* TakeHeldKey(std::string_view& name) {
@@ -87,7 +87,7 @@ KeyStroke StrokeNamed(std::string_view name) {
         stroke.key = *named;
         return stroke;
     }
-    if (numeric::CharacterCount(key) != 1)
+    if (text::CharacterCount(key) != 1)
         throw ScriptError("there is no key \"" + std::string(name) + "\"");
     stroke.character = OnlyCharacter(std::string(key));
     FitCharacter(stroke);

@@ -7,7 +7,7 @@
 namespace tavrelo::transcript {
 
 /// What the model tells of a control's look.
-Appearance LookOf(const shell::Control& control);
+Appearance LookOf(const window::Control& control);
 
 /// A fresh program without a window: acts on the window model as a view would.
 std::unique_ptr<Driver> MakeModelDriver();

@@ -2,10 +2,10 @@
 #include <numbers>
 #include <optional>
 
-#include "shell/menu_bar.h"
-#include "vectors/clock_direction.h"
-#include "vectors/clock_face.h"
-#include "vectors/direction_clock.h"
+#include "drawing/clock_face.h"
+#include "frame/direction_clock.h"
+#include "frame/menu_bar.h"
+#include "notation/clock_direction.h"
 #include "verbs.h"
 
 namespace tavrelo::transcript {
@@ -25,28 +25,28 @@ int CountedNumber(Arguments& arguments, int most) {
     return number;
 }
 
-shell::MouseStroke Place(double x, double y) {
-    shell::MouseStroke stroke;
+window::MouseStroke Place(double x, double y) {
+    window::MouseStroke stroke;
     stroke.x = x;
     stroke.y = y;
     return stroke;
 }
 
-shell::MouseStroke ReadPlace(Arguments& arguments) {
+window::MouseStroke ReadPlace(Arguments& arguments) {
     const double x = arguments.Number();
     return Place(x, arguments.Number());
 }
 
-void Click(Session& session, shell::Picture& picture, const shell::MouseStroke& stroke) {
+void Click(Session& session, window::Picture& picture, const window::MouseStroke& stroke) {
     if (session.Reach(picture))
         session.driver.Drag(picture, stroke, stroke);
 }
 
-void ReadButton(Arguments& arguments, shell::MouseStroke& stroke) {
+void ReadButton(Arguments& arguments, window::MouseStroke& stroke) {
     if (arguments.NextWord() != "right")
         return;
     arguments.Word();
-    stroke.button = shell::MouseButton::Right;
+    stroke.button = window::MouseButton::Right;
 }
 
 void ReadHeldKey(Arguments& arguments, std::string_view name, bool& held) {
@@ -63,7 +63,7 @@ struct RoutinePlace {
 
 /// The first place of the menu where a routine stands.
 RoutinePlace FindRoutine(int routine) {
-    const auto groups = shell::RoutineGroups();
+    const auto groups = frame::RoutineGroups();
     for (std::size_t group = 0; group < groups.size(); ++group)
         for (std::size_t icon = 0; icon < groups[group].icons.size(); ++icon)
             if (groups[group].icons[icon].routine == routine)
@@ -71,14 +71,14 @@ RoutinePlace FindRoutine(int routine) {
     throw ScriptError("there is no routine " + std::to_string(routine));
 }
 
-shell::MouseStroke MenuCell(int column, int row_top) {
-    return Place(column * shell::kMenuCellWidth + shell::kMenuCellWidth / 2.0,
-                 row_top + shell::kMenuCellHeight / 2.0);
+window::MouseStroke MenuCell(int column, int row_top) {
+    return Place(column * frame::kMenuCellWidth + frame::kMenuCellWidth / 2.0,
+                 row_top + frame::kMenuCellHeight / 2.0);
 }
 
 /// How far the clock is turned with the axes, degrees.
-double ClockRotation(const shell::Form1& window) {
-    return window.publics.CurrentTool == shell::Tool::Particle ? vectors::GetRotAngle(window) : 0;
+double ClockRotation(const window::Form1& window) {
+    return window.publics.CurrentTool == window::Tool::Particle ? frame::GetRotAngle(window) : 0;
 }
 
 }  // namespace
@@ -92,26 +92,26 @@ void PressTool(Session& session, Arguments& arguments) {
 void PickRoutine(Session& session, Arguments& arguments) {
     const RoutinePlace place = FindRoutine(arguments.WholeNumber());
     arguments.ExpectEnd();
-    shell::Picture& menu = session.Window().picBar;
+    window::Picture& menu = session.Window().picBar;
     if (!session.Reach(menu))
         return;
     Click(session, menu, MenuCell(place.group, 0));
-    Click(session, menu, MenuCell(place.icon, shell::kMenuSecondRow));
+    Click(session, menu, MenuCell(place.icon, frame::kMenuSecondRow));
 }
 
 void PressHour(Session& session, Arguments& arguments) {
-    const int hour = CountedNumber(arguments, vectors::kHours);
+    const int hour = CountedNumber(arguments, notation::kHours);
     arguments.ExpectEnd();
-    const double degrees = kDegreesPerHour * (vectors::kHourRight - hour) + ClockRotation(session.Window());
+    const double degrees = kDegreesPerHour * (notation::kHourRight - hour) + ClockRotation(session.Window());
     const double radians = degrees * std::numbers::pi / 180;
     Click(session, session.Window().picClock,
-          Place(vectors::kClockRadius + kNumeralRadius * std::cos(radians),
-                vectors::kClockRadius - kNumeralRadius * std::sin(radians)));
+          Place(drawing::kClockRadius + kNumeralRadius * std::cos(radians),
+                drawing::kClockRadius - kNumeralRadius * std::sin(radians)));
 }
 
 void ClickPicture(Session& session, Arguments& arguments) {
-    auto& picture = session.FindAs<shell::Picture>(arguments.Word());
-    shell::MouseStroke stroke = ReadPlace(arguments);
+    auto& picture = session.FindAs<window::Picture>(arguments.Word());
+    window::MouseStroke stroke = ReadPlace(arguments);
     ReadButton(arguments, stroke);
     ReadHeldKey(arguments, "shift", stroke.shift);
     ReadHeldKey(arguments, "ctrl", stroke.ctrl);
@@ -121,13 +121,13 @@ void ClickPicture(Session& session, Arguments& arguments) {
 }
 
 void DragOnPicture(Session& session, Arguments& arguments) {
-    auto& picture = session.FindAs<shell::Picture>(arguments.Word());
-    shell::MouseStroke from = ReadPlace(arguments);
-    const shell::MouseStroke end = ReadPlace(arguments);
+    auto& picture = session.FindAs<window::Picture>(arguments.Word());
+    window::MouseStroke from = ReadPlace(arguments);
+    const window::MouseStroke end = ReadPlace(arguments);
     ReadButton(arguments, from);
     ReadHeldKey(arguments, "shift", from.shift);
     arguments.ExpectEnd();
-    shell::MouseStroke to = from;
+    window::MouseStroke to = from;
     to.x = end.x;
     to.y = end.y;
     if (session.Reach(picture))
@@ -135,8 +135,8 @@ void DragOnPicture(Session& session, Arguments& arguments) {
 }
 
 void HoverPicture(Session& session, Arguments& arguments) {
-    auto& picture = session.FindAs<shell::Picture>(arguments.Word());
-    const shell::MouseStroke place = ReadPlace(arguments);
+    auto& picture = session.FindAs<window::Picture>(arguments.Word());
+    const window::MouseStroke place = ReadPlace(arguments);
     arguments.ExpectEnd();
     if (session.Reach(picture))
         session.driver.Hover(picture, {place.x, place.y});

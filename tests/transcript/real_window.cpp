@@ -20,7 +20,7 @@ namespace tavrelo::transcript {
 namespace {
 
 using qt::ToQString;
-using shell::Key;
+using window::Key;
 
 struct KeyCode {
     Key key;
@@ -53,7 +53,7 @@ Qt::KeyboardModifiers ModifiersOf(bool shift, bool ctrl, bool alt) {
 }
 
 /// The text that a key event carries: none for a command, a control character for the keys that have one.
-QString TextOf(const shell::KeyStroke& stroke) {
+QString TextOf(const window::KeyStroke& stroke) {
     if (stroke.ctrl || stroke.alt)
         return {};
     switch (stroke.key) {
@@ -100,36 +100,37 @@ RealWindow::~RealWindow() {
     QCoreApplication::processEvents();
 }
 
-QWidget& RealWindow::Find(const shell::Control& control) {
+QWidget& RealWindow::Find(const window::Control& control) {
     return m_window.WidgetOf(*m_program.Window().Find(control.Name()));
 }
 
-QWidget& RealWindow::Activate(const shell::Control& control) {
+QWidget& RealWindow::Activate(const window::Control& control) {
     QWidget& widget = Find(control);
     if (QApplication::activeWindow() != widget.window())
         QApplication::setActiveWindow(widget.window());
     return widget;
 }
 
-bool RealWindow::IsReachable(const shell::Control& control) {
+bool RealWindow::IsReachable(const window::Control& control) {
     const QWidget& widget = Find(control);
     return widget.isVisible() && widget.isEnabled();
 }
 
-void RealWindow::Press(shell::Control& control) {
+void RealWindow::Press(window::Control& control) {
     QWidget& widget = Activate(control);
     QTest::mouseClick(&widget, Qt::LeftButton);
 }
 
-QPointF RealWindow::PlaceOn(const shell::Picture& picture, shell::Point own) const {
-    const shell::Point pixels = picture.ToPixels(own);
+QPointF RealWindow::PlaceOn(const window::Picture& picture, window::Point own) const {
+    const window::Point pixels = picture.ToPixels(own);
     return QPointF(pixels.x, pixels.y) * m_window.Zoom();
 }
 
-void RealWindow::Drag(shell::Picture& picture, const shell::MouseStroke& from, const shell::MouseStroke& to) {
+void RealWindow::Drag(window::Picture& picture, const window::MouseStroke& from,
+                      const window::MouseStroke& to) {
     QWidget& widget = Activate(picture);
     MouseAct act{QEvent::MouseButtonPress, PlaceOn(picture, {from.x, from.y})};
-    if (from.button == shell::MouseButton::Right)
+    if (from.button == window::MouseButton::Right)
         act.button = Qt::RightButton;
     act.modifiers = ModifiersOf(from.shift, from.ctrl, from.alt);
     SendMouse(widget, act);
@@ -139,24 +140,24 @@ void RealWindow::Drag(shell::Picture& picture, const shell::MouseStroke& from, c
     SendMouse(widget, {QEvent::MouseButtonRelease, end, act.button, act.modifiers});
 }
 
-void RealWindow::Hover(shell::Picture& picture, shell::Point place) {
+void RealWindow::Hover(window::Picture& picture, window::Point place) {
     SendMouse(Activate(picture), {QEvent::MouseMove, PlaceOn(picture, place), Qt::NoButton});
 }
 
-void RealWindow::GiveFocus(shell::Control& control) {
+void RealWindow::GiveFocus(window::Control& control) {
     QWidget& widget = Activate(control);
     if (!widget.hasFocus())
         widget.setFocus(Qt::OtherFocusReason);
 }
 
-void RealWindow::Stroke(shell::Control& control, const shell::KeyStroke& stroke) {
+void RealWindow::Stroke(window::Control& control, const window::KeyStroke& stroke) {
     const auto* named = std::ranges::find(kKeyCodes, stroke.key, &KeyCode::key);
     const Qt::Key code = named != std::end(kKeyCodes) ? named->code : CodeOf(stroke.character);
     const auto modifiers = ModifiersOf(stroke.shift, stroke.ctrl, stroke.alt);
     QTest::sendKeyEvent(QTest::Click, &Activate(control), code, TextOf(stroke), modifiers);
 }
 
-void RealWindow::ReplaceText(shell::TextControl& box, const std::string& text) {
+void RealWindow::ReplaceText(window::TextControl& box, const std::string& text) {
     auto& field = FindAs<QLineEdit>(box);
     if (field.isReadOnly())
         return;
@@ -164,7 +165,7 @@ void RealWindow::ReplaceText(shell::TextControl& box, const std::string& text) {
     field.insert(ToQString(text));
 }
 
-void RealWindow::PressHeading(qt::GridView& view, const shell::Grid& grid, CellPlace cell) {
+void RealWindow::PressHeading(qt::GridView& view, const window::Grid& grid, CellPlace cell) {
     const bool is_top = cell.row < grid.FixedRows();
     QHeaderView& heading = is_top ? *view.horizontalHeader() : *view.verticalHeader();
     const int section = is_top ? cell.col - grid.FixedCols() : cell.row - grid.FixedRows();
@@ -172,7 +173,7 @@ void RealWindow::PressHeading(qt::GridView& view, const shell::Grid& grid, CellP
     QTest::mouseClick(heading.viewport(), Qt::LeftButton, {}, is_top ? QPoint(start, 1) : QPoint(1, start));
 }
 
-void RealWindow::PressCell(shell::Grid& grid, CellPlace cell) {
+void RealWindow::PressCell(window::Grid& grid, CellPlace cell) {
     Activate(grid);
     auto& view = FindAs<qt::GridView>(grid);
     if (cell.row < grid.FixedRows() || cell.col < grid.FixedCols())
@@ -181,7 +182,7 @@ void RealWindow::PressCell(shell::Grid& grid, CellPlace cell) {
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.BringIntoView(cell.row, cell.col));
 }
 
-void RealWindow::DragCells(shell::Grid& grid, const shell::CellBlock& block) {
+void RealWindow::DragCells(window::Grid& grid, const window::CellBlock& block) {
     Activate(grid);
     auto& view = FindAs<qt::GridView>(grid);
     QTest::mousePress(view.viewport(), Qt::LeftButton, {},
@@ -191,7 +192,7 @@ void RealWindow::DragCells(shell::Grid& grid, const shell::CellBlock& block) {
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, last);
 }
 
-void RealWindow::DoubleClickCell(shell::Grid& grid, CellPlace cell) {
+void RealWindow::DoubleClickCell(window::Grid& grid, CellPlace cell) {
     PressCell(grid, cell);
     auto& view = FindAs<qt::GridView>(grid);
     const QPoint place = view.BringIntoView(cell.row, cell.col);
@@ -199,7 +200,7 @@ void RealWindow::DoubleClickCell(shell::Grid& grid, CellPlace cell) {
     SendMouse(*view.viewport(), {QEvent::MouseButtonRelease, place});
 }
 
-void RealWindow::Pick(shell::ComboBox& combo, int row) {
+void RealWindow::Pick(window::ComboBox& combo, int row) {
     Activate(combo);
     auto& widget = FindAs<QComboBox>(combo);
     widget.setFocus(Qt::MouseFocusReason);
@@ -208,12 +209,12 @@ void RealWindow::Pick(shell::ComboBox& combo, int row) {
     QTest::keyClick(widget.view(), Qt::Key_Return);
 }
 
-void RealWindow::Pick(shell::TabStrip& tabs, int tab) {
+void RealWindow::Pick(window::TabStrip& tabs, int tab) {
     auto& bar = *Activate(tabs).findChild<QTabBar*>();
     QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(tab).center());
 }
 
-void RealWindow::Pick(shell::ListBox& list, const std::vector<int>& rows) {
+void RealWindow::Pick(window::ListBox& list, const std::vector<int>& rows) {
     Activate(list);
     auto& widget = FindAs<QListWidget>(list);
     const auto click = [&widget](int row, Qt::KeyboardModifiers modifiers) {
@@ -228,7 +229,7 @@ void RealWindow::Pick(shell::ListBox& list, const std::vector<int>& rows) {
         click(row, row == rows.front() ? Qt::NoModifier : Qt::ControlModifier);
 }
 
-void RealWindow::Spin(shell::UpDown& control, int value) {
+void RealWindow::Spin(window::UpDown& control, int value) {
     QWidget& widget = Activate(control);
     const int step = value > Value(control) ? 1 : -1;
     for (int before = Value(control); before != value; before = Value(control)) {

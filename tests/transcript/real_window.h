@@ -19,55 +19,56 @@ class RealWindow : public Driver {
 
     app::Program& Program() override { return m_program; }
     RecordedHost& World() override { return m_world; }
-    bool IsReachable(const shell::Control& control) override;
+    bool IsReachable(const window::Control& control) override;
 
-    void Press(shell::Control& control) override;
-    void Drag(shell::Picture& picture, const shell::MouseStroke& from, const shell::MouseStroke& to) override;
-    void Hover(shell::Picture& picture, shell::Point place) override;
-    void GiveFocus(shell::Control& control) override;
-    void Stroke(shell::Control& control, const shell::KeyStroke& stroke) override;
-    void ReplaceText(shell::TextControl& box, const std::string& text) override;
-    void PressCell(shell::Grid& grid, CellPlace cell) override;
-    void DragCells(shell::Grid& grid, const shell::CellBlock& block) override;
-    void DoubleClickCell(shell::Grid& grid, CellPlace cell) override;
-    void Pick(shell::ComboBox& combo, int row) override;
-    void Pick(shell::TabStrip& tabs, int tab) override;
-    void Pick(shell::ListBox& list, const std::vector<int>& rows) override;
-    void Spin(shell::UpDown& control, int value) override;
+    void Press(window::Control& control) override;
+    void Drag(window::Picture& picture, const window::MouseStroke& from,
+              const window::MouseStroke& to) override;
+    void Hover(window::Picture& picture, window::Point place) override;
+    void GiveFocus(window::Control& control) override;
+    void Stroke(window::Control& control, const window::KeyStroke& stroke) override;
+    void ReplaceText(window::TextControl& box, const std::string& text) override;
+    void PressCell(window::Grid& grid, CellPlace cell) override;
+    void DragCells(window::Grid& grid, const window::CellBlock& block) override;
+    void DoubleClickCell(window::Grid& grid, CellPlace cell) override;
+    void Pick(window::ComboBox& combo, int row) override;
+    void Pick(window::TabStrip& tabs, int tab) override;
+    void Pick(window::ListBox& list, const std::vector<int>& rows) override;
+    void Spin(window::UpDown& control, int value) override;
     void PutOnClipboard(const std::string& text) override;
 
-    Appearance Look(const shell::Control& control) override;
-    std::string Text(const shell::TextBox& box) override;
-    std::vector<shell::Run> Runs(const shell::RichTextBox& box) override;
-    shell::TextSelection Selection(const shell::TextControl& box) override;
-    std::vector<std::vector<std::string>> Cells(const shell::Grid& grid) override;
-    shell::CellBlock Selection(const shell::Grid& grid) override;
-    std::vector<ListRow> Rows(const shell::ComboBox& combo) override;
-    std::vector<ListRow> Rows(const shell::ListBox& list) override;
-    bool IsChecked(const shell::OptionButton& option) override;
-    bool IsChecked(const shell::CheckBox& check) override;
-    int FrontTab(const shell::TabStrip& tabs) override;
-    int Value(const shell::UpDown& control) override;
-    std::vector<shell::DrawOp> Drawing(const shell::Picture& picture) override;
-    std::vector<std::string> DrawnTexts(const shell::Picture& picture) override;
-    const shell::Control* Focus() override;
+    Appearance Look(const window::Control& control) override;
+    std::string Text(const window::TextBox& box) override;
+    std::vector<text::Run> Runs(const window::RichTextBox& box) override;
+    window::TextSelection Selection(const window::TextControl& box) override;
+    std::vector<std::vector<std::string>> Cells(const window::Grid& grid) override;
+    window::CellBlock Selection(const window::Grid& grid) override;
+    std::vector<ListRow> Rows(const window::ComboBox& combo) override;
+    std::vector<ListRow> Rows(const window::ListBox& list) override;
+    bool IsChecked(const window::OptionButton& option) override;
+    bool IsChecked(const window::CheckBox& check) override;
+    int FrontTab(const window::TabStrip& tabs) override;
+    int Value(const window::UpDown& control) override;
+    std::vector<window::DrawOp> Drawing(const window::Picture& picture) override;
+    std::vector<std::string> DrawnTexts(const window::Picture& picture) override;
+    const window::Control* Focus() override;
     int Pointer() override;
     ClipboardContent OnClipboard() override;
     void SavePicture(const std::string& path) override;
 
   private:
     /// The widget of a control; of a window, its frame.
-    QWidget& Find(const shell::Control& control);
+    QWidget& Find(const window::Control& control);
     template <class WidgetType>
-    WidgetType& FindAs(const shell::Control& control) {
+    WidgetType& FindAs(const window::Control& control) {
         return dynamic_cast<WidgetType&>(Find(control));
     }
     /// As Find, in the active window.
-    QWidget& Activate(const shell::Control& control);
-    QPointF PlaceOn(const shell::Picture& picture, shell::Point own) const;
-    bool IsVisible(const shell::Control& control);
+    QWidget& Activate(const window::Control& control);
+    QPointF PlaceOn(const window::Picture& picture, window::Point own) const;
+    bool IsVisible(const window::Control& control);
     /// Presses the mouse button on a heading: it only gives the focus.
-    void PressHeading(qt::GridView& view, const shell::Grid& grid, CellPlace cell);
+    void PressHeading(qt::GridView& view, const window::Grid& grid, CellPlace cell);
 
     RecordedHost m_world;
     qt::Artwork m_artwork{m_world.files};

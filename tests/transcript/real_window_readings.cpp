@@ -23,19 +23,19 @@ namespace tavrelo::transcript {
 
 using qt::ToUtf8;
 
-bool RealWindow::IsVisible(const shell::Control& control) {
+bool RealWindow::IsVisible(const window::Control& control) {
     if (!control.Parent())
         return Find(control).isVisible();
     // Behind another page the widget is hidden, whatever the control itself says.
-    const auto* strip = dynamic_cast<const shell::TabStrip*>(control.Parent());
+    const auto* strip = dynamic_cast<const window::TabStrip*>(control.Parent());
     const bool is_behind =
-        strip && control.Page() != shell::Control::kAllPages && control.Page() != strip->Current();
+        strip && control.Page() != window::Control::kAllPages && control.Page() != strip->Current();
     const QWidget& widget = Find(control);
     const bool is_visible = is_behind ? control.Visible() : widget.isVisibleTo(widget.parentWidget());
     return is_visible && IsVisible(*control.Parent());
 }
 
-Appearance RealWindow::Look(const shell::Control& control) {
+Appearance RealWindow::Look(const window::Control& control) {
     Appearance look = LookOf(control);
     const QWidget& widget = Find(control);
     look.visible = IsVisible(control);
@@ -51,19 +51,19 @@ Appearance RealWindow::Look(const shell::Control& control) {
     return look;
 }
 
-std::string RealWindow::Text(const shell::TextBox& box) { return ToUtf8(FindAs<QLineEdit>(box).text()); }
+std::string RealWindow::Text(const window::TextBox& box) { return ToUtf8(FindAs<QLineEdit>(box).text()); }
 
-std::vector<shell::Run> RealWindow::Runs(const shell::RichTextBox& box) {
+std::vector<text::Run> RealWindow::Runs(const window::RichTextBox& box) {
     if (const auto* view = dynamic_cast<const qt::RichTextView*>(&Find(box)))
         return qt::ReadRuns(*view->document()).Runs();
     // A line that can be typed into has one look, that of the model.
-    std::vector<shell::Run> runs = box.Content().Runs();
+    std::vector<text::Run> runs = box.Content().Runs();
     runs.resize(1);
     runs.front().text = ToUtf8(FindAs<QLineEdit>(box).text());
     return runs;
 }
 
-shell::TextSelection RealWindow::Selection(const shell::TextControl& box) {
+window::TextSelection RealWindow::Selection(const window::TextControl& box) {
     if (const auto* view = dynamic_cast<const qt::RichTextView*>(&Find(box)))
         return view->Selected();
     const auto& field = FindAs<QLineEdit>(box);
@@ -74,7 +74,7 @@ shell::TextSelection RealWindow::Selection(const shell::TextControl& box) {
     return {first, qt::CharactersBefore(text, end) - first};
 }
 
-std::vector<std::vector<std::string>> RealWindow::Cells(const shell::Grid& grid) {
+std::vector<std::vector<std::string>> RealWindow::Cells(const window::Grid& grid) {
     const auto& view = FindAs<qt::GridView>(grid);
     const QAbstractItemModel& table = *view.model();
     std::vector<std::vector<std::string>> cells;
@@ -96,7 +96,7 @@ std::vector<std::vector<std::string>> RealWindow::Cells(const shell::Grid& grid)
     return cells;
 }
 
-shell::CellBlock RealWindow::Selection(const shell::Grid& grid) {
+window::CellBlock RealWindow::Selection(const window::Grid& grid) {
     const QItemSelection chosen = FindAs<qt::GridView>(grid).selectionModel()->selection();
     if (chosen.isEmpty())
         return {-1, -1, -1, -1};
@@ -105,7 +105,7 @@ shell::CellBlock RealWindow::Selection(const shell::Grid& grid) {
             block.bottom() + grid.FixedRows(), block.right() + grid.FixedCols()};
 }
 
-std::vector<ListRow> RealWindow::Rows(const shell::ComboBox& combo) {
+std::vector<ListRow> RealWindow::Rows(const window::ComboBox& combo) {
     const auto& widget = FindAs<QComboBox>(combo);
     std::vector<ListRow> rows;
     for (int row = 0; row < widget.count(); ++row)
@@ -113,7 +113,7 @@ std::vector<ListRow> RealWindow::Rows(const shell::ComboBox& combo) {
     return rows;
 }
 
-std::vector<ListRow> RealWindow::Rows(const shell::ListBox& list) {
+std::vector<ListRow> RealWindow::Rows(const window::ListBox& list) {
     const auto& widget = FindAs<QListWidget>(list);
     std::vector<ListRow> rows;
     for (int row = 0; row < widget.count(); ++row)
@@ -121,51 +121,51 @@ std::vector<ListRow> RealWindow::Rows(const shell::ListBox& list) {
     return rows;
 }
 
-bool RealWindow::IsChecked(const shell::OptionButton& option) {
+bool RealWindow::IsChecked(const window::OptionButton& option) {
     return FindAs<QAbstractButton>(option).isChecked();
 }
 
-bool RealWindow::IsChecked(const shell::CheckBox& check) {
+bool RealWindow::IsChecked(const window::CheckBox& check) {
     return FindAs<QAbstractButton>(check).isChecked();
 }
 
-int RealWindow::FrontTab(const shell::TabStrip& tabs) {
+int RealWindow::FrontTab(const window::TabStrip& tabs) {
     return Find(tabs).findChild<QTabBar*>()->currentIndex();
 }
 
-int RealWindow::Value(const shell::UpDown& control) {
+int RealWindow::Value(const window::UpDown& control) {
     if (const auto* box = qobject_cast<QSpinBox*>(&Find(control)))
         return box->value();
     return FindAs<QLineEdit>(*control.buddy).text().toInt();
 }
 
-std::vector<shell::DrawOp> RealWindow::Drawing(const shell::Picture& picture) {
+std::vector<window::DrawOp> RealWindow::Drawing(const window::Picture& picture) {
     return picture.Canvas().Operations();
 }
 
-std::vector<std::string> RealWindow::DrawnTexts(const shell::Picture& picture) {
+std::vector<std::string> RealWindow::DrawnTexts(const window::Picture& picture) {
     return picture.Canvas().VisibleTexts();
 }
 
-const shell::Control* RealWindow::Focus() { return m_window.FocusedControl(); }
+const window::Control* RealWindow::Focus() { return m_window.FocusedControl(); }
 
 int RealWindow::Pointer() {
-    constexpr int kShapes[] = {shell::kPointerCross, shell::kPointerMove, shell::kPointerArrowHourglass,
-                               shell::kPointerUpArrow, shell::kPointerBusy};
+    constexpr int kShapes[] = {window::kPointerCross, window::kPointerMove, window::kPointerArrowHourglass,
+                               window::kPointerUpArrow, window::kPointerBusy};
     const auto shape_of = [&kShapes](const QWidget& widget) {
         const auto* shape = std::ranges::find(kShapes, widget.cursor().shape(),
                                               [](int number) { return qt::ToCursor(number).shape(); });
-        return shape == std::end(kShapes) ? static_cast<int>(shell::kPointerDefault) : *shape;
+        return shape == std::end(kShapes) ? static_cast<int>(window::kPointerDefault) : *shape;
     };
-    if (const int shape = shape_of(m_window.Frame()); shape != shell::kPointerDefault)
+    if (const int shape = shape_of(m_window.Frame()); shape != window::kPointerDefault)
         return shape;
-    for (const shell::Control* control : m_program.Window().Controls()) {
-        if (control->Kind() != shell::ControlKind::Picture || !Find(*control).isVisible())
+    for (const window::Control* control : m_program.Window().Controls()) {
+        if (control->Kind() != window::ControlKind::Picture || !Find(*control).isVisible())
             continue;
-        if (const int shape = shape_of(Find(*control)); shape != shell::kPointerDefault)
+        if (const int shape = shape_of(Find(*control)); shape != window::kPointerDefault)
             return shape;
     }
-    return shell::kPointerDefault;
+    return window::kPointerDefault;
 }
 
 ClipboardContent RealWindow::OnClipboard() {

@@ -11,27 +11,27 @@
 namespace tavrelo::transcript {
 namespace {
 
-std::string_view ButtonNames(shell::Buttons buttons) {
+std::string_view ButtonNames(window::Buttons buttons) {
     switch (buttons) {
-        case shell::Buttons::OkCancel:
+        case window::Buttons::OkCancel:
             return "OK Cancel";
-        case shell::Buttons::YesNo:
+        case window::Buttons::YesNo:
             return "Yes No";
-        case shell::Buttons::Ok:
+        case window::Buttons::Ok:
             break;
     }
     return "OK";
 }
 
-bool HasAnswer(shell::Buttons buttons, shell::Answer answer) {
-    const bool asks_yes_or_no = buttons == shell::Buttons::YesNo;
-    const bool says_yes_or_no = answer == shell::Answer::Yes || answer == shell::Answer::No;
+bool HasAnswer(window::Buttons buttons, window::Answer answer) {
+    const bool asks_yes_or_no = buttons == window::Buttons::YesNo;
+    const bool says_yes_or_no = answer == window::Answer::Yes || answer == window::Answer::No;
     return asks_yes_or_no == says_yes_or_no;
 }
 
 /// What a box answers when it is left without a choice.
-shell::Answer Refusal(shell::Buttons buttons) {
-    return buttons == shell::Buttons::YesNo ? shell::Answer::No : shell::Answer::Cancel;
+window::Answer Refusal(window::Buttons buttons) {
+    return buttons == window::Buttons::YesNo ? window::Answer::No : window::Answer::Cancel;
 }
 
 std::string Quoted(std::string_view text) { return "\"" + std::string(text) + "\""; }
@@ -47,15 +47,15 @@ int Rounded(double pixels) { return static_cast<int>(std::lround(pixels)); }
 
 }  // namespace
 
-shell::Answer BoxLog::Message(std::string_view text, std::string_view title, shell::Buttons buttons) {
+window::Answer BoxLog::Message(std::string_view text, std::string_view title, window::Buttons buttons) {
     const std::string heading = "box " + Quoted(title) + " " + std::string(ButtonNames(buttons));
     Show(heading, text);
-    if (buttons == shell::Buttons::Ok)
-        return shell::Answer::Ok;
+    if (buttons == window::Buttons::Ok)
+        return window::Answer::Ok;
     const auto queued = NextAnswer(heading);
     if (!queued)
         return Refusal(buttons);
-    const auto* answer = std::get_if<shell::Answer>(&*queued);
+    const auto* answer = std::get_if<window::Answer>(&*queued);
     if (answer && HasAnswer(buttons, *answer))
         return *answer;
     Fail("the queued answer does not fit " + heading);
@@ -70,10 +70,10 @@ std::optional<std::string> BoxLog::Input(std::string_view prompt, std::string_vi
         return std::nullopt;
     if (const auto* text = std::get_if<std::string>(&*queued))
         return *text;
-    const auto answer = std::get<shell::Answer>(*queued);
-    if (answer == shell::Answer::Ok)
+    const auto answer = std::get<window::Answer>(*queued);
+    if (answer == window::Answer::Ok)
         return std::string();
-    if (answer != shell::Answer::Cancel)
+    if (answer != window::Answer::Cancel)
         Fail("the queued answer does not fit " + heading);
     return std::nullopt;
 }
@@ -101,8 +101,8 @@ void BoxLog::Fail(std::string reason) {
 
 std::vector<std::string> BoxLog::TakeLines() { return std::exchange(m_lines, {}); }
 
-shell::Answer RecordedBoxes::ShowMessage(std::string_view text, std::string_view title,
-                                         shell::Buttons buttons) {
+window::Answer RecordedBoxes::ShowMessage(std::string_view text, std::string_view title,
+                                          window::Buttons buttons) {
     return m_log.Message(text, title, buttons);
 }
 
@@ -115,14 +115,14 @@ void RecordedClipboard::SetText(std::string_view text) {
     m_width = m_height = 0;
 }
 
-void RecordedClipboard::SetPicture(const shell::Recorder& picture) {
+void RecordedClipboard::SetPicture(const window::Recorder& picture) {
     m_text.clear();
     m_width = Rounded(picture.Width());
     m_height = Rounded(picture.Height());
 }
 
-bool RecordedPrinter::Print(const shell::RichText& text, const shell::PageMargins& margins) {
-    for (shell::PrintedPage& page : shell::Paginate(text, shell::kA4Paper, margins))
+bool RecordedPrinter::Print(const text::RichText& text, const window::PageMargins& margins) {
+    for (window::PrintedPage& page : window::Paginate(text, window::kA4Paper, margins))
         m_pages.push_back(std::move(page));
     return true;
 }

@@ -9,8 +9,8 @@
 #include <variant>
 #include <vector>
 
-#include "shell/host.h"
-#include "shell/pagination.h"
+#include "window/host.h"
+#include "window/pagination.h"
 
 namespace tavrelo::transcript {
 
@@ -18,12 +18,12 @@ namespace tavrelo::transcript {
 /// driver with real boxes tells them here and asks here for the answer to give.
 class BoxLog {
   public:
-    void Queue(shell::Answer answer) { m_answers.emplace_back(answer); }
+    void Queue(window::Answer answer) { m_answers.emplace_back(answer); }
     void QueueText(std::string text) { m_answers.emplace_back(std::move(text)); }
 
     /// Records a message box and takes its answer. A box with OK alone needs none. With no fitting answer
     /// queued the run has failed (see Failure) and the box is cancelled.
-    shell::Answer Message(std::string_view text, std::string_view title, shell::Buttons buttons);
+    window::Answer Message(std::string_view text, std::string_view title, window::Buttons buttons);
     /// Records an input box and takes its answer; nothing when it was cancelled.
     std::optional<std::string> Input(std::string_view prompt, std::string_view title);
 
@@ -33,7 +33,7 @@ class BoxLog {
     const std::string& Failure() const { return m_failure; }
 
   private:
-    using QueuedAnswer = std::variant<shell::Answer, std::string>;
+    using QueuedAnswer = std::variant<window::Answer, std::string>;
     void Show(const std::string& heading, std::string_view text);
     std::optional<QueuedAnswer> NextAnswer(const std::string& heading);
     void Fail(std::string reason);
@@ -43,10 +43,11 @@ class BoxLog {
     std::string m_failure;
 };
 
-class RecordedBoxes : public shell::Boxes {
+class RecordedBoxes : public window::Boxes {
   public:
     explicit RecordedBoxes(BoxLog& log) : m_log(log) {}
-    shell::Answer ShowMessage(std::string_view text, std::string_view title, shell::Buttons buttons) override;
+    window::Answer ShowMessage(std::string_view text, std::string_view title,
+                               window::Buttons buttons) override;
     std::optional<std::string> AskText(std::string_view prompt, std::string_view title) override;
 
   private:
@@ -54,11 +55,11 @@ class RecordedBoxes : public shell::Boxes {
 };
 
 /// A clipboard of the run's own.
-class RecordedClipboard : public shell::Clipboard {
+class RecordedClipboard : public window::Clipboard {
   public:
     std::string Text() const override { return m_text; }
     void SetText(std::string_view text) override;
-    void SetPicture(const shell::Recorder& picture) override;
+    void SetPicture(const window::Recorder& picture) override;
 
     // Size of the picture held, pixels at 100 %; 0 when it is a text.
     int PictureWidth() const { return m_width; }
@@ -71,17 +72,17 @@ class RecordedClipboard : public shell::Clipboard {
 };
 
 /// Keeps what was printed, page by page, as lines on A4 paper.
-class RecordedPrinter : public shell::Printer {
+class RecordedPrinter : public window::Printer {
   public:
-    bool Print(const shell::RichText& text, const shell::PageMargins& margins) override;
-    const std::vector<shell::PrintedPage>& Pages() const { return m_pages; }
+    bool Print(const text::RichText& text, const window::PageMargins& margins) override;
+    const std::vector<window::PrintedPage>& Pages() const { return m_pages; }
 
   private:
-    std::vector<shell::PrintedPage> m_pages;
+    std::vector<window::PrintedPage> m_pages;
 };
 
 /// The files beside the program, from a folder until a transcript says what stands in it.
-class RecordedFiles : public shell::Files {
+class RecordedFiles : public window::Files {
   public:
     explicit RecordedFiles(std::filesystem::path folder) : m_folder(std::move(folder)) {}
     std::string Read(std::string_view name) const override;
@@ -104,7 +105,7 @@ struct RecordedHost {
     RecordedHost(const RecordedHost&) = delete;
     RecordedHost& operator=(const RecordedHost&) = delete;
 
-    shell::Host AsHost() { return {boxes, clipboard, printer, files}; }
+    window::Host AsHost() { return {boxes, clipboard, printer, files}; }
 
     BoxLog box_log;
     RecordedBoxes boxes{box_log};

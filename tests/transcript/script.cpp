@@ -1,6 +1,6 @@
 #include "script.h"
 
-#include "numeric/utf8.h"
+#include "text/utf8.h"
 #include "text_lines.h"
 
 namespace tavrelo::transcript {
@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view kCommentMark = "# ";
 constexpr char kEscape = '\\';
 
-bool IsValidUtf8(std::string_view text) { return numeric::ToUtf8(numeric::ToCodePoints(text)) == text; }
+bool IsValidUtf8(std::string_view text) { return text::ToUtf8(text::ToCodePoints(text)) == text; }
 
 bool IsComment(std::string_view line) { return line == "#" || line.starts_with(kCommentMark); }
 

@@ -2,8 +2,8 @@
 
 namespace tavrelo::transcript {
 
-shell::Control& Session::Find(std::string_view name) {
-    shell::Control* control = Window().Find(name);
+window::Control& Session::Find(std::string_view name) {
+    window::Control* control = Window().Find(name);
     if (!control)
         throw ScriptError("there is no control \"" + std::string(name) + "\"");
     return *control;
@@ -13,7 +13,7 @@ void Session::FailMisfit(std::string_view name) {
     throw ScriptError("the command does not fit " + std::string(name));
 }
 
-bool Session::Reach(const shell::Control& control) {
+bool Session::Reach(const window::Control& control) {
     if (driver.IsReachable(control))
         return true;
     Show("! " + control.Name() + " is not reachable");

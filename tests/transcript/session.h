@@ -15,7 +15,7 @@ class Session {
   public:
     explicit Session(Driver& driver) : driver(driver) {}
 
-    shell::Form1& Window() { return driver.Program().Window(); }
+    window::Form1& Window() { return driver.Program().Window(); }
 
     void Show(std::string line) { m_lines.push_back(std::move(line)); }
     void Show(const std::vector<std::string>& lines) {
@@ -26,7 +26,7 @@ class Session {
     std::vector<std::string> TakeLines() { return std::exchange(m_lines, {}); }
 
     /// The control of that name; fails with ScriptError when there is none.
-    shell::Control& Find(std::string_view name);
+    window::Control& Find(std::string_view name);
     /// The control of that name, of that kind; fails with ScriptError when the command does not fit it.
     template <class ControlType>
     ControlType& FindAs(std::string_view name) {
@@ -38,7 +38,7 @@ class Session {
     [[noreturn]] static void FailMisfit(std::string_view name);
 
     /// True when the student can get at a control; else the command shows that it is out of reach.
-    bool Reach(const shell::Control& control);
+    bool Reach(const window::Control& control);
 
     Driver& driver;
 

@@ -1,8 +1,8 @@
 #include "show.h"
 
-#include "numeric/number_text.h"
-#include "shell/pointer.h"
+#include "text/number_text.h"
 #include "text_lines.h"
+#include "window/pointer.h"
 
 namespace tavrelo::transcript {
 namespace {
@@ -24,7 +24,7 @@ std::string RowLine(std::span<const std::string> cells) {
     return line;
 }
 
-std::string Flags(const shell::Font& font) {
+std::string Flags(const text::Font& font) {
     std::string flags;
     if (font.bold)
         flags += 'b';
@@ -36,8 +36,8 @@ std::string Flags(const shell::Font& font) {
 }
 
 /// What RunLines tells of a run behind its text.
-std::string LookText(const shell::Run& run) {
-    return run.font.name + " " + numeric::NumberToText(run.font.size) + " " + Flags(run.font) + " " +
+std::string LookText(const text::Run& run) {
+    return run.font.name + " " + text::NumberToText(run.font.size) + " " + Flags(run.font) + " " +
            ColorText(run.color) + " " + std::to_string(run.offset);
 }
 
@@ -45,7 +45,7 @@ std::string LookText(const shell::Run& run) {
 
 std::string TruthText(bool value) { return value ? "yes" : "no"; }
 
-std::string ColorText(shell::Color color) {
+std::string ColorText(text::Color color) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     std::string text = "#";
     for (int shift = 20; shift >= 0; shift -= 4)
@@ -71,17 +71,17 @@ std::vector<std::string> ListLines(const std::vector<ListRow>& rows) {
     return lines;
 }
 
-std::vector<std::string> RichTextLines(const std::vector<shell::Run>& runs) {
+std::vector<std::string> RichTextLines(const std::vector<text::Run>& runs) {
     std::string text;
-    for (const shell::Run& run : runs)
+    for (const text::Run& run : runs)
         text += run.text;
     return TextLines(text);
 }
 
-std::vector<std::string> RunLines(const std::vector<shell::Run>& runs) {
-    const shell::RichText joined(runs);
+std::vector<std::string> RunLines(const std::vector<text::Run>& runs) {
+    const text::RichText joined(runs);
     std::vector<std::string> lines;
-    for (const shell::Run& run : joined.Runs())
+    for (const text::Run& run : joined.Runs())
         for (const std::string& piece : TextLines(run.text))
             if (!piece.empty())
                 lines.push_back("\"" + piece + "\" " + LookText(run));
@@ -90,18 +90,18 @@ std::vector<std::string> RunLines(const std::vector<shell::Run>& runs) {
 
 std::string PointerText(int shape) {
     switch (shape) {
-        case shell::kPointerDefault:
+        case window::kPointerDefault:
             return "default";
-        case shell::kPointerBusy:
+        case window::kPointerBusy:
             return "busy";
-        case shell::kPointerCross:
+        case window::kPointerCross:
             return "cross";
         default:
             return "shape " + std::to_string(shape);
     }
 }
 
-std::vector<std::string> PageLines(std::span<const shell::PrintedPage> pages) {
+std::vector<std::string> PageLines(std::span<const window::PrintedPage> pages) {
     std::vector<std::string> lines;
     for (std::size_t k = 0; k < pages.size(); ++k) {
         lines.push_back("page " + std::to_string(k + 1));

@@ -26,28 +26,28 @@ std::string Pixels(std::initializer_list<double> numbers) {
 }
 
 struct Teller {
-    Told operator()(const shell::ClearOp&) const { return {}; }
-    Told operator()(const shell::ImageOp&) const { return {}; }
-    Told operator()(const shell::LineOp& line) const {
+    Told operator()(const window::ClearOp&) const { return {}; }
+    Told operator()(const window::ImageOp&) const { return {}; }
+    Told operator()(const window::LineOp& line) const {
         return {"line", Pixels({line.x1, line.y1, line.x2, line.y2}) + ColorText(line.color)};
     }
-    Told operator()(const shell::BoxOp& box) const {
+    Told operator()(const window::BoxOp& box) const {
         return {box.filled ? "filled" : "box",
                 Pixels({box.x1, box.y1, box.x2, box.y2}) + ColorText(box.color)};
     }
-    Told operator()(const shell::CircleOp& circle) const {
+    Told operator()(const window::CircleOp& circle) const {
         return {"circle", Pixels({circle.x, circle.y, circle.radius}) + ColorText(circle.color)};
     }
-    Told operator()(const shell::ArcOp& arc) const {
+    Told operator()(const window::ArcOp& arc) const {
         return {"arc", Pixels({arc.x, arc.y, arc.radius, arc.start, arc.end}) + ColorText(arc.color)};
     }
-    Told operator()(const shell::PolygonOp& polygon) const {
+    Told operator()(const window::PolygonOp& polygon) const {
         std::string points;
-        for (const shell::Point& point : polygon.points)
+        for (const window::Point& point : polygon.points)
             points += Pixels({point.x, point.y});
         return {"polygon", points + ColorText(polygon.color)};
     }
-    Told operator()(const shell::TextOp& text) const {
+    Told operator()(const window::TextOp& text) const {
         return {"text", Pixels({text.x, text.y}) + "\"" + text.PlainText() + "\""};
     }
 };
@@ -56,9 +56,9 @@ struct Teller {
 
 bool IsShapeKind(std::string_view name) { return std::ranges::find(kKinds, name) != std::end(kKinds); }
 
-std::vector<std::string> ShapeLines(std::span<const shell::DrawOp> operations, std::string_view kind) {
+std::vector<std::string> ShapeLines(std::span<const window::DrawOp> operations, std::string_view kind) {
     std::vector<std::string> lines;
-    for (const shell::DrawOp& operation : operations) {
+    for (const window::DrawOp& operation : operations) {
         const Told told = std::visit(Teller(), operation);
         if (!told.kind.empty() && (kind.empty() || kind == told.kind))
             lines.push_back(std::string(told.kind) + " " + told.text);

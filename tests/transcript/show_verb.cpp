@@ -14,11 +14,11 @@ using Lines = std::vector<std::string>;
 /// such property.
 struct Property {
     std::string_view name;
-    std::string (*value)(Session& session, const shell::Control& control);
+    std::string (*value)(Session& session, const window::Control& control);
 };
 
 template <class ControlType>
-const ControlType& As(const shell::Control& control) {
+const ControlType& As(const window::Control& control) {
     const auto* typed = dynamic_cast<const ControlType*>(&control);
     if (!typed)
         Session::FailMisfit(control.Name());
@@ -26,67 +26,70 @@ const ControlType& As(const shell::Control& control) {
 }
 
 template <class ControlType>
-const ControlType* If(const shell::Control& control) {
+const ControlType* If(const window::Control& control) {
     return dynamic_cast<const ControlType*>(&control);
 }
 
-std::string BoundsOf(Session& session, const shell::Control& control) {
-    const shell::Rect bounds = session.driver.Look(control).bounds;
+std::string BoundsOf(Session& session, const window::Control& control) {
+    const window::Rect bounds = session.driver.Look(control).bounds;
     return NumbersText({bounds.left, bounds.top, bounds.width, bounds.height});
 }
 
-std::string CheckedOf(Session& session, const shell::Control& control) {
-    if (const auto* option = If<shell::OptionButton>(control))
+std::string CheckedOf(Session& session, const window::Control& control) {
+    if (const auto* option = If<window::OptionButton>(control))
         return TruthText(session.driver.IsChecked(*option));
-    return TruthText(session.driver.IsChecked(As<shell::CheckBox>(control)));
+    return TruthText(session.driver.IsChecked(As<window::CheckBox>(control)));
 }
 
-std::string RowsOf(Session& session, const shell::Control& control) {
+std::string RowsOf(Session& session, const window::Control& control) {
     Driver& driver = session.driver;
-    if (const auto* grid = If<shell::Grid>(control))
+    if (const auto* grid = If<window::Grid>(control))
         return std::to_string(driver.Cells(*grid).size());
-    if (const auto* combo = If<shell::ComboBox>(control))
+    if (const auto* combo = If<window::ComboBox>(control))
         return std::to_string(driver.Rows(*combo).size());
-    return std::to_string(driver.Rows(As<shell::ListBox>(control)).size());
+    return std::to_string(driver.Rows(As<window::ListBox>(control)).size());
 }
 
-std::string SelectionOf(Session& session, const shell::Control& control) {
-    if (const auto* grid = If<shell::Grid>(control)) {
-        const shell::CellBlock block = session.driver.Selection(*grid);
+std::string SelectionOf(Session& session, const window::Control& control) {
+    if (const auto* grid = If<window::Grid>(control)) {
+        const window::CellBlock block = session.driver.Selection(*grid);
         return NumbersText({block.first_row, block.first_col, block.last_row, block.last_col});
     }
-    const shell::TextSelection chosen = session.driver.Selection(As<shell::TextControl>(control));
+    const window::TextSelection chosen = session.driver.Selection(As<window::TextControl>(control));
     return NumbersText({chosen.start, chosen.length});
 }
 
 constexpr Property kProperties[] = {
-    {"visible", [](Session& s, const shell::Control& c) { return TruthText(s.driver.Look(c).visible); }},
-    {"enabled", [](Session& s, const shell::Control& c) { return TruthText(s.driver.Look(c).enabled); }},
+    {"visible", [](Session& s, const window::Control& c) { return TruthText(s.driver.Look(c).visible); }},
+    {"enabled", [](Session& s, const window::Control& c) { return TruthText(s.driver.Look(c).enabled); }},
     {"checked", CheckedOf},
-    {"underline", [](Session& s, const shell::Control& c) { return TruthText(s.driver.Look(c).underlined); }},
-    {"tooltip", [](Session& s, const shell::Control& c) { return s.driver.Look(c).tooltip; }},
-    {"caption", [](Session& s, const shell::Control& c) { return s.driver.Look(c).caption; }},
-    {"forecolor", [](Session& s, const shell::Control& c) { return ColorText(s.driver.Look(c).fore_color); }},
-    {"backcolor", [](Session& s, const shell::Control& c) { return ColorText(s.driver.Look(c).back_color); }},
+    {"underline",
+     [](Session& s, const window::Control& c) { return TruthText(s.driver.Look(c).underlined); }},
+    {"tooltip", [](Session& s, const window::Control& c) { return s.driver.Look(c).tooltip; }},
+    {"caption", [](Session& s, const window::Control& c) { return s.driver.Look(c).caption; }},
+    {"forecolor",
+     [](Session& s, const window::Control& c) { return ColorText(s.driver.Look(c).fore_color); }},
+    {"backcolor",
+     [](Session& s, const window::Control& c) { return ColorText(s.driver.Look(c).back_color); }},
     {"bounds", BoundsOf},
     {"tab",
-     [](Session& s, const shell::Control& c) {
-         return std::to_string(s.driver.FrontTab(As<shell::TabStrip>(c)));
+     [](Session& s, const window::Control& c) {
+         return std::to_string(s.driver.FrontTab(As<window::TabStrip>(c)));
      }},
     {"rows", RowsOf},
     {"selection", SelectionOf},
 };
 
-Lines ShapesOf(Session& session, const shell::Control& control, Arguments& arguments) {
-    const auto drawing = session.driver.Drawing(As<shell::Picture>(control));
+Lines ShapesOf(Session& session, const window::Control& control, Arguments& arguments) {
+    const auto drawing = session.driver.Drawing(As<window::Picture>(control));
     const std::string_view kind = IsShapeKind(arguments.NextWord()) ? arguments.Word() : std::string_view();
     return ShapeLines(drawing, kind);
 }
 
-Lines PropertyOf(Session& session, const shell::Control& control, std::string_view name,
+Lines PropertyOf(Session& session, const window::Control& control, std::string_view name,
                  Arguments& arguments) {
     if (name == "runs")
-        return RunLines(session.driver.Runs(As<shell::RichTextBox>(control)));
+        return RunLines(session.driver.Runs(As<window::RichTextBox>(control)));
     if (name == "shapes")
         return ShapesOf(session, control, arguments);
     const auto* found = std::ranges::find(kProperties, name, &Property::name);
@@ -96,7 +99,7 @@ Lines PropertyOf(Session& session, const shell::Control& control, std::string_vi
 }
 
 /// The captions of the tabs, the one in front chosen.
-Lines TabLines(Session& session, const shell::TabStrip& tabs) {
+Lines TabLines(Session& session, const window::TabStrip& tabs) {
     std::vector<ListRow> rows;
     for (const std::string& caption : tabs.Tabs())
         rows.push_back({caption, static_cast<int>(rows.size()) == session.driver.FrontTab(tabs)});
@@ -104,28 +107,28 @@ Lines TabLines(Session& session, const shell::TabStrip& tabs) {
 }
 
 /// The text of a control.
-Lines TextOf(Session& session, const shell::Control& control) {
+Lines TextOf(Session& session, const window::Control& control) {
     Driver& driver = session.driver;
-    if (const auto* rich = If<shell::RichTextBox>(control))
+    if (const auto* rich = If<window::RichTextBox>(control))
         return RichTextLines(driver.Runs(*rich));
-    if (const auto* box = If<shell::TextBox>(control))
+    if (const auto* box = If<window::TextBox>(control))
         return TextLines(driver.Text(*box));
-    if (const auto* grid = If<shell::Grid>(control))
+    if (const auto* grid = If<window::Grid>(control))
         return GridLines(driver.Cells(*grid));
-    if (const auto* combo = If<shell::ComboBox>(control))
+    if (const auto* combo = If<window::ComboBox>(control))
         return ListLines(driver.Rows(*combo));
-    if (const auto* list = If<shell::ListBox>(control))
+    if (const auto* list = If<window::ListBox>(control))
         return ListLines(driver.Rows(*list));
-    if (const auto* picture = If<shell::Picture>(control))
+    if (const auto* picture = If<window::Picture>(control))
         return driver.DrawnTexts(*picture);
-    if (const auto* tabs = If<shell::TabStrip>(control))
+    if (const auto* tabs = If<window::TabStrip>(control))
         return TabLines(session, *tabs);
-    if (const auto* up_down = If<shell::UpDown>(control))
+    if (const auto* up_down = If<window::UpDown>(control))
         return {std::to_string(driver.Value(*up_down))};
     return TextLines(driver.Look(control).caption);
 }
 
-Lines CellOf(Session& session, const shell::Grid& grid, Arguments& arguments) {
+Lines CellOf(Session& session, const window::Grid& grid, Arguments& arguments) {
     const auto row = static_cast<std::size_t>(arguments.WholeNumber());
     const auto col = static_cast<std::size_t>(arguments.WholeNumber());
     const auto cells = session.driver.Cells(grid);
@@ -153,16 +156,16 @@ Lines Filtered(const Lines& lines, Arguments& arguments) {
 
 Lines LinesOfControl(Session& session, std::string_view name, Arguments& arguments) {
     const std::size_t point = name.find('.');
-    const shell::Control& control = session.Find(name.substr(0, point));
+    const window::Control& control = session.Find(name.substr(0, point));
     if (point != std::string_view::npos)
         return PropertyOf(session, control, name.substr(point + 1), arguments);
-    const auto* grid = If<shell::Grid>(control);
+    const auto* grid = If<window::Grid>(control);
     const bool asks_for_cell = grid && !arguments.AtEnd() && !IsFilter(arguments.NextWord());
     return asks_for_cell ? CellOf(session, *grid, arguments) : TextOf(session, control);
 }
 
 Lines FocusLines(Session& session, Arguments&) {
-    const shell::Control* focus = session.driver.Focus();
+    const window::Control* focus = session.driver.Focus();
     return focus ? Lines{focus->Name()} : Lines{};
 }
 

@@ -2,28 +2,28 @@
 
 #include <algorithm>
 
-#include "numeric/utf8.h"
+#include "text/utf8.h"
 
 namespace tavrelo::transcript {
 namespace {
 
-using shell::Key;
-using shell::KeyStroke;
-using shell::TextControl;
-using shell::TextSelection;
+using window::Key;
+using window::KeyStroke;
+using window::TextControl;
+using window::TextSelection;
 
 std::u32string SelectedText(const TextControl& box) {
     const TextSelection& chosen = box.Selection();
-    return numeric::ToCodePoints(box.Text()).substr(chosen.start, chosen.length);
+    return text::ToCodePoints(box.Text()).substr(chosen.start, chosen.length);
 }
 
 void ReplaceSelection(TextControl& box, std::u32string_view text) {
     if (box.Locked())
         return;
     const TextSelection chosen = box.Selection();
-    std::u32string characters = numeric::ToCodePoints(box.Text());
+    std::u32string characters = text::ToCodePoints(box.Text());
     characters.replace(chosen.start, chosen.length, text);
-    box.UserEdited(numeric::ToUtf8(characters), {chosen.start + text.size(), 0});
+    box.UserEdited(text::ToUtf8(characters), {chosen.start + text.size(), 0});
 }
 
 /// Deletes what is selected, else the character in front of the caret or behind it.
@@ -39,7 +39,7 @@ void Delete(TextControl& box, bool backward) {
 
 /// A box of one line holds no line ends: each becomes a blank.
 std::u32string OnOneLine(const std::string& text) {
-    return numeric::ToCodePoints(numeric::ReplaceAll(numeric::ReplaceAll(text, "\r\n", " "), "\n", " "));
+    return text::ToCodePoints(text::ReplaceAll(text::ReplaceAll(text, "\r\n", " "), "\n", " "));
 }
 
 }  // namespace
@@ -91,7 +91,7 @@ void TextEditing::TakeShortcut(TextControl& box, char32_t letter) {
 
 void TextEditing::Copy(const TextControl& box) {
     if (box.Selection().length > 0)
-        m_clipboard.SetText(numeric::ToUtf8(SelectedText(box)));
+        m_clipboard.SetText(text::ToUtf8(SelectedText(box)));
 }
 
 std::size_t TextEditing::Caret(const TextControl& box) const {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "shell/controls.h"
-#include "shell/host.h"
+#include "window/controls.h"
+#include "window/host.h"
 
 namespace tavrelo::transcript {
 
@@ -11,20 +11,20 @@ namespace tavrelo::transcript {
 /// caret, copying and pasting. A locked box only lets copy.
 class TextEditing {
   public:
-    explicit TextEditing(shell::Clipboard& clipboard) : m_clipboard(clipboard) {}
+    explicit TextEditing(window::Clipboard& clipboard) : m_clipboard(clipboard) {}
 
-    void Take(shell::TextControl& box, const shell::KeyStroke& stroke);
+    void Take(window::TextControl& box, const window::KeyStroke& stroke);
 
   private:
-    void TakeShortcut(shell::TextControl& box, char32_t letter);
-    void MoveCaret(shell::TextControl& box, const shell::KeyStroke& stroke);
-    void Copy(const shell::TextControl& box);
-    std::size_t Caret(const shell::TextControl& box) const;
+    void TakeShortcut(window::TextControl& box, char32_t letter);
+    void MoveCaret(window::TextControl& box, const window::KeyStroke& stroke);
+    void Copy(const window::TextControl& box);
+    std::size_t Caret(const window::TextControl& box) const;
 
-    shell::Clipboard& m_clipboard;
+    window::Clipboard& m_clipboard;
     // A selection made leftward has its caret in front; the boxes themselves keep it behind.
-    const shell::TextControl* m_leftward_box = nullptr;
-    shell::TextSelection m_leftward_selection;
+    const window::TextControl* m_leftward_box = nullptr;
+    window::TextSelection m_leftward_selection;
 };
 
 }  // namespace tavrelo::transcript

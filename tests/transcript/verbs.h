@@ -41,6 +41,6 @@ void RenderMarkup(Session& session, Arguments& arguments);
 void Show(Session& session, Arguments& arguments);
 
 /// Types characters, one key stroke each, into a control that has the focus.
-void TypeCharacters(Session& session, shell::Control& control, std::string_view text);
+void TypeCharacters(Session& session, window::Control& control, std::string_view text);
 
 }  // namespace tavrelo::transcript

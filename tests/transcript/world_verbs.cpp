@@ -1,8 +1,8 @@
 #include <algorithm>
 
-#include "numeric/utf8.h"
-#include "shell/help_files.h"
-#include "shell/writer.h"
+#include "frame/help_files.h"
+#include "frame/writer.h"
+#include "text/utf8.h"
 #include "verbs.h"
 
 namespace tavrelo::transcript {
@@ -11,20 +11,20 @@ namespace {
 constexpr std::string_view kLineEnd = "\r\n";
 
 /// The text with a real line end for each "\n" that is written in it.
-std::string WithLineEnds(std::string_view text) { return numeric::ReplaceAll(text, "\\n", kLineEnd); }
+std::string WithLineEnds(std::string_view text) { return text::ReplaceAll(text, "\\n", kLineEnd); }
 
 struct AnswerName {
     std::string_view name;
-    shell::Answer answer;
+    window::Answer answer;
 };
 constexpr AnswerName kAnswers[] = {
-    {"Yes", shell::Answer::Yes},
-    {"No", shell::Answer::No},
-    {"OK", shell::Answer::Ok},
-    {"Cancel", shell::Answer::Cancel},
+    {"Yes", window::Answer::Yes},
+    {"No", window::Answer::No},
+    {"OK", window::Answer::Ok},
+    {"Cancel", window::Answer::Cancel},
 };
 
-shell::Answer ReadAnswer(std::string_view name) {
+window::Answer ReadAnswer(std::string_view name) {
     const auto* found = std::ranges::find(kAnswers, name, &AnswerName::name);
     if (found == std::end(kAnswers))
         throw ScriptError("there is no answer \"" + std::string(name) + "\"");
@@ -57,11 +57,11 @@ void RemoveFiles(Session& session, Arguments& arguments) {
 
 void PutFile(Session& session, Arguments& arguments) {
     const std::string_view name = arguments.Word();
-    session.driver.World().files.Put(name, shell::ToCodePage(WithLineEnds(arguments.Rest())));
+    session.driver.World().files.Put(name, frame::ToCodePage(WithLineEnds(arguments.Rest())));
 }
 
 void RenderMarkup(Session& session, Arguments& arguments) {
-    shell::WriteMarkup(session.Window(), shell::kTextFont, shell::kReportFontSize,
+    frame::WriteMarkup(session.Window(), text::kTextFont, frame::kReportFontSize,
                        WithLineEnds(arguments.Rest()));
 }
 

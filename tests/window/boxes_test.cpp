@@ -17,16 +17,16 @@ void BoxesTest::ButtonsAreSpanish_data() {
     const QStringList ok{QStringLiteral("Aceptar")};
     const QStringList ok_cancel{QStringLiteral("Aceptar"), QStringLiteral("Cancelar")};
     const QStringList yes_no{QStringLiteral("No"), QStringLiteral("Sí")};
-    const auto add = [](const char* name, shell::Buttons buttons, const char* pressed, shell::Answer answer,
+    const auto add = [](const char* name, window::Buttons buttons, const char* pressed, window::Answer answer,
                         const QStringList& captions) {
         QTest::newRow(name) << static_cast<int>(buttons) << QString::fromUtf8(pressed)
                             << static_cast<int>(answer) << captions;
     };
-    add("told", shell::Buttons::Ok, "Aceptar", shell::Answer::Ok, ok);
-    add("confirmed", shell::Buttons::OkCancel, "Aceptar", shell::Answer::Ok, ok_cancel);
-    add("given up", shell::Buttons::OkCancel, "Cancelar", shell::Answer::Cancel, ok_cancel);
-    add("yes", shell::Buttons::YesNo, "Sí", shell::Answer::Yes, yes_no);
-    add("no", shell::Buttons::YesNo, "No", shell::Answer::No, yes_no);
+    add("told", window::Buttons::Ok, "Aceptar", window::Answer::Ok, ok);
+    add("confirmed", window::Buttons::OkCancel, "Aceptar", window::Answer::Ok, ok_cancel);
+    add("given up", window::Buttons::OkCancel, "Cancelar", window::Answer::Cancel, ok_cancel);
+    add("yes", window::Buttons::YesNo, "Sí", window::Answer::Yes, yes_no);
+    add("no", window::Buttons::YesNo, "No", window::Answer::No, yes_no);
 }
 
 void BoxesTest::ButtonsAreSpanish() {
@@ -43,7 +43,7 @@ void BoxesTest::ButtonsAreSpanish() {
                 button->click();
     });
     const auto given =
-        qt::WindowBoxes().ShowMessage("¿Seguir?", "Tavrelo", static_cast<shell::Buttons>(buttons));
+        qt::WindowBoxes().ShowMessage("¿Seguir?", "Tavrelo", static_cast<window::Buttons>(buttons));
     found.sort();
     QCOMPARE(found, captions);
     QCOMPARE(static_cast<int>(given), answer);
@@ -51,18 +51,18 @@ void BoxesTest::ButtonsAreSpanish() {
 
 void BoxesTest::EscapeRefuses() {
     WhenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    QVERIFY(qt::WindowBoxes().ShowMessage("", "", shell::Buttons::YesNo) == shell::Answer::No);
+    QVERIFY(qt::WindowBoxes().ShowMessage("", "", window::Buttons::YesNo) == window::Answer::No);
     WhenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    QVERIFY(qt::WindowBoxes().ShowMessage("", "", shell::Buttons::OkCancel) == shell::Answer::Cancel);
+    QVERIFY(qt::WindowBoxes().ShowMessage("", "", window::Buttons::OkCancel) == window::Answer::Cancel);
     WhenOpen<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    QVERIFY(qt::WindowBoxes().ShowMessage("", "", shell::Buttons::Ok) == shell::Answer::Ok);
+    QVERIFY(qt::WindowBoxes().ShowMessage("", "", window::Buttons::Ok) == window::Answer::Ok);
 }
 
 void BoxesTest::ClosingRefuses() {
     WhenOpen<QMessageBox>([](QMessageBox& box) { box.close(); });
-    QVERIFY(qt::WindowBoxes().ShowMessage("", "", shell::Buttons::YesNo) == shell::Answer::No);
+    QVERIFY(qt::WindowBoxes().ShowMessage("", "", window::Buttons::YesNo) == window::Answer::No);
     WhenOpen<QMessageBox>([](QMessageBox& box) { box.done(-1); });
-    QVERIFY(qt::WindowBoxes().ShowMessage("", "", shell::Buttons::OkCancel) == shell::Answer::Cancel);
+    QVERIFY(qt::WindowBoxes().ShowMessage("", "", window::Buttons::OkCancel) == window::Answer::Cancel);
 }
 
 void BoxesTest::TextIsPlain() {
@@ -72,7 +72,7 @@ void BoxesTest::TextIsPlain() {
         QCOMPARE(box.windowTitle(), QStringLiteral("Tavrelo"));
         box.accept();
     });
-    qt::WindowBoxes().ShowMessage("10<b>30\nF & G", "Tavrelo", shell::Buttons::Ok);
+    qt::WindowBoxes().ShowMessage("10<b>30\nF & G", "Tavrelo", window::Buttons::Ok);
 }
 
 void BoxesTest::InputBoxAnswers() {

@@ -3,14 +3,14 @@
 
 #include "qt/first_paint.h"
 #include "qt/zoom.h"
-#include "shell/layout.h"
+#include "window/layout.h"
 
 using namespace tavrelo;
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QWidget window;
-    const QSizeF page(shell::kForm1Bounds.width, shell::kForm1Bounds.height);
+    const QSizeF page(window::kForm1Bounds.width, window::kForm1Bounds.height);
     window.resize((page * qt::FirstZoom(page, window.screen()->availableSize())).toSize());
     if (QCoreApplication::arguments().contains(QLatin1String(qt::kQuitAfterPaint)))
         new qt::QuitAfterPaint(window);

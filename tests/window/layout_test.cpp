@@ -24,14 +24,14 @@ struct Caption {
     double margins = 0;
 };
 
-Caption CaptionOf(const QWidget& widget, const shell::Control& control) {
+Caption CaptionOf(const QWidget& widget, const window::Control& control) {
     constexpr double kButtonMargins = 6;
     constexpr double kIndicator = 14 + 5;
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return {label->text()};
     if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
         return {qt::FromCaption(button->text()),
-                control.Kind() == shell::ControlKind::Button ? kButtonMargins : kIndicator};
+                control.Kind() == window::ControlKind::Button ? kButtonMargins : kIndicator};
     return {};
 }
 
@@ -53,7 +53,7 @@ void LayoutTest::CaptionsFit() {
     QFETCH(double, zoom);
     TestWindow window;
     window.view.SetZoom(zoom);
-    for (shell::Control* control : window.Form().Controls()) {
+    for (window::Control* control : window.Form().Controls()) {
         const QWidget& widget = window.view.WidgetOf(*control);
         const Caption caption = CaptionOf(widget, *control);
         const double needed = widget.fontMetrics().horizontalAdvance(caption.text) + caption.margins * zoom;
@@ -69,7 +69,7 @@ void LayoutTest::PairsStandOverTheirBoxes() {
     window.PressTool(3);
     window.view.SetZoom(zoom);
     window.Form().txtSegm[0].SetText("ABCDEFG");
-    window.Form().txtSegm[0].UserKeyPress(shell::kEnterCharacter);
+    window.Form().txtSegm[0].UserKeyPress(window::kEnterCharacter);
     QWidget& pairs = window.Widget("lblSegm(2)");
     const QImage image = pairs.grab().toImage();
     for (int box = 2; box <= 6; ++box) {
@@ -146,9 +146,9 @@ void LayoutTest::HelpLiesOverEverything() {
 
 void LayoutTest::EveryControlHasAnAccessibleName() {
     TestWindow window;
-    for (shell::Control* control : window.Form().Controls()) {
+    for (window::Control* control : window.Form().Controls()) {
         const bool takes_focus = window.view.WidgetOf(*control).focusPolicy() != Qt::NoFocus;
-        const bool is_picture = control->Kind() == shell::ControlKind::Picture;
+        const bool is_picture = control->Kind() == window::ControlKind::Picture;
         const bool is_ever_shown = control->Name() != "rtbHold" && control->Name() != "picRuts" &&
                                    !control->Name().starts_with("cboUnits");
         if (is_ever_shown && (takes_focus || is_picture))

@@ -31,13 +31,15 @@ void PictureTest::BlackboardHasAMenu() {
 void PictureTest::RightButtonReachesOtherPictures() {
     TestWindow window;
     window.PressTool(4);
-    std::vector<shell::MouseStroke> strokes;
-    window.Form().picAccel.OnMouseDown = [&](const shell::MouseStroke& stroke) { strokes.push_back(stroke); };
+    std::vector<window::MouseStroke> strokes;
+    window.Form().picAccel.OnMouseDown = [&](const window::MouseStroke& stroke) {
+        strokes.push_back(stroke);
+    };
     window.Form().pic.OnMouseDown = window.Form().picAccel.OnMouseDown;
     QTest::mouseClick(&window.Widget("picAccel"), Qt::RightButton, Qt::ShiftModifier, QPoint(70, 10));
     QTest::mouseClick(&window.Widget("pic"), Qt::RightButton, {}, QPoint(70, 10));
     QCOMPARE(strokes.size(), std::size_t{1});
-    QVERIFY(strokes.front().button == shell::MouseButton::Right);
+    QVERIFY(strokes.front().button == window::MouseButton::Right);
     QVERIFY(strokes.front().shift && !strokes.front().ctrl);
 }
 
@@ -45,8 +47,8 @@ void PictureTest::PlacesAreInTheUnitsOfThePictureAtAnyZoom() {
     TestWindow window;
     window.PressTool(4);
     window.view.SetZoom(2);
-    shell::MouseStroke stroke;
-    const auto keep = [&stroke](const shell::MouseStroke& told) { stroke = told; };
+    window::MouseStroke stroke;
+    const auto keep = [&stroke](const window::MouseStroke& told) { stroke = told; };
     // y grows upward from the foot of a picture 42 high.
     window.Form().picAccel.OnMouseDown = keep;
     QTest::mouseClick(&window.Widget("picAccel"), Qt::LeftButton, {}, QPoint(100, 20));
@@ -68,10 +70,10 @@ void PictureTest::CopiedImageIsTwiceTheSize() {
 
 void PictureTest::CanvasPaintsWhatWasDrawn() {
     TestWindow window;
-    shell::Recorder& drawing = window.Form().pic.Canvas();
+    window::Recorder& drawing = window.Form().pic.Canvas();
     drawing.Cls();
-    drawing.Box(10, 10, 19, 19, shell::Rgb(0, 0, 255), true);
-    drawing.Line(30, 50, 60, 50, shell::Rgb(255, 0, 0));
+    drawing.Box(10, 10, 19, 19, text::Rgb(0, 0, 255), true);
+    drawing.Line(30, 50, 60, 50, text::Rgb(255, 0, 0));
     window.view.SetZoom(3);
     const QImage image = window.Widget("pic").grab().toImage();
     // The box covers the pixels 10 to 19 of 100 %, each three wide here; so does the line.
@@ -87,10 +89,10 @@ void PictureTest::CanvasPaintsWhatWasDrawn() {
 void PictureTest::TextIsAsWideAsTheModelMeasures() {
     // The model measures by the advance widths of the same families.
     const char* text = "ΣFx = 0.866 F1 − 100";
-    for (const std::string_view name : {shell::kTextFont, shell::kSmallFont, shell::kInterfaceFont})
+    for (const std::string_view name : {text::kTextFont, text::kSmallFont, text::kInterfaceFont})
         for (const double scale : {1.0, 1.5, 3.0}) {
-            const shell::Font font{std::string(name), 10, false, false, false};
-            const double measured = shell::TextWidth(text, font) * scale;
+            const text::Font font{std::string(name), 10, false, false, false};
+            const double measured = text::TextWidth(text, font) * scale;
             const QFontMetricsF metrics(qt::ToQFont(font, scale));
             const double painted =
                 metrics.horizontalAdvance(QString::fromUtf8(text)) * qt::FontStretch(font, scale);

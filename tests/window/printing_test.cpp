@@ -9,7 +9,7 @@ namespace tavrelo::window_test {
 namespace {
 
 // 80, 50, 80 and 80 points.
-constexpr shell::PageMargins kMargins{1600, 1000, 1600, 1600};
+constexpr window::PageMargins kMargins{1600, 1000, 1600, 1600};
 
 int PrintedPages(int lines) {
     const QTemporaryDir folder;
@@ -21,7 +21,7 @@ int PrintedPages(int lines) {
     std::string text;
     for (int line = 0; line < lines; ++line)
         text += "Línea " + std::to_string(line) + "\r\n";
-    if (!qt::PrintPages(printer, shell::PlainRichText(text, shell::kTextFont, 10), kMargins))
+    if (!qt::PrintPages(printer, text::PlainRichText(text, text::kTextFont, 10), kMargins))
         return 0;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

@@ -11,8 +11,8 @@
 namespace tavrelo::window_test {
 namespace {
 
-shell::Run MakeRun(std::string text, double size = 10, int offset = 0) {
-    shell::Run run;
+text::Run MakeRun(std::string text, double size = 10, int offset = 0) {
+    text::Run run;
     run.text = std::move(text);
     run.font.size = size;
     run.offset = offset;
@@ -20,19 +20,19 @@ shell::Run MakeRun(std::string text, double size = 10, int offset = 0) {
 }
 
 /// "v" with subscript 0, a bold red F, and a second line in the sign font.
-shell::RichText Report() {
-    shell::Run bold = MakeRun("F");
+text::RichText Report() {
+    text::Run bold = MakeRun("F");
     bold.font.bold = true;
-    bold.color = shell::Rgb(255, 0, 0);
-    shell::Run sign = MakeRun("\r\nθ");
-    sign.font.name = shell::kSymbolFont;
+    bold.color = text::Rgb(255, 0, 0);
+    text::Run sign = MakeRun("\r\nθ");
+    sign.font.name = text::kSymbolFont;
     sign.font.italic = true;
-    return shell::RichText({MakeRun("v"), MakeRun("0", 7, -45), bold, sign, MakeRun("2", 7, 60)});
+    return text::RichText({MakeRun("v"), MakeRun("0", 7, -45), bold, sign, MakeRun("2", 7, 60)});
 }
 
-QString Described(const shell::RichText& text) {
+QString Described(const text::RichText& text) {
     QStringList runs;
-    for (const shell::Run& run : text.Runs())
+    for (const text::Run& run : text.Runs())
         runs << QStringLiteral("%1|%2|%3|%4%5%6|%7|%8")
                     .arg(qt::ToQString(run.text), qt::ToQString(run.font.name))
                     .arg(run.font.size)
@@ -65,7 +65,7 @@ void RichTextTest::RunsCanBeReadBackAtAnyZoom() {
 void RichTextTest::AppendingKeepsWhatStands() {
     ReportWindow window;
     window.Form().rtbCalc.AppendContent(Report());
-    shell::RichText twice = Report();
+    text::RichText twice = Report();
     twice.Append(Report());
     QCOMPARE(Described(qt::ReadRuns(*window.Box().document())), Described(twice));
     QCOMPARE(window.Box().textCursor().position(), window.Box().document()->characterCount() - 1);
@@ -110,7 +110,7 @@ void RichTextTest::SelectionCountsLineEndsAsTheModelDoes() {
     ReportWindow window;
     window.Box().selectAll();
     // v, 0, F, the two characters of the line end, theta, 2.
-    QCOMPARE(window.Form().rtbCalc.Selection(), (shell::TextSelection{0, 7}));
+    QCOMPARE(window.Form().rtbCalc.Selection(), (window::TextSelection{0, 7}));
     window.Form().rtbCalc.Select({5, 1});
     QCOMPARE(window.Box().textCursor().selectedText(), QStringLiteral("θ"));
 }
@@ -121,7 +121,7 @@ void RichTextTest::BackwardSelectionStays() {
     cursor.setPosition(3);
     cursor.setPosition(1, QTextCursor::KeepAnchor);
     window.Box().setTextCursor(cursor);
-    QCOMPARE(window.Form().rtbCalc.Selection(), (shell::TextSelection{1, 2}));
+    QCOMPARE(window.Form().rtbCalc.Selection(), (window::TextSelection{1, 2}));
     QCOMPARE(window.Box().textCursor().position(), 1);
 }
 

@@ -32,7 +32,7 @@ class TestWindow {
         QTest::mouseClick(&Widget("Image1"), Qt::LeftButton, {}, place * view.Zoom());
     }
 
-    shell::Form1& Form() { return program.Window(); }
+    window::Form1& Form() { return program.Window(); }
     QWidget& Widget(const char* name) { return view.WidgetOf(*Form().Find(name)); }
     template <class WidgetType>
     WidgetType& As(const char* name) {
@@ -40,7 +40,7 @@ class TestWindow {
     }
     /// Name of the control that has the focus; empty for none.
     std::string FocusName() {
-        const shell::Control* focused = view.FocusedControl();
+        const window::Control* focused = view.FocusedControl();
         return focused ? focused->Name() : std::string();
     }
 

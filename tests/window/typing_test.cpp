@@ -63,12 +63,12 @@ void TypingTest::InputMethodsIntoACell() {
 
 void TypingTest::ConsumedKeysDoNotType() {
     ParticleWindow window;
-    window.Form().txtVector.OnKeyDown = [](const shell::KeyStroke& stroke) {
+    window.Form().txtVector.OnKeyDown = [](const window::KeyStroke& stroke) {
         return stroke.character == U'a';
     };
     window.Form().txtVector.OnKeyPress = [](char32_t character) { return character == U'b'; };
     std::u32string released;
-    window.Form().txtVector.OnKeyUp = [&released](const shell::KeyStroke& stroke) {
+    window.Form().txtVector.OnKeyUp = [&released](const window::KeyStroke& stroke) {
         released += stroke.character;
     };
     for (const char* key : {"a", "b", "c"})
@@ -103,7 +103,7 @@ void TypingTest::SelectionIsTold() {
     ParticleWindow window;
     window.Form().txtVector.SetText("añadir");
     window.Box().setSelection(1, 3);
-    QCOMPARE(window.Form().txtVector.Selection(), (shell::TextSelection{1, 3}));
+    QCOMPARE(window.Form().txtVector.Selection(), (window::TextSelection{1, 3}));
     window.Form().txtVector.Select({2, 2});
     QCOMPARE(window.Box().selectedText(), QStringLiteral("ad"));
 }

@@ -21,10 +21,10 @@ void ZoomTest::ScalesEveryControl() {
     TestWindow window;
     window.view.SetZoom(2);
     QCOMPARE(window.view.Frame().size(), QSize(1600, 1224));
-    for (shell::Control* control : window.Form().Controls()) {
-        if (control->Kind() == shell::ControlKind::Window)
+    for (window::Control* control : window.Form().Controls()) {
+        if (control->Kind() == window::ControlKind::Window)
             continue;
-        const shell::Rect& place = control->Bounds();
+        const window::Rect& place = control->Bounds();
         QCOMPARE(window.view.WidgetOf(*control).geometry(),
                  QRect(2 * place.left, 2 * place.top, 2 * place.width, 2 * place.height));
     }

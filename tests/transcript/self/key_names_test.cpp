@@ -7,7 +7,7 @@
 namespace tavrelo::transcript {
 namespace {
 
-using shell::Key;
+using window::Key;
 
 struct Case {
     const char* name;
@@ -35,7 +35,7 @@ constexpr Case kCases[] = {
 
 TEST(KeyNames, NameStrokes) {
     for (const Case& row : kCases) {
-        const shell::KeyStroke stroke = StrokeNamed(row.name);
+        const window::KeyStroke stroke = StrokeNamed(row.name);
         EXPECT_EQ(stroke.key, row.key) << row.name;
         EXPECT_EQ(stroke.character, row.character) << row.name;
         EXPECT_EQ(stroke.shift, row.shift) << row.name;

@@ -7,8 +7,8 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-shell::Run RunOf(std::string text, bool bold = false) {
-    shell::Run run;
+text::Run RunOf(std::string text, bool bold = false) {
+    text::Run run;
     run.text = std::move(text);
     run.font.size = 7.5;
     run.font.bold = bold;
@@ -21,12 +21,12 @@ TEST(Show, JoinsCellsAndDropsEmptyOnesAtTheEnd) {
 
 TEST(Show, MarksChosenRows) { EXPECT_EQ(ListLines({{"a", false}, {"b", true}}), (Lines{"  a", "* b"})); }
 
-TEST(Show, WritesColorsWithSixDigits) { EXPECT_EQ(ColorText(shell::Rgb(0, 128, 255)), "#0080ff"); }
+TEST(Show, WritesColorsWithSixDigits) { EXPECT_EQ(ColorText(text::Rgb(0, 128, 255)), "#0080ff"); }
 
 TEST(Show, RunsAreJoinedAndSplitAtLineEnds) {
-    shell::Run lowered = RunOf("c", true);
+    text::Run lowered = RunOf("c", true);
     lowered.font.underline = lowered.font.italic = true;
-    lowered.color = shell::Rgb(255, 0, 0);
+    lowered.color = text::Rgb(255, 0, 0);
     lowered.offset = -45;
     const Lines lines = RunLines({RunOf("a"), RunOf("b\r\n\r\nb"), lowered, RunOf("\r\n")});
     EXPECT_EQ(lines, (Lines{"\"ab\" Times New Roman 7.5 - #000000 0", "\"b\" Times New Roman 7.5 - #000000 0",
@@ -34,18 +34,18 @@ TEST(Show, RunsAreJoinedAndSplitAtLineEnds) {
 }
 
 TEST(Show, ShapesAreRoundedHalvesUp) {
-    const shell::Color red = shell::Rgb(255, 0, 0);
-    const std::vector<shell::DrawOp> drawing = {
-        shell::ClearOp{shell::kWhite},
-        shell::LineOp{0.5, -0.5, 1.49, -1.5, red, 2},
-        shell::BoxOp{1, 2, 3, 4, red, false, 1},
-        shell::BoxOp{1, 2, 3, 4, red, true, 1},
-        shell::CircleOp{1, 2, 3, red, false, 1},
-        shell::CircleOp{1, 2, 3, red, true, 1},
-        shell::ArcOp{1, 2, 3, 0, 90, red, 1},
-        shell::PolygonOp{{{1, 2}, {3, 4}, {5, 6}}, red},
-        shell::TextOp{-0.2, 2, {{0, 0, "F", {}, red}, {5, 2, "1", {}, red}}},
-        shell::ImageOp{"toolbar", 0, 0, 1, 1, 0, 0},
+    const text::Color red = text::Rgb(255, 0, 0);
+    const std::vector<window::DrawOp> drawing = {
+        window::ClearOp{text::kWhite},
+        window::LineOp{0.5, -0.5, 1.49, -1.5, red, 2},
+        window::BoxOp{1, 2, 3, 4, red, false, 1},
+        window::BoxOp{1, 2, 3, 4, red, true, 1},
+        window::CircleOp{1, 2, 3, red, false, 1},
+        window::CircleOp{1, 2, 3, red, true, 1},
+        window::ArcOp{1, 2, 3, 0, 90, red, 1},
+        window::PolygonOp{{{1, 2}, {3, 4}, {5, 6}}, red},
+        window::TextOp{-0.2, 2, {{0, 0, "F", {}, red}, {5, 2, "1", {}, red}}},
+        window::ImageOp{"toolbar", 0, 0, 1, 1, 0, 0},
     };
     EXPECT_EQ(ShapeLines(drawing, ""),
               (Lines{"line 1 0 1 -1 #ff0000", "box 1 2 3 4 #ff0000", "filled 1 2 3 4 #ff0000",
@@ -55,14 +55,14 @@ TEST(Show, ShapesAreRoundedHalvesUp) {
 }
 
 TEST(Show, NamesPointers) {
-    EXPECT_EQ(PointerText(shell::kPointerDefault), "default");
-    EXPECT_EQ(PointerText(shell::kPointerBusy), "busy");
-    EXPECT_EQ(PointerText(shell::kPointerCross), "cross");
+    EXPECT_EQ(PointerText(window::kPointerDefault), "default");
+    EXPECT_EQ(PointerText(window::kPointerBusy), "busy");
+    EXPECT_EQ(PointerText(window::kPointerCross), "cross");
     EXPECT_EQ(PointerText(8), "shape 8");
 }
 
 TEST(Show, NumbersPages) {
-    const std::vector<shell::PrintedPage> pages = {{"a", "b"}, {"c"}};
+    const std::vector<window::PrintedPage> pages = {{"a", "b"}, {"c"}};
     EXPECT_EQ(PageLines(pages), (Lines{"page 1", "a", "b", "page 2", "c"}));
 }
 

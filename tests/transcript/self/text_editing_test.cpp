@@ -18,18 +18,18 @@ class TextEditingTest : public testing::Test {
             names.remove_prefix(std::min(end + 1, names.size()));
         }
     }
-    void Start(std::string text, shell::TextSelection selection) {
+    void Start(std::string text, window::TextSelection selection) {
         m_box.UserEdited(std::move(text), selection);
     }
-    void Expect(const std::string& text, shell::TextSelection selection) {
+    void Expect(const std::string& text, window::TextSelection selection) {
         EXPECT_EQ(m_box.Text(), text);
         EXPECT_EQ(m_box.Selection().start, selection.start);
         EXPECT_EQ(m_box.Selection().length, selection.length);
     }
 
-    shell::ChangeListener m_listener = [](shell::Control&, shell::Change) {};
-    shell::TextBox m_box{{"txtBox", shell::ControlKind::TextBox, nullptr, shell::Control::kAllPages},
-                         m_listener};
+    window::ChangeListener m_listener = [](window::Control&, window::Change) {};
+    window::TextBox m_box{{"txtBox", window::ControlKind::TextBox, nullptr, window::Control::kAllPages},
+                          m_listener};
     RecordedClipboard m_clipboard;
     TextEditing m_editing{m_clipboard};
 };

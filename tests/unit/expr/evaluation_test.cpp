@@ -167,10 +167,10 @@ TEST(Evaluation, VariablesInTheOrderOfTheirNames) {
 }
 
 TEST(Evaluation, AVariableWithoutValueIsNothing) {
-    EXPECT_EQ(ValueOfFormula("X"), numeric::Value());
+    EXPECT_EQ(ValueOfFormula("X"), text::Value());
     EXPECT_EQ(ValueOfFormula("X+1").Text(), "1");
-    EXPECT_EQ(ValueOfFormula("X=0"), numeric::Value(-1));
-    EXPECT_EQ(ValueOfFormula("MIN(X,5)"), numeric::Value());
+    EXPECT_EQ(ValueOfFormula("X=0"), text::Value(-1));
+    EXPECT_EQ(ValueOfFormula("MIN(X,5)"), text::Value());
 }
 
 TEST(Evaluation, ATextInAVariableComparesAsText) {
@@ -204,7 +204,7 @@ TEST_P(FailingFormula, FailsWhenEvaluatedAndTheObjectStaysUsable) {
     EXPECT_EQ(FailureOf([&] { expression.Value(); }), GetParam().code) << GetParam().formula;
     EXPECT_EQ(FailureOf([&] { expression.EvaluateNumber(); }), GetParam().code);
     expression.RaiseErrors = false;
-    EXPECT_EQ(expression.Value(), numeric::Value(""));
+    EXPECT_EQ(expression.Value(), text::Value(""));
     expression.SetExpression("2+3");
     EXPECT_EQ(expression.Value().Text(), "5");
 }
@@ -272,9 +272,9 @@ TEST(Evaluation, NumbersForSamplers) {
 
 TEST(Evaluation, EvaluateAssignsTheFormula) {
     CExpression expression(testing::kDegrees);
-    EXPECT_EQ(expression.Evaluate("X+1", std::vector<numeric::Value>{2}).Text(), "3");
+    EXPECT_EQ(expression.Evaluate("X+1", std::vector<text::Value>{2}).Text(), "3");
     EXPECT_EQ(expression.Expression(), "X+1");
-    EXPECT_TRUE(expression.Evaluate("X+", std::vector<numeric::Value>{2}).IsEmpty());
+    EXPECT_TRUE(expression.Evaluate("X+", std::vector<text::Value>{2}).IsEmpty());
     EXPECT_TRUE(expression.Evaluate("", {}).IsEmpty());
 }
 

@@ -5,7 +5,7 @@
 
 #include "expr/expression.h"
 #include "numeric/angles.h"
-#include "numeric/value.h"
+#include "text/value.h"
 
 namespace tavrelo::testing {
 
@@ -13,8 +13,7 @@ inline constexpr double kDegrees = numeric::kRadiansPerDegree;
 inline constexpr double kRadians = 1.0;
 
 /// The value of a formula in degrees, its variables by name set to `vars`.
-inline numeric::Value ValueOfFormula(const std::string& formula,
-                                     const std::vector<numeric::Value>& vars = {}) {
+inline text::Value ValueOfFormula(const std::string& formula, const std::vector<text::Value>& vars = {}) {
     expr::CExpression expression(kDegrees);
     return expression.Evaluate(formula, vars);
 }

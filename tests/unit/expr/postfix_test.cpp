@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "numeric/number_text.h"
+#include "text/number_text.h"
 
 namespace tavrelo::expr {
 namespace {
@@ -22,7 +22,7 @@ class PostfixLine : public ::testing::TestWithParam<LineRow> {};
 TEST_P(PostfixLine, Shows) {
     const PostfixResult result = EvalRPN(GetParam().line);
     ASSERT_TRUE(result.value) << GetParam().line;
-    EXPECT_EQ(numeric::NumberToText(*result.value), GetParam().shown) << GetParam().line;
+    EXPECT_EQ(text::NumberToText(*result.value), GetParam().shown) << GetParam().line;
     EXPECT_EQ(result.message, "");
     EXPECT_FALSE(result.box);
 }

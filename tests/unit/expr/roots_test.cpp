@@ -87,8 +87,8 @@ TEST(RootScan, OverTheVariableThatIsNamed) {
     expression.FindRoots(0, 5, 1, "y", 1e-12);
     ASSERT_EQ(expression.RootsCount(), 1);
     EXPECT_NEAR(expression.Root(1), 3.25, 1e-9);
-    EXPECT_EQ(expression.Variable("Y", false)->Value, numeric::Value("antes"));
-    EXPECT_EQ(expression.Variable("X", false)->Value, numeric::Value(-3.25));
+    EXPECT_EQ(expression.Variable("Y", false)->Value, text::Value("antes"));
+    EXPECT_EQ(expression.Variable("X", false)->Value, text::Value(-3.25));
 }
 
 TEST(RootScan, WithoutItsVariableNothingIsSearched) {

@@ -11,7 +11,7 @@
 namespace tavrelo::expr {
 namespace {
 
-VariablePtr MakeVariable(const std::string& name, const numeric::Value& value) {
+VariablePtr MakeVariable(const std::string& name, const text::Value& value) {
     auto variable = std::make_shared<CVariable>();
     variable->Name = name;
     variable->Value = value;
@@ -49,7 +49,7 @@ TEST(Variables, StayInTheOrderOfTheirNames) {
     EXPECT_EQ(expression.AddVariable(MakeVariable("Y", 4)), 2);
     EXPECT_EQ(expression.VariablesCount(), 3);
     EXPECT_EQ(expression.Variable("y", false)->Name, "Y");
-    EXPECT_EQ(expression.Variable("y", false)->Value, numeric::Value(4));
+    EXPECT_EQ(expression.Variable("y", false)->Value, text::Value(4));
 }
 
 TEST(Variables, AFormulaKeepsTheObjectThatItWasParsedWith) {
@@ -64,7 +64,7 @@ TEST(Variables, AFormulaKeepsTheObjectThatItWasParsedWith) {
 
 TEST(Variables, KeepTheirValuesFromFormulaToFormula) {
     CExpression expression(testing::kDegrees);
-    expression.Evaluate("X+Y", std::vector<numeric::Value>{1, 2});
+    expression.Evaluate("X+Y", std::vector<text::Value>{1, 2});
     expression.SetExpression("10*X+Y");
     EXPECT_EQ(expression.Value().Text(), "12");
 }
@@ -74,8 +74,8 @@ TEST(Variables, AMistypedNameStaysAndShiftsTheArguments) {
     expression.SetExpression("A+1");
     EXPECT_EQ(expression.VariablesCount(), 1);
     EXPECT_NE(expression.Variable("A", false), nullptr);
-    EXPECT_EQ(expression.Evaluate("X+1", std::vector<numeric::Value>{5}).Text(), "1");
-    EXPECT_EQ(expression.Variable("A", false)->Value, numeric::Value(5));
+    EXPECT_EQ(expression.Evaluate("X+1", std::vector<text::Value>{5}).Text(), "1");
+    EXPECT_EQ(expression.Variable("A", false)->Value, text::Value(5));
 }
 
 TEST(Variables, MoveWithTheirExpression) {
@@ -83,7 +83,7 @@ TEST(Variables, MoveWithTheirExpression) {
     first.SetExpression("X+\t007");
     first.SetExpression("X+007");
     CExpression second = std::move(first);
-    EXPECT_EQ(second.Value(std::vector<numeric::Value>{1}).Text(), "8");
+    EXPECT_EQ(second.Value(std::vector<text::Value>{1}).Text(), "8");
 }
 
 }  // namespace

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "frame/shared_expression.h"
+#include "window/form1.h"
+
+namespace tavrelo::frame {
+
+/// The command line of the calculator, `rtbExpr`: its quick keys, and the evaluation of a line ended by Enter
+/// as a formula or in reverse Polish notation. The result stands in `txtExpr`, the record in the log.
+class ExpressionBox {
+  public:
+    ExpressionBox(window::Form1& form, SharedExpression& expression);
+
+  private:
+    bool KeyDown(const window::KeyStroke& stroke);
+    bool KeyPress(char32_t character);
+    void KeyUp();
+
+    bool InsertResult();
+    bool QuickKey(const window::KeyStroke& stroke);
+    bool BracketKey(char32_t character);
+    void MoveCaret(int step);
+
+    void Enter();
+    /// The value's text; on a refusal it shows the message instead.
+    std::optional<std::string> EvaluateFormula(const std::string& line);
+    std::optional<std::string> EvaluatePostfix(const std::string& line);
+
+    window::Form1& m_form;
+    SharedExpression& m_expression;
+    bool m_closer_due = false;  // the key that opened a pair of parentheses is still down
+};
+
+}  // namespace tavrelo::frame

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "window/form1.h"
+
+namespace tavrelo::frame {
+
+/// The strip `picOpt` beside the expression box: insert a polynomial, quick keys, notation, unit of angles.
+class OptionStrip {
+  public:
+    explicit OptionStrip(window::Form1& form);
+
+    /// Paints the four cells.
+    void FillTeclas();
+
+  private:
+    void MouseDown(const window::MouseStroke& stroke);
+    void MouseMove(const window::MouseStroke& stroke);
+    void InsertPolynomial();
+    void SwitchDegrees();
+
+    window::Form1& m_form;
+};
+
+}  // namespace tavrelo::frame

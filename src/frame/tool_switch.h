@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "frame/menu_bar.h"
+#include "window/form1.h"
+
+namespace tavrelo::frame {
+
+/// What a tool does when the shell brings it into use; every member may be empty.
+struct ToolHooks {
+    window::Event on_first_entry = {};  // once, before the first on_entry
+    window::Event on_entry = {};        // prepares fields, draws the tool's picture, gives the focus
+    bool uses_pic1 = false;
+};
+
+/// The toolbar: which panels are in view, in what colour, and what stays over a change of tool.
+class ToolSwitch {
+  public:
+    ToolSwitch(window::Form1& form, MenuBar& menu);
+
+    void SetHooks(window::Tool tool, ToolHooks hooks);
+    /// Fills the list of topics for a tool (argument: index + 1) and marks its first row; loads it when the
+    /// panel is in view.
+    std::function<void(int)> OnFillTopics;
+    /// The help panel was opened with no tool in use.
+    window::Event OnGeneralHelp;
+
+    /// Paints the welcome page and parks what stands off the window.
+    void Load();
+    /// index: 0 to 8, see Tool.
+    void SelectTool(int index);
+
+    /// The picture of the tool in use: `pic`, or `pic1` when true. Remembered per tool.
+    void ShowPic1(bool pic1);
+
+  private:
+    struct Pictures {
+        std::vector<window::DrawOp> pic;
+        std::vector<window::DrawOp> pic1;
+        bool shows_pic1 = false;
+        bool entered = false;
+    };
+
+    void ImageMouseDown(const window::MouseStroke& stroke);
+    void ImageMouseMove(const window::MouseStroke& stroke);
+    void MoveMarker(int button);
+    void OpenHelp();
+    void Enter(window::Tool tool);
+    void ShowPanels(window::Tool tool);
+    void KeepPictures();
+    void BringPictures(window::Tool tool);
+
+    window::Form1& m_form;
+    MenuBar& m_menu;
+    std::array<ToolHooks, window::kToolCount> m_hooks;
+    std::array<Pictures, window::kToolCount> m_pictures;
+};
+
+}  // namespace tavrelo::frame

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "window/form1.h"
+
+namespace tavrelo::frame {
+
+inline constexpr double kReportFontSize = 10;  // points
+
+/// Renders a markup text into the box rtbHold, out of sight.
+void WriteMarkup(window::Form1& form, std::string_view font_name, double font_size, std::string_view text);
+
+/// The normal way to report: each line ends in a line end. rtbSolve and rtbCalc come to the front on their
+/// tab and the text goes to the log too, behind it "-----"; rtbSolve appends, every other box is replaced.
+void WriteLines(window::Form1& form, window::RichTextBox& target, std::span<const std::string> lines);
+void WriteLines(window::Form1& form, window::RichTextBox& target, std::initializer_list<std::string> lines);
+
+/// Appends plain text (no marks) to the end of the log.
+void AppendToLog(window::Form1& form, std::string_view text);
+
+}  // namespace tavrelo::frame

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "mechanics/forces/equation_text.h"
+#include "mechanics/forces/substitution.h"
+#include "mechanics/particle/equilibrium.h"
+
+namespace tavrelo::mechanics::particle {
+
+/// A found unknown: its plain name, its value and "" or the sign of degrees behind it.
+struct NamedValue {
+    std::string name;
+    double value;
+    const char* unit;
+};
+inline constexpr const char* kDegrees = "°";
+
+/// The two equations as they were solved, and what was found.
+struct Report {
+    mechanics::forces::Equation x;
+    mechanics::forces::Equation y;
+    std::vector<NamedValue> values;
+};
+
+/// ";SF!x = 3": a line of the report on the sum along an axis.
+std::string SumLine(const char* axis, const std::string& right_side);
+/// " = 3" or " = 30°".
+std::string ShownValue(const NamedValue& value, int decimals);
+
+/// The solution of a table whose components are all known. The sums of the report's check, shown as whole
+/// numbers, go on from `start`.
+Solution Finish(const mechanics::forces::ForceTable& table, const Report& report,
+                const mechanics::forces::ComponentSums& start, int decimals);
+
+}  // namespace tavrelo::mechanics::particle

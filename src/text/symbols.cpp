@@ -1,0 +1,111 @@
+#include "text/symbols.h"
+
+#include <array>
+#include <cmath>
+
+#include "numeric/compare.h"
+#include "text/markup.h"
+#include "text/number_text.h"
+#include "text/utf8.h"
+
+namespace tavrelo::text {
+namespace {
+
+using numeric::NearEq;
+
+constexpr double kCoefficientTolerance = 1e-8;
+constexpr std::string_view kFactorCharacters = "-.0123456789";
+constexpr std::array<std::string_view, 2> kAngleFunctions = {"cos", "sen"};
+constexpr std::size_t kAngleFunctionLength = 3;
+
+bool BeginsWithSmallF(std::string_view symbol) { return symbol.starts_with('f'); }
+
+double FactorOf(std::string_view text) {
+    if (text.empty())
+        return 1;
+    if (text == "-")
+        return -1;
+    return text::ToNumber(text);
+}
+
+std::string WithCapital(std::string_view symbol) {
+    if (BeginsWithSmallF(symbol))
+        return std::string(symbol);
+    std::u32string characters = text::ToCodePoints(symbol);
+    if (characters.empty())
+        return {};
+    return text::ToUpper(text::ToUtf8(characters.front())) +
+           text::ToUtf8(std::u32string_view(characters).substr(1));
+}
+
+// Where the first angle function of a text begins; npos without one.
+std::size_t AngleFunctionPosition(std::string_view text) {
+    std::size_t position = std::string_view::npos;
+    for (std::string_view function : kAngleFunctions)
+        position = std::min(position, text.find(function));
+    return position;
+}
+
+std::string SmallSubscript(const std::string& subscript) {
+    return subscript == "X" || subscript == "Y" ? subscript : text::ToLower(subscript);
+}
+
+std::string PlainSymbolMarkup(std::string_view symbol) {
+    const std::string shown = BeginsWithSmallF(symbol) ? std::string(symbol) : text::ToUpper(symbol);
+    const std::u32string characters = text::ToCodePoints(shown);
+    const auto at = [&](std::size_t i) { return text::ToUtf8(characters[i]); };
+    if (characters.size() == 2)
+        return at(0) + "!" + SmallSubscript(at(1));
+    if (characters.size() == 3)
+        return at(0) + "!" + at(1) + "!" + at(2);
+    return shown;
+}
+
+std::string MarkedSymbol(std::string_view symbol) {
+    const std::size_t function = AngleFunctionPosition(symbol);
+    if (function == std::string_view::npos)
+        return PlainSymbolMarkup(symbol);
+    const std::string_view argument = symbol.substr(function + kAngleFunctionLength);
+    return PlainSymbolMarkup(text::Trim(symbol.substr(0, function))) + " " +
+           std::string(symbol.substr(function, kAngleFunctionLength)) + " " +
+           PlainSymbolMarkup(text::Trim(argument));
+}
+
+}  // namespace
+
+FactoredSymbol SplitFactor(std::string_view text) {
+    const std::string trimmed = text::Trim(text);
+    const std::size_t end = std::min(trimmed.find_first_not_of(kFactorCharacters), trimmed.size());
+    return {FactorOf(std::string_view(trimmed).substr(0, end)),
+            WithCapital(text::Trim(std::string_view(trimmed).substr(end)))};
+}
+
+std::string FactorText(double coef, std::string_view symbol, int decimals) {
+    if (NearEq(coef, 0, kCoefficientTolerance))
+        return "0";
+    if (NearEq(coef, 1, kCoefficientTolerance))
+        return std::string(symbol);
+    if (NearEq(coef, -1, kCoefficientTolerance))
+        return "-" + std::string(symbol);
+    return text::RoundedText(coef, decimals) + " " + std::string(symbol);
+}
+
+std::string SymbolMarkup(double factor, std::string_view symbol, int decimals) {
+    return FactorText(std::abs(factor), MarkedSymbol(symbol), decimals);
+}
+
+std::string SubscriptName(std::string_view symbol) {
+    const std::u32string characters = text::ToCodePoints(symbol);
+    if (characters.size() < 2 || characters.size() > kLongestSymbol)
+        return text::EscapeMarks(symbol);
+    std::string name = text::EscapeMarks(text::ToUtf8(characters[0]));
+    for (char32_t subscript : std::u32string_view(characters).substr(1))
+        name += "!" + text::EscapeMarks(text::ToUpper(text::ToUtf8(subscript)));
+    return name;
+}
+
+bool SameSymbol(std::string_view a, std::string_view b) {
+    return BeginsWithSmallF(a) == BeginsWithSmallF(b) && text::ToUpper(a) == text::ToUpper(b);
+}
+
+}  // namespace tavrelo::text

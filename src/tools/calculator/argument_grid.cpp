@@ -1,0 +1,273 @@
+#include "tools/calculator/argument_grid.h"
+
+#include <utility>
+#include <vector>
+
+#include "text/number_text.h"
+#include "text/utf8.h"
+#include "window/guard.h"
+
+namespace tavrelo::tools::calculator {
+namespace {
+
+using window::CellBlock;
+using window::Guard;
+using window::Key;
+
+// Indexes of cmdGrid.
+enum GridButton { kRestore, kExchange, kWiden, kCopy, kSmallCells, kNarrow, kMove, kSeries };
+
+constexpr int kFirstColsShown = 4;
+constexpr int kLeastColsShown = 1;
+constexpr int kSmallColsShown = 12;
+constexpr int kSmallWidth = 420;         // twips
+constexpr int kHeaderColumnWidth = 330;  // twips
+constexpr int kBorderWidth = 45;         // twips
+constexpr int kScrollBarWidth = 280;     // twips
+constexpr int kLeastSeriesRows = 3;
+
+constexpr text::Color kButtonColor = text::Rgb(192, 192, 192);
+constexpr text::Color kMarkedColor = text::Rgb(255, 224, 192);
+constexpr window::Rect kIconSize{0, 0, 26, 24};
+
+std::string Heading(int number) { return "#" + std::to_string(number); }
+
+std::vector<std::vector<std::string>> TextsOf(const window::Grid& grid, const CellBlock& block) {
+    std::vector<std::vector<std::string>> texts;
+    for (int row = block.first_row; row <= block.last_row; ++row) {
+        texts.emplace_back();
+        for (int col = block.first_col; col <= block.last_col; ++col)
+            texts.back().push_back(grid.Cell(row, col));
+    }
+    return texts;
+}
+
+void EmptyCells(window::Grid& grid, const CellBlock& block) {
+    for (int row = block.first_row; row <= block.last_row; ++row)
+        for (int col = block.first_col; col <= block.last_col; ++col)
+            grid.SetCell(row, col, "");
+}
+
+void SwapCells(window::Grid& grid, int row1, int col1, int row2, int col2) {
+    std::string kept = grid.Cell(row1, col1);
+    grid.SetCell(row1, col1, grid.Cell(row2, col2));
+    grid.SetCell(row2, col2, std::move(kept));
+}
+
+}  // namespace
+
+ArgumentGrid::ArgumentGrid(window::Form1& form) : m_form(form) {
+    for (const auto& [index, button] : m_form.cmdGrid.Items()) {
+        window::Rect source = kIconSize;
+        source.left = index * kIconSize.width;
+        button->SetPicture({"grid_buttons", source});
+        button->SetBackColor(kButtonColor);
+        button->OnClick = [this, index = index] {
+            Guard(m_form.boxes, text::kCommandFailed, [&] { PressButton(index); });
+        };
+    }
+    window::Grid& grid = m_form.gd;
+    grid.OnMouseDown = [this](int row, int col) {
+        Guard(m_form.boxes, text::kCommandFailed, [&] { Paste(row, col); });
+    };
+    grid.OnSelChange = [this] { Guard(m_form.boxes, text::kCommandFailed, [this] { SelectionChanged(); }); };
+    grid.OnKeyDown = [this](const window::KeyStroke& stroke) {
+        bool consumed = false;
+        Guard(m_form.boxes, text::kCommandFailed, [&] { consumed = KeyDown(stroke); });
+        return consumed;
+    };
+    grid.OnKeyPress = [this](char32_t character) { return KeyPress(character); };
+}
+
+void ArgumentGrid::ArrangeGd() {
+    window::Grid& grid = m_form.gd;
+    grid.Arrange(kGridRows + 1, kGridCols + 1, 1, 1);
+    for (int row = 1; row <= kGridRows; ++row)
+        grid.SetCell(row, 0, Heading(row));
+    for (int col = 1; col <= kGridCols; ++col)
+        grid.SetCell(0, col, Heading(col));
+    grid.SetColWidth(0, kHeaderColumnWidth);
+    SetColsShown(kFirstColsShown);
+    grid.SetCurrent(1, 1);
+    SelectionChanged();
+}
+
+void ArgumentGrid::PressButton(int index) {
+    switch (index) {
+        case kRestore:
+            return ArrangeGd();
+        case kExchange:
+            return Exchange();
+        case kWiden:
+            if (m_cols_shown != kLeastColsShown && m_cols_shown != kSmallColsShown)
+                SetColsShown(m_cols_shown - 1);
+            return;
+        case kNarrow:
+            if (m_cols_shown != kSmallColsShown)
+                SetColsShown(m_cols_shown + 1);
+            return;
+        case kSmallCells:
+            return ShowColumns(kSmallColsShown, kSmallWidth);
+        case kSeries:
+            return InsertSeries();
+        default:
+            return StartCopyMode(index);
+    }
+}
+
+void ArgumentGrid::SetColsShown(int shown) {
+    const int grid_width = m_form.gd.Bounds().width * window::kTwipsPerPixel;
+    const int usable = (grid_width - kBorderWidth - kHeaderColumnWidth - kScrollBarWidth) /
+                       window::kTwipsPerPixel * window::kTwipsPerPixel;
+    ShowColumns(shown, usable / shown);
+}
+
+void ArgumentGrid::ShowColumns(int shown, int width) {
+    m_cols_shown = shown;
+    for (int col = 1; col <= kGridCols; ++col)
+        m_form.gd.SetColWidth(col, width);
+}
+
+void ArgumentGrid::StartCopyMode(int index) {
+    EndCopyMode();
+    m_copy_button = index;
+    m_copy_source = m_form.gd.Selection();
+    m_form.publics.GridCopyMode = true;
+    m_form.cmdGrid[index].SetBackColor(kMarkedColor);
+    m_form.SetPointer(window::kPointerUpArrow);
+}
+
+void ArgumentGrid::EndCopyMode() {
+    if (!m_copy_button)
+        return;
+    m_form.cmdGrid[*m_copy_button].SetBackColor(kButtonColor);
+    m_copy_button.reset();
+    m_form.publics.GridCopyMode = false;
+    m_form.SetPointer(window::kPointerDefault);
+}
+
+/// Carries a waiting copy or move out on the clicked cell; the destination becomes the selection.
+void ArgumentGrid::Paste(int row, int col) {
+    if (!m_copy_button)
+        return;
+    const bool moves = *m_copy_button == kMove;
+    EndCopyMode();
+    window::Grid& grid = m_form.gd;
+    const CellBlock target{row, col, row + m_copy_source.Rows() - 1, col + m_copy_source.Cols() - 1};
+    if (!grid.HasCell(target.last_row, target.last_col))
+        throw numeric::RuntimeFailure(numeric::FailureCode::SubscriptRange, "block past the edge");
+    const auto texts = TextsOf(grid, m_copy_source);
+    if (moves)
+        EmptyCells(grid, m_copy_source);
+    for (int r = 0; r < target.Rows(); ++r)
+        for (int c = 0; c < target.Cols(); ++c)
+            grid.SetCell(row + r, col + c, texts[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)]);
+    grid.Select(target);
+    SelectionChanged();
+}
+
+void ArgumentGrid::InsertSeries() {
+    window::Grid& grid = m_form.gd;
+    const CellBlock block = grid.Selection();
+    if (block.Cols() != 1 || block.Rows() < kLeastSeriesRows)
+        return;
+    const int col = block.first_col;
+    const double first = text::ToNumber(grid.Cell(block.first_row, col));
+    const double step = numeric::CheckedSubtract(text::ToNumber(grid.Cell(block.first_row + 1, col)), first);
+    // The last value is the farthest: when it exists, all do, and nothing is half written.
+    numeric::CheckedAdd(first, numeric::CheckedMultiply(block.Rows() - 1, step));
+    for (int k = 2; k < block.Rows(); ++k)
+        grid.SetCell(block.first_row + k, col, text::NumberToText(first + k * step));
+    grid.Select(block);
+    m_form.SetFocus(grid);
+}
+
+void ArgumentGrid::Exchange() {
+    const CellBlock block = m_form.gd.Selection();
+    constexpr int kPair = 2;
+    if (block.Rows() != kPair)
+        return ExchangeColumns(block);
+    if (block.Cols() != kPair)
+        return ExchangeRows(block);
+    const window::Answer answer = m_form.boxes.ShowMessage(
+        "Si deseas intercambiar los valores de fila oprime el\nbotón \"Sí\". Para intercambiar columnas "
+        "oprime \"No\".",
+        "Nó se si intercambiar filas o columnas", window::Buttons::YesNo);
+    if (answer == window::Answer::Yes)
+        ExchangeRows(block);
+    else
+        ExchangeColumns(block);
+}
+
+void ArgumentGrid::ExchangeRows(const CellBlock& block) {
+    for (int col = block.first_col; col <= block.last_col; ++col)
+        SwapCells(m_form.gd, block.first_row, col, block.last_row, col);
+}
+
+void ArgumentGrid::ExchangeColumns(const CellBlock& block) {
+    for (int row = block.first_row; row <= block.last_row; ++row)
+        SwapCells(m_form.gd, row, block.first_col, row, block.last_col);
+}
+
+bool ArgumentGrid::KeyDown(const window::KeyStroke& stroke) {
+    const bool calculates = stroke.key == Key::F12 || (stroke.key == Key::Enter && stroke.shift);
+    if (calculates && OnCalculate)
+        OnCalculate();
+    else if (stroke.key == Key::Delete)
+        EmptySelection();
+    else if (stroke.key == Key::Insert)
+        InsertResult();
+    else
+        return false;
+    return true;
+}
+
+bool ArgumentGrid::KeyPress(char32_t character) {
+    constexpr char32_t kFirstPrintable = 32;
+    window::Grid& grid = m_form.gd;
+    if (grid.Row() < 0)
+        return false;
+    std::u32string text = text::ToCodePoints(grid.Cell(grid.Row(), grid.Col()));
+    if (character == window::kBackspaceCharacter && !text.empty())
+        text.pop_back();
+    else if (character >= kFirstPrintable)
+        text += character;
+    else
+        return false;
+    grid.SetCell(grid.Row(), grid.Col(), text::ToUtf8(text));
+    return true;
+}
+
+void ArgumentGrid::EmptySelection() { EmptyCells(m_form.gd, m_form.gd.Selection()); }
+
+void ArgumentGrid::InsertResult() {
+    window::Grid& grid = m_form.gd;
+    const std::string& result = m_form.txtExpr.Text();
+    grid.SetCell(
+        grid.Row(), grid.Col(),
+        text::IsNum(result) ? text::RoundedText(text::ToNumber(result), m_form.publics.Decimals) : result);
+}
+
+/// A block must be dragged from its upper left to its lower right cell.
+void ArgumentGrid::SelectionChanged() {
+    window::Grid& grid = m_form.gd;
+    const CellBlock dragged = grid.DraggedBlock();
+    if (dragged.last_row < dragged.first_row || dragged.last_col < dragged.first_col) {
+        grid.SetCurrent(dragged.first_row, dragged.first_col);
+        m_form.boxes.Tell("Debes seleccionar de arriba abajo y de derecha a izquierda.");
+    }
+    const CellBlock& block = grid.Selection();
+    m_form.lblRC.SetCaption(std::to_string(block.Rows()) + " x " + std::to_string(block.Cols()));
+}
+
+void ArgumentGrid::PutInCurrentCell(const std::string& text) {
+    window::Grid& grid = m_form.gd;
+    grid.SetCell(grid.Row(), grid.Col(), text);
+    if (grid.Col() < kGridCols)
+        grid.SetCurrent(grid.Row(), grid.Col() + 1);
+    else if (grid.Row() < kGridRows)
+        grid.SetCurrent(grid.Row() + 1, 1);
+    SelectionChanged();
+}
+
+}  // namespace tavrelo::tools::calculator

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "mechanics/forces/resultants.h"
+#include "tools/calculator/task.h"
+
+namespace tavrelo::tools::calculator {
+
+/// A name and its number as a subscript, in markup: every digit has a mark of its own.
+std::string Subscripted(const std::string& name, std::size_t number);
+
+/// "(x, y)", rounded.
+std::string PointText(const Task& task, double x, double y);
+std::string PointText(const Task& task, const mechanics::forces::PlaneVector& vector);
+/// "(m ∠ a°)": the vector by its magnitude and direction.
+std::string PolarText(const Task& task, const mechanics::forces::PlaneVector& vector);
+/// Both forms of a vector with an "ó" between them.
+std::string VectorText(const Task& task, const mechanics::forces::PlaneVector& vector);
+
+}  // namespace tavrelo::tools::calculator

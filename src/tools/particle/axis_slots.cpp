@@ -1,0 +1,67 @@
+#include "tools/particle/axis_slots.h"
+
+#include "notation/clock_direction.h"
+#include "numeric/angles.h"
+
+namespace tavrelo::tools::particle {
+namespace {
+
+constexpr std::size_t kSlotsPerSide = 3;
+constexpr double kGap = 5;  // pixels between an arrow and the axis beside it
+
+constexpr std::array<Offset, 12> kOffsets = {{
+    {0, 0},
+    {kGap, -kGap},
+    {kGap, kGap - 1},
+    {0, 0},
+    {kGap, kGap - 1},
+    {1 - kGap, kGap - 1},
+    {0, 0},
+    {1 - kGap, kGap - 1},
+    {1 - kGap, -kGap},
+    {0, 0},
+    {1 - kGap, -kGap},
+    {kGap, -kGap},
+}};
+
+// The half axes in the order of their slots.
+constexpr std::array<int, 4> kSides = {notation::kHourRight, notation::kHourUp, notation::kHourLeft,
+                                       notation::kHourDown};
+
+std::size_t FirstSlot(int side) {
+    std::size_t index = 0;
+    while (kSides[index] != side)
+        ++index;
+    return index * kSlotsPerSide;
+}
+
+Offset Turned(const Offset& offset, double rotation) {
+    const double cosine = numeric::CosD(rotation);
+    const double sine = numeric::SinD(rotation);
+    return {offset.dx * cosine - offset.dy * sine, offset.dx * sine + offset.dy * cosine};
+}
+
+}  // namespace
+
+Offset AxisSlots::AxisOffset(bool leaves, const text::Value& hour, double rotation) {
+    if (!hour.HoldsNumber() || !notation::IsAxisHour(static_cast<int>(hour.Number())))
+        return {0, 0};
+    const int direction = static_cast<int>(hour.Number());
+    const std::size_t first = FirstSlot(leaves ? direction : notation::OppositeHour(direction));
+    for (std::size_t slot = first; slot < first + kSlotsPerSide; ++slot)
+        if (!m_taken[slot]) {
+            m_taken[slot] = true;
+            return Turned(kOffsets[slot], rotation);
+        }
+    return {0, 0};
+}
+
+void PlaceForce(mechanics::forces::ForceRow& row, AxisSlots& slots, double canvas_width, double canvas_height,
+                double rotation) {
+    const bool leaves = row[mechanics::forces::LeavesPoint] == text::Value(notation::kLeaves);
+    const Offset offset = slots.AxisOffset(leaves, row[mechanics::forces::Hour], rotation);
+    row[mechanics::forces::StartX] = static_cast<float>(canvas_width / 2 + offset.dx);
+    row[mechanics::forces::StartY] = static_cast<float>(canvas_height / 2 + offset.dy);
+}
+
+}  // namespace tavrelo::tools::particle

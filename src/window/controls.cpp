@@ -1,0 +1,226 @@
+#include "window/controls.h"
+
+#include <algorithm>
+
+#include "text/utf8.h"
+
+namespace tavrelo::window {
+namespace {
+
+void Fire(const Event& event) {
+    if (event)
+        event();
+}
+
+}  // namespace
+
+void Label::UserClick() { Fire(OnClick); }
+
+void Button::UserClick() { Fire(OnClick); }
+
+void OptionButton::Choose() {
+    for (OptionButton* other : group)
+        if (other != this)
+            other->Uncheck();
+    Set(m_checked, true);
+}
+
+void OptionButton::UserClick() {
+    Choose();
+    Fire(OnClick);
+}
+
+void CheckBox::UserClick() {
+    SetChecked(!m_checked);
+    Fire(OnClick);
+}
+
+void TextControl::SetText(std::string text) {
+    StoreText(std::move(text));
+    m_selection = {Length(), 0};
+    Notify(Change::Content);
+}
+
+void TextControl::SetTextAndTell(std::string text) {
+    SetText(std::move(text));
+    Fire(OnChange);
+}
+
+void TextControl::Insert(std::string_view text) {
+    std::u32string characters = text::ToCodePoints(Text());
+    const std::u32string inserted = text::ToCodePoints(text);
+    characters.replace(m_selection.start, m_selection.length, inserted);
+    const std::size_t caret = m_selection.start + inserted.size();
+    SetText(text::ToUtf8(characters));
+    Select({caret, 0});
+}
+
+TextSelection TextControl::Clipped(TextSelection selection) const {
+    const std::size_t length = Length();
+    selection.start = std::min(selection.start, length);
+    selection.length = std::min(selection.length, length - selection.start);
+    return selection;
+}
+
+void TextControl::Select(TextSelection selection) { Set(m_selection, Clipped(selection), Change::Selection); }
+
+void TextControl::SelectAll() { Select({0, Length()}); }
+
+void TextControl::PutCaretAtEnd() { Select({Length(), 0}); }
+
+std::size_t TextControl::Length() const { return text::CharacterCount(Text()); }
+
+void TextControl::UserKeyUp(const KeyStroke& stroke) {
+    if (OnKeyUp)
+        OnKeyUp(stroke);
+}
+
+void TextControl::UserEdited(std::string text, TextSelection selection) {
+    if (text == Text()) {
+        Select(selection);
+        return;
+    }
+    StoreText(std::move(text));
+    m_selection = Clipped(selection);
+    Notify(Change::Content);
+    Fire(OnChange);
+}
+
+void RichTextBox::SetContent(text::RichText content) {
+    m_content = std::move(content);
+    m_text = m_content.PlainText();
+    Notify(Change::Content);
+    Select({0, 0});
+}
+
+void RichTextBox::AppendContent(const text::RichText& content) {
+    m_content.Append(content);
+    m_text = m_content.PlainText();
+    Notify(Change::Content);
+    PutCaretAtEnd();
+}
+
+void RichTextBox::StoreText(std::string text) {
+    constexpr double kTypedSize = 10;
+    m_content = text::PlainRichText(text, text::kTextFont, kTypedSize);
+    m_text = std::move(text);
+}
+
+Picture::Picture(Identity identity, const ChangeListener& listener)
+    : Control(std::move(identity), listener), m_canvas(0, 0) {
+    m_canvas.OnChange = [this] { Notify(Change::Content); };
+}
+
+void Picture::FitCanvas() { m_canvas.Resize(Bounds().width, Bounds().height); }
+
+Point Picture::ToOwnUnits(Point pixels) const {
+    switch (m_units) {
+        case MouseUnits::Twips:
+            return {pixels.x * kTwipsPerPixel, pixels.y * kTwipsPerPixel};
+        case MouseUnits::PixelsUp:
+            return {pixels.x, Bounds().height - pixels.y};
+        case MouseUnits::Pixels:
+            break;
+    }
+    return pixels;
+}
+
+Point Picture::ToPixels(Point own) const {
+    switch (m_units) {
+        case MouseUnits::Twips:
+            return {own.x / kTwipsPerPixel, own.y / kTwipsPerPixel};
+        case MouseUnits::PixelsUp:
+            return {own.x, Bounds().height - own.y};
+        case MouseUnits::Pixels:
+            break;
+    }
+    return own;
+}
+
+void Picture::UserMouseDown(const MouseStroke& stroke) {
+    if (OnMouseDown)
+        OnMouseDown(stroke);
+}
+
+void Picture::UserMouseMove(const MouseStroke& stroke) {
+    if (OnMouseMove)
+        OnMouseMove(stroke);
+}
+
+void Picture::UserMouseUp(const MouseStroke& stroke) {
+    if (OnMouseUp)
+        OnMouseUp(stroke);
+}
+
+void ComboBox::SetItems(std::vector<std::string> items) {
+    m_items = std::move(items);
+    m_index = -1;
+    Notify(Change::Content);
+}
+
+void ComboBox::UserPick(int index) {
+    SetIndex(index);
+    Fire(OnClick);
+}
+
+void ListBox::SetItems(std::vector<std::string> items) {
+    m_items = std::move(items);
+    m_chosen.assign(m_items.size(), false);
+    Notify(Change::Content);
+}
+
+void ListBox::AddItem(std::string item) {
+    m_items.push_back(std::move(item));
+    m_chosen.push_back(false);
+    Notify(Change::Content);
+}
+
+void ListBox::RemoveItem(int row) {
+    m_items.erase(m_items.begin() + row);
+    m_chosen.erase(m_chosen.begin() + row);
+    Notify(Change::Content);
+}
+
+bool ListBox::IsChosen(int row) const {
+    const auto index = static_cast<std::size_t>(row);
+    return row >= 0 && index < m_chosen.size() && m_chosen[index];
+}
+
+void ListBox::SetChosen(int row, bool chosen) {
+    if (row < 0 || row >= static_cast<int>(m_chosen.size()) || IsChosen(row) == chosen)
+        return;
+    m_chosen[static_cast<std::size_t>(row)] = chosen;
+    Notify(Change::Selection);
+}
+
+void ListBox::UserPick(const std::vector<int>& rows) {
+    for (int row = 0; row < static_cast<int>(m_chosen.size()); ++row)
+        SetChosen(row, std::ranges::find(rows, row) != rows.end());
+    Fire(OnClick);
+}
+
+void TabStrip::UserPick(int tab) {
+    const int previous = m_current;
+    SetCurrent(tab);
+    if (OnClick)
+        OnClick(previous);
+}
+
+void UpDown::SetValue(int value) {
+    Set(m_value, std::clamp(value, m_minimum, m_maximum), Change::Selection);
+    if (buddy)
+        buddy->SetText(std::to_string(m_value));
+}
+
+void UpDown::SetRange(int minimum, int maximum) {
+    m_minimum = minimum;
+    m_maximum = maximum;
+    SetValue(m_value);
+}
+
+void UpDown::UserSpin(int value) {
+    SetValue(value);
+    Fire(OnChange);
+}
+
+}  // namespace tavrelo::window

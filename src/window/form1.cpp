@@ -1,0 +1,199 @@
+#include "window/form1.h"
+
+#include <charconv>
+
+namespace tavrelo::window {
+namespace {
+
+struct ArrayName {
+    std::string_view base;
+    int index;
+};
+
+/// "cmdParts(5)" as base and index; index -1 for a name without brackets.
+ArrayName SplitName(std::string_view name) {
+    const std::size_t open = name.find('(');
+    if (open == std::string_view::npos)
+        return {name, -1};
+    int index = 0;
+    std::from_chars(name.data() + open + 1, name.data() + name.size(), index);
+    return {name.substr(0, open), index};
+}
+
+std::unique_ptr<Control> NewControl(Control::Identity identity, const ChangeListener& listener) {
+    switch (identity.kind) {
+        case ControlKind::Window:
+            return std::make_unique<Window>(std::move(identity), listener);
+        case ControlKind::Frame:
+            return std::make_unique<Frame>(std::move(identity), listener);
+        case ControlKind::Label:
+            return std::make_unique<Label>(std::move(identity), listener);
+        case ControlKind::Button:
+            return std::make_unique<Button>(std::move(identity), listener);
+        case ControlKind::OptionButton:
+            return std::make_unique<OptionButton>(std::move(identity), listener);
+        case ControlKind::CheckBox:
+            return std::make_unique<CheckBox>(std::move(identity), listener);
+        case ControlKind::TextBox:
+            return std::make_unique<TextBox>(std::move(identity), listener);
+        case ControlKind::RichTextBox:
+            return std::make_unique<RichTextBox>(std::move(identity), listener);
+        case ControlKind::Grid:
+            return std::make_unique<Grid>(std::move(identity), listener);
+        case ControlKind::Picture:
+            return std::make_unique<Picture>(std::move(identity), listener);
+        case ControlKind::ComboBox:
+            return std::make_unique<ComboBox>(std::move(identity), listener);
+        case ControlKind::ListBox:
+            return std::make_unique<ListBox>(std::move(identity), listener);
+        case ControlKind::TabStrip:
+            return std::make_unique<TabStrip>(std::move(identity), listener);
+        case ControlKind::UpDown:
+            return std::make_unique<UpDown>(std::move(identity), listener);
+        case ControlKind::Shape:
+            break;
+    }
+    return std::make_unique<Shape>(std::move(identity), listener);
+}
+
+/// A box with a caret starts with its caption as its text.
+void ApplyFlags(Control& control, int flags) {
+    control.SetVisible(!(flags & kHidden));
+    control.SetEnabled(!(flags & kDisabled));
+    if (auto* text = dynamic_cast<TextControl*>(&control)) {
+        text->SetText(control.Caption());
+        text->SetLocked(flags & kLocked);
+    }
+    if (auto* list = dynamic_cast<ListBox*>(&control))
+        list->multiple = flags & kMultiple;
+    if (auto* picture = dynamic_cast<Picture*>(&control)) {
+        if (flags & kTwips)
+            picture->SetUnits(MouseUnits::Twips);
+        if (flags & kUpward)
+            picture->SetUnits(MouseUnits::PixelsUp);
+        picture->FitCanvas();
+    }
+}
+
+}  // namespace
+
+Form1::Form1(const Host& host)
+    : boxes(host.boxes), clipboard(host.clipboard), printer(host.printer), files(host.files) {
+    LinkControls();
+}
+
+bool Form1::MakeControls() {
+    m_forward = [this](Control& control, Change change) {
+        if (m_focus && !m_focus->IsUsable())
+            m_focus = nullptr;
+        if (OnChange)
+            OnChange(control, change);
+    };
+    for (const ControlRow& row : ControlTable())
+        MakeControl(row);
+    for (const ControlTooltip& row : TooltipTable())
+        MustFind(row.name)->SetTooltip(std::string(row.tooltip));
+    return true;
+}
+
+void Form1::MakeControl(const ControlRow& row) {
+    Control* parent = row.parent.empty() ? nullptr : MustFind(row.parent);
+    auto control = NewControl({std::string(row.name), row.kind, parent, row.page}, m_forward);
+    control->SetBounds(row.bounds);
+    control->SetCaption(std::string(row.caption));
+    ApplyFlags(*control, row.flags);
+    m_order.push_back(control.get());
+    m_controls.emplace(row.name, std::move(control));
+}
+
+Control* Form1::Find(std::string_view name) {
+    const auto found = m_controls.find(name);
+    return found == m_controls.end() ? nullptr : found->second.get();
+}
+
+Control* Form1::MustFind(std::string_view name) {
+    Control* control = Find(name);
+    if (!control)
+        throw numeric::RuntimeFailure(numeric::FailureCode::Internal, std::string(name));
+    return control;
+}
+
+std::vector<std::pair<int, Control*>> Form1::FindArray(std::string_view name) {
+    std::vector<std::pair<int, Control*>> items;
+    for (Control* control : m_order) {
+        const ArrayName split = SplitName(control->Name());
+        if (split.base == name && split.index >= 0)
+            items.emplace_back(split.index, control);
+    }
+    return items;
+}
+
+void Form1::LinkControls() {
+    for (const auto* options : {&optPrint, &optDCL, &optShowDCL})
+        for (const auto& [index, option] : options->Items())
+            for (const auto& [other_index, other] : options->Items())
+                option->group.push_back(other);
+    UpDown1.buddy = &txtNCD;
+}
+
+void Form1::Arrange(Arrangement arrangement) {
+    // The arrangement with the clock only tells what differs from the calculator's.
+    if (arrangement == Arrangement::CalculatorWithClock)
+        Arrange(Arrangement::Calculator);
+    for (const ArrangedBounds& row : ArrangementTable()) {
+        if (row.arrangement != arrangement)
+            continue;
+        Control* control = MustFind(row.name);
+        control->SetBounds(row.bounds);
+        if (auto* picture = dynamic_cast<Picture*>(control))
+            picture->FitCanvas();
+    }
+    FitResultPages();
+}
+
+void Form1::FitResultPages() {
+    constexpr int kBorder = 2;
+    constexpr int kTabHeight = 24;
+    const Rect& strip = tabCalc.Bounds();
+    const Rect page{kBorder, kTabHeight, strip.width - 2 * kBorder, strip.height - kTabHeight - kBorder};
+    for (RichTextBox* box : {&rtbCalc, &rtbSolve, &txtArgHelp, &rtbReg})
+        box->SetBounds(page);
+}
+
+void Form1::SetFocus(Control& control) {
+    if (!control.IsUsable() || m_focus == &control)
+        return;
+    UserFocused(control);
+    if (OnChange)
+        OnChange(control, Change::Focus);
+}
+
+void Form1::UserFocused(Control& control) {
+    if (m_focus == &control)
+        return;
+    auto* left = dynamic_cast<TextControl*>(m_focus);
+    m_focus = &control;
+    if (left && left->OnLostFocus)
+        left->OnLostFocus();
+    auto* entered = dynamic_cast<TextControl*>(&control);
+    if (entered && entered->OnGotFocus)
+        entered->OnGotFocus();
+}
+
+void Form1::SetPointer(int shape) {
+    m_pointer = shape;
+    if (OnChange)
+        OnChange(ThisWindow, Change::State);
+}
+
+void Form1::End() {
+    if (m_ended)
+        return;
+    m_ended = true;
+    Form2.SetVisible(false);
+    ThisWindow.SetVisible(false);
+    if (OnEnd)
+        OnEnd();
+}
+
+}  // namespace tavrelo::window

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "window/control.h"
+
+namespace tavrelo::window {
+
+/// One row of the window's inventory: a control with its panel, place, caption and start state. Arrays of
+/// controls are rows named "cmdParts(0)". The order of the rows is the reading and tab order.
+struct ControlRow {
+    std::string_view name;
+    ControlKind kind;
+    std::string_view parent;  // empty for a window
+    Rect bounds;
+    std::string_view caption = {};
+    int flags = 0;
+    int page = Control::kAllPages;
+};
+
+// Start states, joined in ControlRow::flags.
+inline constexpr int kHidden = 1;
+inline constexpr int kDisabled = 2;
+inline constexpr int kLocked = 4;
+inline constexpr int kTwips = 8;      // mouse events in twips
+inline constexpr int kUpward = 16;    // mouse events with y growing upward
+inline constexpr int kMultiple = 32;  // list with several rows chosen
+
+std::span<const ControlRow> ControlTable();
+
+/// The arrangements of the panels whose place depends on the tool in use.
+enum class Arrangement {
+    Calculator,
+    CalculatorWithClock,  // the calculator while the direction clock shows
+    Particle,
+    RigidBody,
+    Motion,
+    Projectile,
+    Kinematics,
+};
+
+struct ArrangedBounds {
+    std::string_view name;
+    Arrangement arrangement;
+    Rect bounds;
+};
+/// The places that differ from the start place of the control table.
+std::span<const ArrangedBounds> ArrangementTable();
+
+struct ControlTooltip {
+    std::string_view name;
+    std::string_view tooltip;
+};
+std::span<const ControlTooltip> TooltipTable();
+
+inline constexpr Rect kForm1Bounds{0, 0, 800, 612};
+inline constexpr Rect kForm2Bounds{0, 0, 440, 256};
+
+}  // namespace tavrelo::window

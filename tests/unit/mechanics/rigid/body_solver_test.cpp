@@ -1,0 +1,633 @@
+#include "mechanics/rigid/body_solver.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+#include <optional>
+#include <random>
+#include <string>
+
+#include "../../failure_code.h"
+#include "body_rows.h"
+#include "text/number_text.h"
+
+namespace tavrelo::mechanics::rigid {
+namespace {
+
+using tavrelo::testing::FailureOf;
+using text::Value;
+
+constexpr double kTolerance = 1e-9;
+constexpr double kResidual = 1e-6;
+
+BodyOutcome Solved(const BodyForces& forces, const std::vector<ChosenBody>& bodies,
+                   std::string_view suppressed = "") {
+    return SolveEquations(std::get<BodyEquations>(BuildEquations(forces, bodies, suppressed)), bodies.size());
+}
+
+BodyOutcome SolvedBody1(const BodyForces& forces) { return Solved(forces, {ChosenBody{}}); }
+
+std::string RefusalText(const BodyOutcome& outcome) {
+    const auto* refusal = std::get_if<text::Refusal>(&outcome);
+    return refusal ? refusal->text : "solved";
+}
+
+void ExpectResults(const BodyResults& found, const BodyResults& expected, double tolerance = kTolerance) {
+    ASSERT_EQ(found.size(), expected.size());
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        EXPECT_EQ(found[i].name, expected[i].name);
+        EXPECT_NEAR(found[i].value, expected[i].value, tolerance) << found[i].name;
+        EXPECT_EQ(found[i].is_angle, expected[i].is_angle) << found[i].name;
+    }
+}
+
+void ExpectChoice(const BodyOutcome& outcome, const BodyChoice& expected, double tolerance = kTolerance) {
+    ASSERT_TRUE(std::holds_alternative<BodyChoice>(outcome)) << RefusalText(outcome);
+    for (std::size_t i = 0; i < expected.size(); ++i)
+        ExpectResults(std::get<BodyChoice>(outcome)[i], expected[i], tolerance);
+}
+
+// --- Linear systems
+
+BodyForces Frame() {
+    return {RowAt(0, 0, "AX,AY/M1", 2), RowAt(0, 2, "BX,BY", 2),  RowAt(0, 5, "c45x,T", 2),
+            RowAt(0, 2, "-BX,-BY", 3),  RowAt(3, 2, "s45x,T", 3), RowAt(3, 2, "v-40", 3)};
+}
+
+struct LinearRow {
+    const char* name;
+    BodyForces forces;
+    std::vector<ChosenBody> bodies;
+    const char* suppressed;
+    BodyResults results;
+};
+
+TEST(SolveEquations, FindsTheReactionsOfLinearProblems) {
+    const double root3 = std::sqrt(3);
+    const LinearRow rows[] = {
+        // 4 B = 10 + 40 + 90
+        {"beam with three loads",
+         {RowAt(0, 0, "AX,AY"), RowAt(4, 0, "vB"), RowAt(1, 0, "v-10"), RowAt(2, 0, "v-20"),
+          RowAt(3, 0, "v-30")},
+         {{1}},
+         "",
+         {{"AX", 0}, {"AY", 25}, {"B", 35}}},
+        // The same about its right end: -4 AY = -(30 + 40 + 30)
+        {"beam about its other end",
+         {RowAt(0, 0, "AX,AY"), RowAt(4, 0, "vB"), RowAt(1, 0, "v-10"), RowAt(2, 0, "v-20"),
+          RowAt(3, 0, "v-30")},
+         {{1, false, 4, 0}},
+         "",
+         {{"AX", 0}, {"AY", 25}, {"B", 35}}},
+        // 6 R sin 120 = 300
+        {"inclined roller",
+         {RowAt(0, 0, "AX,AY"), RowAt(6, 0, "s30y,R"), RowAt(3, 0, "v-100")},
+         {{1}},
+         "",
+         {{"AX", 50 / root3}, {"R", 100 / root3}, {"AY", 50}}},
+        // M = -4 (-100 sin 60) - 50
+        {"cantilever",
+         {RowAt(0, 0, "AX,AY/MA"), RowAt(4, 0, "100<-60/50")},
+         {{1}},
+         "",
+         {{"AX", -50}, {"AY", 50 * root3}, {"MA", 200 * root3 - 50}}},
+        {"couple typed with a minus",
+         {RowAt(0, 0, "AX,AY/-M1"), RowAt(4, 0, "v-100")},
+         {{1}},
+         "",
+         {{"AX", 0}, {"AY", 100}, {"M1", -400}}},
+        // Couple of the reactions: 2 A + 30 - 50 = 0 with B = -A
+        {"couples alone",
+         {RowAt(0, 0, "vB"), RowAt(2, 0, "vA"), RowAt(1, 0, "30"), RowAt(5, 5, "-50")},
+         {{1}},
+         "1x",
+         {{"B", -10}, {"A", 10}}},
+        // Arm: 3 T sin 45 = 120; post: M = 120
+        {"frame",
+         Frame(),
+         {{2}, {3, false, 0, 2}},
+         "",
+         {{"AX", 0}, {"BX", -40}, {"T", 40 * std::sqrt(2)}, {"AY", 40}, {"BY", 0}, {"M1", 120}}},
+        // F1 cos 30 = F2 cos 45, F1 sin 30 + F2 sin 45 = 100: F1 (sin 30 + cos 30) = 100
+        {"particle",
+         {RowAt(1, 1, "p30x,F1"), RowAt(1, 1, "s45x,F2"), RowAt(1, 1, "v-100/70")},
+         {{1, true, 9, 9}},
+         "",
+         {{"F1", 200 / (1 + root3)}, {"F2", 100 * std::sqrt(6) / (1 + root3)}}},
+        {"one unknown on two bodies",
+         {RowAt(0, 0, "vT", 1), RowAt(0, 0, "v-80", 1), RowAt(0, 0, "v-2t", 2), RowAt(0, 0, "vN", 2)},
+         {{1, true}, {2, true}},
+         "1x,2x",
+         {{"T", 80}, {"N", 160}}},
+        {"factors",
+         {RowAt(0, 0, "h2F"), RowAt(0, 0, "h-30"), RowAt(0, 0, "v-0.5G"), RowAt(0, 0, "v4")},
+         {{1, true}},
+         "",
+         {{"F", 15}, {"G", 8}}},
+    };
+    for (const LinearRow& row : rows) {
+        SCOPED_TRACE(row.name);
+        const BodyOutcome outcome = Solved(row.forces, row.bodies, row.suppressed);
+        ASSERT_TRUE(std::holds_alternative<BodyResults>(outcome)) << RefusalText(outcome);
+        ExpectResults(std::get<BodyResults>(outcome), row.results);
+    }
+}
+
+TEST(SolveEquations, SaysWhyALinearSystemHasNoResult) {
+    struct Row {
+        BodyForces forces;
+        std::vector<ChosenBody> bodies;
+        const char* text;
+    };
+    const char* kSingular = "El determinante del sistema es cero.";
+    const Row rows[] = {
+        {{RowAt(0, 0, "vA"), RowAt(4, 0, "vB")}, {{1}}, "Son 2 incógnitas y 3 ecuaciones."},
+        {{RowAt(0, 0, "AX,AY"), RowAt(4, 0, "BX,BY")}, {{1}}, "Son 4 incógnitas y 3 ecuaciones."},
+        {Frame(), {{2}}, "Son 6 incógnitas y 3 ecuaciones."},
+        {{RowAt(0, 0, "hA")}, {{1}, {2}}, "Son 1 incógnitas y 6 ecuaciones."},
+        // Two pins on one line along it; three forces through one point; a mechanism held by rollers.
+        {{RowAt(0, 0, "AX,AY"), RowAt(4, 0, "hB"), RowAt(2, 0, "v-10")}, {{1}}, kSingular},
+        {{RowAt(0, 0, "AX,AY"), RowAt(2, 2, "F<45"), RowAt(2, 0, "v-10")}, {{1}}, kSingular},
+        {{RowAt(0, 0, "vA"), RowAt(2, 0, "vB"), RowAt(4, 0, "vC"), RowAt(0, 0, "h5")}, {{1}}, kSingular},
+        // cos 90 leaves dust in x: the equations say 0 = 10.
+        {{RowAt(0, 0, "p90x,R"), RowAt(0, 0, "h10"), RowAt(0, 0, "vB")}, {{1, true}}, kSingular},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(RefusalText(Solved(row.forces, row.bodies)), row.text);
+}
+
+// --- One unknown angle
+
+constexpr const char* kNotApplicable = "La rutina es aplicable a un sólo cuerpo con 1 ángulo desconocido.";
+constexpr const char* kNoSolution = "No hay solución.";
+
+TEST(SolveEquations, OffersTheTwoAnglesOfAKnownForce) {
+    // Moments about A: 400 sin q = 200.
+    const double ax = 50 * std::sqrt(3);
+    ExpectChoice(SolvedBody1({RowAt(0, 0, "AX,AY"), RowAt(4, 0, "100<q"), RowAt(2, 0, "v-100")}),
+                 {{{{"AX", -ax}, {"AY", 50}, {"Q", 30, true}}, {{"AX", ax}, {"AY", 50}, {"Q", 150, true}}}});
+}
+
+TEST(SolveEquations, FindsTheAngleWhenTheOtherUnknownsAreParallel) {
+    // Two vertical reactions: 100 cos q = 50; 4 B + 200 sin q - 300 cos q + 50 = 0, A + B + 100 sin q = 0.
+    const double s = 50 * std::sqrt(3);
+    const double b = (100 - 2 * s) / 4;
+    const double b2 = (100 + 2 * s) / 4;
+    ExpectChoice(
+        SolvedBody1({RowAt(0, 0, "vA"), RowAt(4, 0, "vB"), RowAt(2, 3, "100<q"), RowAt(0, 1, "h-50")}),
+        {{{{"A", s - b2}, {"B", b2}, {"Q", -60, true}}, {{"A", -s - b}, {"B", b}, {"Q", 60, true}}}});
+    // A couple and a horizontal reaction: 100 sin q = 100, the tangent case; M + 400 sin q - 200 = 0.
+    ExpectChoice(SolvedBody1({RowAt(0, 0, "hA/M"), RowAt(4, 0, "100<q"), RowAt(2, 0, "v-100")}),
+                 {{{{"A", 0}, {"M", -200}, {"Q", 90, true}}, {{"A", 0}, {"M", -200}, {"Q", 90, true}}}});
+}
+
+TEST(SolveEquations, KeepsTheOrderOfTheRootsWhenAnotherUnknownTurns) {
+    // The same beam, its reactions in the other order and one of them turned: first 30, then 150 degrees.
+    const double ax = 50 * std::sqrt(3);
+    ExpectChoice(
+        SolvedBody1({RowAt(4, 0, "100<q"), RowAt(0, 0, "vA"), RowAt(0, 0, "hB"), RowAt(2, 0, "v-100")}),
+        {{{{"B", -ax}, {"A", 50}, {"Q", 30, true}}, {{"B", ax}, {"A", 50}, {"Q", 150, true}}}});
+    ExpectChoice(
+        SolvedBody1({RowAt(4, 0, "100<q"), RowAt(0, 0, "vA"), RowAt(0, 0, "h-B"), RowAt(2, 0, "v-100")}),
+        {{{{"B", ax}, {"A", 50}, {"Q", 30, true}}, {{"B", -ax}, {"A", 50}, {"Q", 150, true}}}});
+}
+
+TEST(SolveEquations, FindsAForceUnknownInMagnitudeAndDirectionAtOnce) {
+    // F cos q = 50, 4 B = 200, F sin q = 100 - B.
+    const BodyOutcome outcome =
+        SolvedBody1({RowAt(0, 0, "F<q"), RowAt(4, 0, "vB"), RowAt(2, 0, "v-100"), RowAt(0, 0, "h-50")});
+    ASSERT_TRUE(std::holds_alternative<BodyResults>(outcome)) << RefusalText(outcome);
+    ExpectResults(std::get<BodyResults>(outcome), {{"F", 50 * std::sqrt(2)}, {"B", 50}, {"Q", 45, true}});
+    // The other unknown first, the force with a factor: 2 F cos q = 40 - H, 2 F sin q = 40, H = 10.
+    const BodyOutcome second = SolvedBody1({RowAt(0, 1, "hH"), RowAt(2, 0, "2F1<a"), RowAt(2, 0, "v-40"),
+                                            RowAt(0, 0, "h-40"), RowAt(0, 0, "10")});
+    ASSERT_TRUE(std::holds_alternative<BodyResults>(second)) << RefusalText(second);
+    ExpectResults(std::get<BodyResults>(second),
+                  {{"H", 10}, {"F1", 25}, {"A", std::atan(4.0 / 3) * 180 / std::numbers::pi, true}});
+}
+
+TEST(SolveEquations, FindsTheForceOfARopeOverAPulley) {
+    // F (1 + 4 sin q) = 200 and F (1 + sin q) = 100: sin q = 1/2, F = 200/3, A = -F cos q.
+    const double f = 200.0 / 3;
+    const double a = f * std::sqrt(3) / 2;
+    ExpectChoice(
+        SolvedBody1({RowAt(0, 0, "hA"), RowAt(1, 0, "vF"), RowAt(4, 0, "F<q"), RowAt(2, 0, "v-100")}),
+        {{{{"A", -a}, {"F", f}, {"Q", 30, true}}, {{"A", a}, {"F", f}, {"Q", 150, true}}}});
+}
+
+TEST(SolveEquations, DropsRootsOfThePulleyThatAreNoForce) {
+    struct Row {
+        const char* name;
+        BodyForces forces;
+        BodyResults results;
+    };
+    const Row rows[] = {
+        // The other root, q = -81.4 with F = -122.8, pushes. By a search over q for x and y solved, m left
+        // over.
+        {"negative magnitude",
+         {RowAt(0, 0, "hA"), RowAt(1, 1, "p30x,F"), RowAt(0, 3, "F<q"), RowAt(3, 2, "-40,-60")},
+         {{"A", 34.491989}, {"F", 52.20492}, {"Q", 139.509876, true}}},
+        // Both ends at one point: F (cos q - 1) = -30, F sin q = 50, tan(q/2) = 3/5; q = 0 has no force at
+        // all.
+        {"ends that cancel each other",
+         {RowAt(0, 0, "M"), RowAt(1, 0, "h-F"), RowAt(1, 0, "F<q"), RowAt(0, 0, "30,-50")},
+         {{"F", 170.0 / 3}, {"M", -50}, {"Q", 2 * std::atan(0.6) * 180 / std::numbers::pi, true}}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const BodyOutcome outcome = SolvedBody1(row.forces);
+        ASSERT_TRUE(std::holds_alternative<BodyResults>(outcome)) << RefusalText(outcome);
+        ExpectResults(std::get<BodyResults>(outcome), row.results, kResidual);
+    }
+}
+
+TEST(SolveEquations, SaysWhyAnAngleIsNotFound) {
+    struct Row {
+        const char* name;
+        BodyForces forces;
+        std::vector<ChosenBody> bodies;
+        const char* suppressed;
+        const char* text;
+    };
+    const BodyForce q = RowAt(4, 0, "100<q");
+    const BodyForce pin = RowAt(0, 0, "AX,AY");
+    const BodyForce on_body_2 = RowAt(0, 0, "h5", 2);
+    const Row rows[] = {
+        {"one other unknown", {q, RowAt(0, 0, "vA")}, {{1}}, "", kNotApplicable},
+        {"three other unknowns", {q, pin, RowAt(0, 0, "M")}, {{1}}, "", kNotApplicable},
+        {"two equations", {q, pin}, {{1}}, "1m", kNotApplicable},
+        {"particle", {q, RowAt(0, 0, "vA")}, {{1, true}}, "", kNotApplicable},
+        {"a known and an unknown force",
+         {q, RowAt(0, 0, "F<q"), RowAt(1, 0, "vA")},
+         {{1}},
+         "",
+         kNotApplicable},
+        {"two unknown forces", {RowAt(0, 0, "F<q"), RowAt(1, 0, "G<q")}, {{1}}, "", kNotApplicable},
+        {"two angles",
+         {q, RowAt(0, 0, "50<r"), RowAt(1, 0, "vA")},
+         {{1}},
+         "",
+         "El programa resuelve un sólo cuerpo con un ángulo desconocido."},
+        {"two bodies",
+         {q, pin, on_body_2},
+         {{1}, {2}},
+         "",
+         "Con ángulo desconocido la rutina es aplicable a un sólo cuerpo."},
+        // 400 sin q = 600
+        {"too heavy", {q, pin, RowAt(2, 0, "v-300")}, {{1}}, "", kNoSolution},
+        // The force acts on the pin: no lever, any angle or none.
+        {"without a lever", {RowAt(0, 0, "100<q"), pin}, {{1}}, "", kNoSolution},
+        {"others on one line",
+         {q, RowAt(0, 0, "hA"), RowAt(1, 0, "hB")},
+         {{1}},
+         "",
+         "El determinante del sistema es cero."},
+        // The free force meets the line of the other unknown.
+        {"free force on a line",
+         {RowAt(0, 0, "F<q"), RowAt(2, 0, "hB"), RowAt(1, 0, "v-5")},
+         {{1}},
+         "",
+         "El determinante del sistema es cero."},
+        // F (1 + sin q) = 100, F (1 + 3 sin q) = 200 ask for F = 50 and sin q = 1: tangent, yet in x and y
+        // only.
+        {"pulley without a load",
+         {RowAt(0, 0, "hA"), RowAt(1, 0, "vF"), RowAt(3, 0, "F<q")},
+         {{1}},
+         "",
+         kNoSolution},
+        // F (1 + sin q) = 100, F (1 + 2 sin q) = 400 ask for sin q = -3/2.
+        {"pulley too heavy",
+         {RowAt(0, 0, "hA"), RowAt(1, 0, "vF"), RowAt(2, 0, "F<q"), RowAt(4, 0, "v-100")},
+         {{1}},
+         "",
+         kNoSolution},
+        // F (1 + sin q) = -100, F (1 + 4 sin q) = -200: both roots push.
+        {"pulley that would push",
+         {RowAt(0, 0, "hA"), RowAt(1, 0, "vF"), RowAt(4, 0, "F<q"), RowAt(2, 0, "v100")},
+         {{1}},
+         "",
+         kNoSolution},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(RefusalText(Solved(row.forces, row.bodies, row.suppressed)), row.text) << row.name;
+}
+
+TEST(SolveEquations, FailsOnResultsPastTheRangeOfNumbers) {
+    const BodyForces pinned = {RowAt(0, 0, "AX,AY"), RowAt(4, 0, "1E+200<q"), RowAt(2, 0, "v-1E+200")};
+    EXPECT_EQ(FailureOf([&] { SolvedBody1(pinned); }), numeric::FailureCode::Overflow);
+    const BodyForces free = {RowAt(0, 0, "F<q"), RowAt(4, 0, "vB"), RowAt(2, 0, "h1E+300"),
+                             RowAt(2, 0, "v1E+300")};
+    EXPECT_EQ(FailureOf([&] { SolvedBody1(free); }), numeric::FailureCode::Overflow);
+    EXPECT_EQ(
+        RefusalText(Solved({RowAt(0, 0, "h0.000001F"), RowAt(0, 0, "h1E+305"), RowAt(0, 0, "v1000000G")},
+                           {{1, true}})),
+        "No pude resolver el sistema.");
+}
+
+// --- The question
+
+TEST(QuestionBetween, TellsBothResultsInBareNumbers) {
+    const BodyChoice choice = {{{{"AX", -86.602540}, {"AY", 50}, {"Q", 30, true}},
+                                {{"AX", 86.602540}, {"AY", -1e-15}, {"Q", 150, true}}}};
+    EXPECT_EQ(QuestionBetween(choice, 3),
+              "Solución 1:\n"
+              "AX = -86.603, AY = 50, Q = 30\n"
+              "Solución 2:\n"
+              "AX = 86.603, AY = 0, Q = 150\n"
+              "Para escoger la primera solución oprime \"Sí\", para la segunda oprime \"No\".");
+    EXPECT_EQ(QuestionBetween(choice, 0),
+              "Solución 1:\n"
+              "AX = -87, AY = 50, Q = 30\n"
+              "Solución 2:\n"
+              "AX = 87, AY = 0, Q = 150\n"
+              "Para escoger la primera solución oprime \"Sí\", para la segunda oprime \"No\".");
+}
+
+// --- What the results change
+
+TEST(UpdateBodyForces, RewritesAForceThatBecomesKnown) {
+    BodyForces forces = {RowAt(4, 0, "s30x,2F")};
+    UpdateBodyForces(forces, {{"f", 7}, {"F", -10}}, 2);
+    const BodyForce& row = forces[0];
+    // 20 at 150 degrees, pushed: 20 at -30.
+    EXPECT_NEAR(row.force[mechanics::forces::XComponent].Number(), 10 * std::sqrt(3), kTolerance);
+    EXPECT_NEAR(row.force[mechanics::forces::YComponent].Number(), -10, kTolerance);
+    EXPECT_NEAR(row.force[mechanics::forces::Magnitude].Number(), 20, kTolerance);
+    EXPECT_NEAR(row.force[mechanics::forces::Direction].Number(), -30, kTolerance);
+    EXPECT_EQ(row.force[mechanics::forces::Hour], Value(4));
+    EXPECT_NEAR(row.force[mechanics::forces::ClockAngle].Number(), 30, kTolerance);
+    EXPECT_EQ(row.force[mechanics::forces::XUnknown], Value(""));
+    EXPECT_EQ(row.force[mechanics::forces::YUnknown], Value(""));
+    EXPECT_EQ(row.force[mechanics::forces::XText], Value("17.32"));
+    EXPECT_EQ(row.force[mechanics::forces::YText], Value("-10"));
+    EXPECT_EQ(row.force[mechanics::forces::Colour], Value(mechanics::forces::kSolved));
+    EXPECT_EQ(row.force[mechanics::forces::GivenText], Value("s30x,2F"));
+    EXPECT_EQ(row.text, "s30x,2F");
+}
+
+TEST(UpdateBodyForces, PutsValuesWhereverTheirSymbolsStand) {
+    struct Row {
+        const char* text;
+        double x, y;
+    };
+    const Row rows[] = {
+        {"hF", 30, 0},  {"v-2f1", 0, -40}, {"F,-F1", 30, -20}, {"5,f1", 5, 20},
+        {"10<Q", 8, 6}, {"uQ", 0.8, 0.6},  {"2F<q", 48, 36},   {"3,4", 3, 4},
+    };
+    const double q = std::asin(0.6) * 180 / std::numbers::pi;
+    for (const Row& row : rows) {
+        BodyForces forces = {RowAt(0, 0, row.text, 3)};
+        const bool was_known = forces[0].force[mechanics::forces::Colour] == Value(mechanics::forces::kKnown);
+        forces[0].force[mechanics::forces::DrawDirection] = 45;
+        UpdateBodyForces(forces, {{"F", 30}, {"f1", 20}, {"F1", 20}, {"Q", q, true}, {"Q", 999}}, kDecimals);
+        EXPECT_NEAR(forces[0].force[mechanics::forces::XComponent].Number(), row.x, kTolerance) << row.text;
+        EXPECT_NEAR(forces[0].force[mechanics::forces::YComponent].Number(), row.y, kTolerance) << row.text;
+        EXPECT_EQ(forces[0].force[mechanics::forces::Colour],
+                  Value(was_known ? mechanics::forces::kKnown : mechanics::forces::kSolved))
+            << row.text;
+        EXPECT_TRUE(forces[0].force[mechanics::forces::DrawDirection].IsEmpty()) << row.text;
+    }
+}
+
+TEST(UpdateBodyForces, KeepsWhatIsStillUnknown) {
+    BodyForces forces = {RowAt(0, 0, "F,G"), RowAt(0, 0, "F<A"), RowAt(0, 0, "hf"), RowAt(0, 0, "20<F")};
+    UpdateBodyForces(forces, {{"F", 30}}, kDecimals);
+    EXPECT_EQ(forces[0].force[mechanics::forces::XComponent], Value(30));
+    EXPECT_EQ(forces[0].force[mechanics::forces::YComponent], Value(""));
+    for (const BodyForce& row : forces)
+        EXPECT_EQ(row.force[mechanics::forces::Colour], Value(mechanics::forces::kUnknown)) << row.text;
+    for (std::size_t i = 1; i < forces.size(); ++i)
+        EXPECT_EQ(forces[i].force[mechanics::forces::XComponent], Value("")) << forces[i].text;
+}
+
+TEST(UpdateBodyForces, GivesACoupleItsValueInBlack) {
+    struct Row {
+        const char* text;
+        Value couple;
+        int colour;
+    };
+    const Row rows[] = {
+        {"ma", 250, mechanics::forces::kKnown},         {"-MA", -250, mechanics::forces::kKnown},
+        {"AX,AY/-ma", -250, mechanics::forces::kKnown}, {"MB", "MB", mechanics::forces::kUnknown},
+        {"40", 40, mechanics::forces::kKnown},          {"Q", "Q", mechanics::forces::kUnknown},
+    };
+    for (const Row& row : rows) {
+        BodyForces forces = {RowAt(0, 0, row.text)};
+        const mechanics::forces::ForceRow force = forces[0].force;
+        const std::string couple_text = forces[0].couple_text;
+        UpdateBodyForces(forces, {{"MA", 250}, {"Q", 30, true}}, kDecimals);
+        EXPECT_EQ(forces[0].couple, row.couple) << row.text;
+        EXPECT_EQ(forces[0].couple_colour, row.colour) << row.text;
+        EXPECT_EQ(forces[0].couple_text, couple_text);
+        EXPECT_EQ(forces[0].force, force) << row.text;  // a couple alone never becomes a force
+    }
+}
+
+TEST(UpdateBodyForces, ChangesNothingWhenItFails) {
+    BodyForces forces = {RowAt(0, 0, "hA"), RowAt(0, 0, "vB")};
+    EXPECT_EQ(FailureOf([&] {
+                  UpdateBodyForces(forces, {{"A", 5}, {"B", 1e300}}, kDecimals);
+              }),
+              numeric::FailureCode::Overflow);
+    EXPECT_EQ(forces[0].force[mechanics::forces::XComponent], Value(""));
+}
+
+// --- Problems built backwards from a known answer
+
+double Radians(double degrees) { return degrees * std::numbers::pi / 180; }
+std::string Number(double value) { return text::NumberToText(value); }
+std::string Components(double x, double y) { return Number(x) + "," + Number(y); }
+
+struct Place {
+    double x, y;
+};
+
+class Random {
+  public:
+    double Between(double low, double high) { return std::uniform_real_distribution(low, high)(m_engine); }
+    double Angle() { return Between(-180, 180); }
+    Place Point() { return {Between(-5, 5), Between(-5, 5)}; }
+
+  private:
+    std::mt19937 m_engine{20240229};
+};
+
+// Force and moment about the origin.
+struct Wrench {
+    double x = 0, y = 0, m = 0;
+};
+
+Wrench operator+(const Wrench& a, const Wrench& b) { return {a.x + b.x, a.y + b.y, a.m + b.m}; }
+Wrench operator*(double factor, const Wrench& a) { return {factor * a.x, factor * a.y, factor * a.m}; }
+
+Wrench At(const Place& place, double x, double y) { return {x, y, place.x * y - place.y * x}; }
+Wrench Along(const Place& place, double degrees) {
+    return At(place, std::cos(Radians(degrees)), std::sin(Radians(degrees)));
+}
+
+double Det(const Wrench& a, const Wrench& b, const Wrench& c) {
+    return a.x * (b.y * c.m - b.m * c.y) - b.x * (a.y * c.m - a.m * c.y) + c.x * (a.y * b.m - a.m * b.y);
+}
+
+Wrench TotalOf(const BodyForces& forces, int body) {
+    Wrench total;
+    for (const BodyForce& row : forces)
+        if (row.body == body) {
+            if (row.HasForce())
+                total = total + At({row.x, row.y}, row.force[mechanics::forces::XComponent].Number(),
+                                   row.force[mechanics::forces::YComponent].Number());
+            if (row.HasCouple())
+                total.m += row.couple.Number();
+        }
+    return total;
+}
+
+void ExpectEquilibrium(const BodyForces& forces, int body) {
+    const Wrench rest = TotalOf(forces, body);
+    EXPECT_NEAR(rest.x, 0, kResidual);
+    EXPECT_NEAR(rest.y, 0, kResidual);
+    EXPECT_NEAR(rest.m, 0, kResidual);
+}
+
+BodyForce RowAt(const Place& place, const std::string& text, int body = 1) {
+    return rigid::RowAt(place.x, place.y, text, body);
+}
+
+constexpr int kProblems = 300;
+
+TEST(BodyPhysics, TwoBodiesJoinedByAPinStandStillWithTheirReactions) {
+    Random random;
+    for (int made = 0; made < kProblems;) {
+        const Place wall = random.Point(), pin = random.Point(), roller = random.Point(),
+                    load = random.Point();
+        const double direction = random.Angle();
+        const double arm = (roller.x - pin.x) * std::sin(Radians(direction)) -
+                           (roller.y - pin.y) * std::cos(Radians(direction));
+        if (std::abs(arm) < 0.3)  // the roller pushes towards the pin
+            continue;
+        ++made;
+        const double fx = random.Between(-100, 100), fy = random.Between(-100, 100);
+        const double couple = random.Between(-100, 100);
+        BodyForces forces = {RowAt(wall, "WX,WY/-MW", 2),
+                             RowAt(pin, "-PX,-PY", 2),
+                             RowAt(load, Components(fy, -fx), 2),
+                             RowAt(pin, "px,py", 4),
+                             RowAt(roller, "R<" + Number(direction), 4),
+                             RowAt(load, Components(fx, fy) + "/" + Number(couple), 4)};
+        const Place about = random.Point();
+        const auto outcome = Solved(forces, {{4, false, about.x, about.y}, {2, false, about.y, about.x}});
+        ASSERT_TRUE(std::holds_alternative<BodyResults>(outcome)) << RefusalText(outcome);
+        UpdateBodyForces(forces, std::get<BodyResults>(outcome), kDecimals);
+        ExpectEquilibrium(forces, 2);
+        ExpectEquilibrium(forces, 4);
+        // About the pin the roller alone holds the load.
+        const double moment = (load.x - pin.x) * fy - (load.y - pin.y) * fx + couple;
+        EXPECT_NEAR(forces[4].force[mechanics::forces::Magnitude].Number(), std::abs(moment / arm),
+                    kResidual);
+    }
+}
+
+// One body: an unknown u, another unknown and a force at an unknown angle, held against the load.
+struct AngleProblem {
+    BodyForces forces;
+    BodyResults answer;  // true values
+};
+
+BodyForce LoadAgainst(const Wrench& sum, const Place& place) {
+    const Wrench load = At(place, -sum.x, -sum.y);
+    return RowAt(place, Components(-sum.x, -sum.y) + "/" + Number(-sum.m - load.m));
+}
+
+// How fast the equation of the angle changes at the answer, as a share of its largest change; small where its
+// roots fall together.
+bool IsFarFromTangent(double at_angle, double beside_angle) {
+    return std::abs(beside_angle) > 0.3 && std::abs(beside_angle) > 0.1 * std::abs(at_angle);
+}
+
+std::optional<AngleProblem> KnownForce(Random& random) {
+    const Place at_u = random.Point(), at_w = random.Point(), at_q = random.Point();
+    const double of_u = random.Angle(), of_w = random.Angle(), q = random.Angle();
+    const double u = random.Between(-90, 90), w = random.Between(-90, 90), force = random.Between(1, 90);
+    const Wrench a = Along(at_u, of_u), b = Along(at_w, of_w);
+    if (!IsFarFromTangent(Det(a, b, Along(at_q, q)), Det(a, b, Along(at_q, q + 90))))
+        return {};
+    return AngleProblem{{RowAt(at_u, "U<" + Number(of_u)), RowAt(at_w, "W<" + Number(of_w)),
+                         RowAt(at_q, Number(force) + "<q"),
+                         LoadAgainst(u * a + w * b + force * Along(at_q, q), random.Point())},
+                        {{"U", u}, {"W", w}, {"Q", q, true}}};
+}
+
+std::optional<AngleProblem> FreeForce(Random& random) {
+    const Place at_u = random.Point(), at_q = random.Point();
+    const double of_u = random.Angle(), q = random.Angle();
+    const double u = random.Between(-90, 90), force = random.Between(1, 90);
+    const Wrench a = Along(at_u, of_u);
+    if (std::abs(Det(a, Along(at_q, 0), Along(at_q, 90))) < 0.3)
+        return {};
+    return AngleProblem{{RowAt(at_q, "F<q"), RowAt(at_u, "U<" + Number(of_u)),
+                         LoadAgainst(u * a + force * Along(at_q, q), random.Point())},
+                        {{"F", force}, {"U", u}, {"Q", q, true}}};
+}
+
+std::optional<AngleProblem> RopeOverAPulley(Random& random) {
+    const Place at_u = random.Point(), at_end = random.Point(), at_q = random.Point();
+    const double of_u = random.Angle(), of_end = random.Angle(), q = random.Angle();
+    const double u = random.Between(-90, 90), force = random.Between(10, 90);
+    const Wrench a = Along(at_u, of_u), end = Along(at_end, of_end);
+    const Wrench rope = end + Along(at_q, q);
+    const Wrench load = -1.0 * (u * a + force * rope);
+    if (!IsFarFromTangent(Det(a, Along(at_q, q), load), Det(a, Along(at_q, q + 90), load)) ||
+        std::abs(a.x * rope.y - a.y * rope.x) < 0.1)
+        return {};
+    return AngleProblem{{RowAt(at_u, "U<" + Number(of_u)), RowAt(at_end, "F<" + Number(of_end)),
+                         RowAt(at_q, "F<q"), LoadAgainst(-1.0 * load, random.Point())},
+                        {{"U", u}, {"F", force}, {"Q", q, true}}};
+}
+
+std::vector<BodyResults> ResultsOf(const BodyOutcome& outcome) {
+    if (const auto* choice = std::get_if<BodyChoice>(&outcome))
+        return {(*choice)[0], (*choice)[1]};
+    if (const auto* results = std::get_if<BodyResults>(&outcome))
+        return {*results};
+    return {};
+}
+
+bool IsNear(const BodyResults& found, const BodyResults& answer) {
+    for (std::size_t i = 0; i < answer.size(); ++i)
+        if (std::abs(found[i].value - answer[i].value) > kResidual)
+            return false;
+    return true;
+}
+
+TEST(BodyPhysics, EveryKindOfAngleFindsTheAnswerItsProblemWasBuiltFrom) {
+    struct Kind {
+        const char* name;
+        std::optional<AngleProblem> (*make)(Random&);
+    };
+    const Kind kinds[] = {
+        {"known force", KnownForce}, {"free force", FreeForce}, {"rope over a pulley", RopeOverAPulley}};
+    for (const Kind& kind : kinds) {
+        SCOPED_TRACE(kind.name);
+        Random random;
+        for (int made = 0; made < kProblems;) {
+            const auto problem = kind.make(random);
+            if (!problem)
+                continue;
+            ++made;
+            const Place about = random.Point();
+            const BodyOutcome outcome = Solved(problem->forces, {{1, false, about.x, about.y}});
+            bool found = false;
+            for (const BodyResults& results : ResultsOf(outcome)) {
+                found = found || IsNear(results, problem->answer);
+                BodyForces forces = problem->forces;
+                UpdateBodyForces(forces, results, kDecimals);
+                ExpectEquilibrium(forces, 1);
+            }
+            EXPECT_TRUE(found) << RefusalText(outcome);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tavrelo::mechanics::rigid

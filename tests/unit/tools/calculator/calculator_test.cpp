@@ -1,0 +1,91 @@
+#include "tools/calculator/calculator.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "../../window/test_host.h"
+
+namespace tavrelo::tools::calculator {
+namespace {
+
+constexpr int kParticleRoutine = 38;
+constexpr int kVectorSumRoutine = 28;
+constexpr int kPlaneForcesRoutine = 36;
+
+class CalculatorTest : public testing::Test {
+  protected:
+    CalculatorTest() { grid.ArrangeGd(); }
+
+    void Run(int routine, const std::vector<std::string>& cells) {
+        for (std::size_t k = 0; k < cells.size(); ++k)
+            form.gd.SetCell(1, static_cast<int>(k) + 1, cells[k]);
+        form.gd.Select({1, 1, 1, static_cast<int>(cells.size())});
+        form.publics.ProcNumber = routine;
+        calculator.Calculate();
+    }
+
+    window::TestHost world;
+    window::Form1 form{world.host};
+    frame::SharedExpression expression{form.publics.AngleFactor};
+    ArgumentGrid grid{form};
+    Calculator calculator{form, expression, grid};
+};
+
+/// No icon leads to this routine, so no transcript does.
+TEST_F(CalculatorTest, TheParticleRoutineHandsItsTextsOver) {
+    std::vector<std::string> handed;
+    calculator.SolveParticle = [&](std::span<const std::string> texts) {
+        handed.assign(texts.begin(), texts.end());
+    };
+    Run(kParticleRoutine, {"p30x,F1", "", "s45x,F2", "v-100"});
+    EXPECT_EQ(handed, (std::vector<std::string>{"p30x,F1", "s45x,F2", "v-100"}));
+    EXPECT_EQ(world.last_message, "");
+}
+
+TEST_F(CalculatorTest, ThePointerIsGivenBackAfterAFailure) {
+    form.SetPointer(window::kPointerCross);
+    Run(kVectorSumRoutine, {""});
+    EXPECT_EQ(world.last_message, "Falló la rutina. Revisa los argumentos.");
+    EXPECT_EQ(form.Pointer(), window::kPointerCross);
+}
+
+/// Ends of all arrows, the axes left out, on a picture.
+std::vector<window::Point> ArrowEnds(const window::Recorder& picture) {
+    constexpr double kLongestForce = 5.5 * drawing::DrawEng::kPixPerUnit;
+    std::vector<window::Point> ends;
+    for (const window::DrawOp& operation : picture.Operations()) {
+        const auto* line = std::get_if<window::LineOp>(&operation);
+        if (!line || std::hypot(line->x2 - line->x1, line->y2 - line->y1) > kLongestForce + 1)
+            continue;
+        ends.push_back({line->x1, line->y1});
+        ends.push_back({line->x2, line->y2});
+    }
+    return ends;
+}
+
+TEST_F(CalculatorTest, ForcesOfEverySystemLieInsideThePicture) {
+    const std::vector<std::vector<std::string>> systems = {
+        {"2,0", "v-10", "5,0", "6,-20"},
+        {"-300,40", "0,5", "500,-80", "-7,5", "20,900", "h3"},
+        {"0,0", "1,1"},
+        {"0.001,0", "v1", "0.002,0.003", "h-1000"},
+    };
+    for (const auto& system : systems) {
+        Run(kPlaneForcesRoutine, system);
+        const auto ends = ArrowEnds(form.pic.Canvas());
+        // The forces and their resultant.
+        EXPECT_EQ(ends.size(), system.size() + 2) << system.front();
+        for (const window::Point& end : ends) {
+            EXPECT_GE(end.x, 0) << system.front();
+            EXPECT_GE(end.y, 0) << system.front();
+            EXPECT_LE(end.x, form.pic.Canvas().Width()) << system.front();
+            EXPECT_LE(end.y, form.pic.Canvas().Height()) << system.front();
+        }
+        for (int col = 1; col <= kGridCols; ++col)
+            form.gd.SetCell(1, col, "");
+    }
+}
+
+}  // namespace
+}  // namespace tavrelo::tools::calculator

@@ -1,0 +1,107 @@
+#include "window/form1.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "test_host.h"
+
+namespace tavrelo::window {
+namespace {
+
+class Form1Test : public testing::Test {
+  protected:
+    TestHost world;
+    Form1 form{world.host};
+};
+
+TEST_F(Form1Test, EveryRowOfTheTableIsAControlOfItsOwn) {
+    std::set<std::string_view> names;
+    for (const ControlRow& row : ControlTable()) {
+        EXPECT_TRUE(names.insert(row.name).second) << row.name;
+        ASSERT_NE(form.Find(row.name), nullptr) << row.name;
+        EXPECT_EQ(form.Find(row.name)->Name(), row.name);
+    }
+    EXPECT_EQ(form.Find("txtNada"), nullptr);
+    EXPECT_EQ(form.Find("cmdParts(3)"), nullptr);
+}
+
+TEST_F(Form1Test, ArraysKeepTheirIndexes) {
+    EXPECT_EQ(form.cmdParts[5].Caption(), "Cancelar última");
+    EXPECT_THROW(form.cmdParts[3], numeric::RuntimeFailure);
+    EXPECT_EQ(form.txtSegm.Count(), 7);
+}
+
+/// Two controls that can be seen together, of one panel and page, must not overlap.
+TEST_F(Form1Test, ControlsOfAPanelDoNotOverlap) {
+    const auto overlap = [](const Rect& a, const Rect& b) {
+        return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
+               b.top < a.top + a.height;
+    };
+    for (const Control* a : form.Controls())
+        for (const Control* b : form.Controls()) {
+            const bool same_place = a->Parent() == b->Parent() && a->Page() == b->Page();
+            const bool in_panel = a->Parent() && a->Parent()->Parent();
+            const bool exempt =
+                a->Name() == "shpMrua" || b->Name() == "shpMrua" || a->Parent() == &form.tabCalc;
+            if (a < b && same_place && in_panel && !exempt) {
+                EXPECT_FALSE(overlap(a->Bounds(), b->Bounds())) << a->Name() << ' ' << b->Name();
+            }
+        }
+}
+
+TEST_F(Form1Test, VisibilityAndUseGoThroughAllPanels) {
+    EXPECT_FALSE(form.txtVector.IsShown());
+    form.fraDirec.SetVisible(true);
+    EXPECT_TRUE(form.txtVector.IsUsable());
+    form.fraDirec.SetEnabled(false);
+    EXPECT_TRUE(form.txtVector.IsShown());
+    EXPECT_FALSE(form.txtVector.IsUsable());
+}
+
+TEST_F(Form1Test, OnlyThePageInFrontIsShown) {
+    form.tabStat.SetVisible(true);
+    EXPECT_TRUE(form.txtSegm[0].IsShown());
+    EXPECT_FALSE(form.txtBody[0].IsShown());
+    form.tabStat.UserPick(1);
+    EXPECT_FALSE(form.txtSegm[0].IsShown());
+    EXPECT_TRUE(form.txtBody[0].IsShown());
+}
+
+TEST_F(Form1Test, TheFocusNeedsAUsableControlAndIsLostWithIt) {
+    form.SetFocus(form.txtVector);
+    EXPECT_EQ(form.Focus(), nullptr);
+    form.fraDirec.SetVisible(true);
+    form.SetFocus(form.txtVector);
+    EXPECT_EQ(form.Focus(), &form.txtVector);
+    form.fraDirec.SetEnabled(false);
+    EXPECT_EQ(form.Focus(), nullptr);
+}
+
+TEST_F(Form1Test, OptionsOfAGroupExcludeEachOther) {
+    form.optPrint[0].UserClick();
+    form.optPrint[2].UserClick();
+    EXPECT_FALSE(form.optPrint[0].Checked());
+    EXPECT_TRUE(form.optPrint[2].Checked());
+}
+
+TEST_F(Form1Test, TheCalculatorMakesRoomForTheClock) {
+    form.Arrange(Arrangement::CalculatorWithClock);
+    EXPECT_EQ(form.tabCalc.Bounds(), (Rect{397, 397, 400, 180}));
+    EXPECT_EQ(form.rtbCalc.Bounds(), (Rect{2, 24, 396, 154}));
+    EXPECT_EQ(form.picBar.Bounds().height, 63);
+    form.Arrange(Arrangement::Kinematics);
+    EXPECT_EQ(form.picBar.Bounds().height, 31);
+}
+
+TEST_F(Form1Test, TwoWindowsLiveSideBySide) {
+    TestHost other_world;
+    Form1 other(other_world.host);
+    form.txtVector.SetText("h5");
+    form.publics.Decimals = 7;
+    EXPECT_EQ(other.txtVector.Text(), "");
+    EXPECT_EQ(other.publics.Decimals, 3);
+}
+
+}  // namespace
+}  // namespace tavrelo::window

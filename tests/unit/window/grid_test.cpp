@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "test_host.h"
+#include "window/form1.h"
+
+namespace tavrelo::window {
+namespace {
+
+class GridTest : public testing::Test {
+  protected:
+    GridTest() { grid.Arrange(4, 4, 1, 1); }
+
+    TestHost world;
+    Form1 form{world.host};
+    Grid& grid = form.gd;
+};
+
+TEST_F(GridTest, APressOnAHeadingChangesNothing) {
+    grid.UserPress(2, 2);
+    grid.UserPress(0, 1);
+    grid.UserPress(1, 0);
+    EXPECT_EQ(grid.Row(), 2);
+    EXPECT_EQ(grid.Col(), 2);
+}
+
+TEST_F(GridTest, ADragKeepsItsSense) {
+    grid.UserDrag({3, 3, 1, 2});
+    EXPECT_EQ(grid.Selection(), (CellBlock{1, 2, 3, 3}));
+    EXPECT_EQ(grid.DraggedBlock(), (CellBlock{3, 3, 1, 2}));
+    EXPECT_EQ(grid.Row(), 3);
+}
+
+TEST_F(GridTest, ArrowKeysStopAtTheEdges) {
+    grid.UserPress(1, 1);
+    grid.UserNavigate(Key::Up, false);
+    grid.UserNavigate(Key::Left, false);
+    EXPECT_EQ(grid.Selection(), (CellBlock{1, 1, 1, 1}));
+    for (int k = 0; k < 9; ++k)
+        grid.UserNavigate(Key::Down, false);
+    EXPECT_EQ(grid.Row(), 3);
+    grid.UserNavigate(Key::Right, true);
+    EXPECT_EQ(grid.Selection(), (CellBlock{3, 1, 3, 2}));
+}
+
+TEST_F(GridTest, ACellOutsideFails) {
+    EXPECT_THROW(grid.Cell(4, 0), numeric::RuntimeFailure);
+    EXPECT_THROW(grid.SetCell(0, -1, ""), numeric::RuntimeFailure);
+    EXPECT_THROW(grid.RemoveRow(7), numeric::RuntimeFailure);
+}
+
+TEST_F(GridTest, RemovingTheCurrentLastRowLeavesNoCurrentCell) {
+    grid.UserPress(3, 1);
+    grid.RemoveRow(3);
+    EXPECT_EQ(grid.Row(), -1);
+}
+
+}  // namespace
+}  // namespace tavrelo::window
