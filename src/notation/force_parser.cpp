@@ -7,6 +7,7 @@
 
 #include "notation/clock_direction.h"
 #include "notation/notation_checks.h"
+#include "notation/number_product.h"
 #include "notation/quadrant_notation.h"
 #include "notation/vector_format.h"
 #include "numeric/angles.h"
@@ -57,7 +58,7 @@ Part ReadPart(std::string_view text) {
     if (text::IsNum(text))
         return {true, text::ToNumber(text), {}};
     const text::FactoredSymbol symbol = text::SplitFactor(text);
-    if (symbol.symbol.empty() || text::IsNum(symbol.symbol))
+    if (!text::IsSymbolName(symbol.symbol))
         throw numeric::RuntimeFailure(numeric::FailureCode::TypeMismatch, "neither a number nor a symbol");
     return {false, 0, symbol};
 }
@@ -406,10 +407,36 @@ ForceRecord EmptyRecord(std::string_view text, const VectorFormat& format) {
     return record;
 }
 
+// The formats in which a part is a magnitude or a component: there a product of numbers stands for a number.
+struct ProductParts {
+    std::string_view code;
+    bool first;
+    bool second;
+};
+constexpr std::array<ProductParts, 5> kProductParts = {{
+    {kQuadrantMagnitude, false, true},
+    {kComponents, true, true},
+    {kPolar, true, false},
+    {kHorizontal, false, true},
+    {kVertical, false, true},
+}};
+
+void ComputeProducts(VectorFormat& format) {
+    for (const ProductParts& parts : kProductParts) {
+        if (parts.code != format.code)
+            continue;
+        if (parts.first)
+            format.first = WithProductComputed(format.first);
+        if (parts.second)
+            format.second = WithProductComputed(format.second);
+    }
+}
+
 std::variant<text::Refusal, ForceRecord> Parse(std::string_view text, int decimals) {
-    const VectorFormat format = VectorFormatOf(text);
+    VectorFormat format = VectorFormatOf(text);
     if (!format.msg.empty())
         return text::Refusal{format.msg};
+    ComputeProducts(format);
     ForceRecord record = EmptyRecord(text, format);
     if (const Outcome refusal = ReadByFormat({format, decimals, record}))
         return *refusal;

@@ -5,6 +5,7 @@
 
 #include "notation/clock_direction.h"
 #include "notation/notation_checks.h"
+#include "notation/number_product.h"
 #include "notation/quadrant_notation.h"
 #include "notation/vector_format.h"
 #include "numeric/angles.h"
@@ -27,6 +28,9 @@ Parts SplitAt(std::string_view text, std::size_t separator) {
 }
 
 bool LacksPart(const Parts& parts) { return parts.first.empty() || parts.second.empty(); }
+
+// A magnitude or a component: a number or a product of numbers.
+double NumberOf(const std::string& text) { return text::ToNumber(WithProductComputed(text)); }
 
 VectorRecord Along(double magnitude, const QuadrantDirection& direction) {
     return {magnitude,
@@ -53,13 +57,13 @@ Result ReadQuadrantMagnitude(const Parts& parts) {
     const auto outcome = CheckedQuadrantDirection(parts.first);
     if (const auto* refusal = std::get_if<text::Refusal>(&outcome))
         return *refusal;
-    return Along(text::ToNumber(parts.second), std::get<QuadrantDirection>(outcome));
+    return Along(NumberOf(parts.second), std::get<QuadrantDirection>(outcome));
 }
 
 // 3,4
 Result ReadComponents(const Parts& parts) {
-    const double x = text::ToNumber(parts.first);
-    const double y = text::ToNumber(parts.second);
+    const double x = NumberOf(parts.first);
+    const double y = NumberOf(parts.second);
     const numeric::ClockReading clock = numeric::ClockOf(x, y);
     return VectorRecord{
         numeric::Finite(numeric::Hypot(x, y)), numeric::AngleOf(x, y), x, y, clock.hour, clock.angle};
@@ -84,14 +88,14 @@ VectorRecord Polar(double magnitude, double direction) {
 Result ReadPolar(const Parts& parts) {
     if (LacksPart(parts))
         return text::Refusal{kMissingPart};
-    return Polar(text::ToNumber(parts.first), text::ToNumber(parts.second));
+    return Polar(NumberOf(parts.first), text::ToNumber(parts.second));
 }
 
 // h-5
 Result ReadHorizontal(const std::string& rest) {
     if (rest.empty())
         return text::Refusal{kMissingX};
-    const double component = text::ToNumber(rest);
+    const double component = NumberOf(rest);
     const bool right = component >= 0;
     return VectorRecord{
         std::abs(component), right ? kRightward : kLeftward, component, 0, right ? kHourRight : kHourLeft, 0};
@@ -101,7 +105,7 @@ Result ReadHorizontal(const std::string& rest) {
 Result ReadVertical(const std::string& rest) {
     if (rest.empty())
         return text::Refusal{kMissingY};
-    const double component = text::ToNumber(rest);
+    const double component = NumberOf(rest);
     const bool up = component >= 0;
     return VectorRecord{std::abs(component), up ? kUpward : kDownward, 0,
                         component,           up ? kHourUp : kHourDown, 0};

@@ -1,5 +1,6 @@
 #include "text/symbols.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -19,6 +20,24 @@ constexpr std::array<std::string_view, 2> kAngleFunctions = {"cos", "sen"};
 constexpr std::size_t kAngleFunctionLength = 3;
 
 bool BeginsWithSmallF(std::string_view symbol) { return symbol.starts_with('f'); }
+
+struct LetterRange {
+    char32_t first, last;
+};
+constexpr std::array<LetterRange, 6> kLetters = {{
+    {U'A', U'Z'},
+    {U'a', U'z'},
+    {0xC0, 0xD6},    // Latin with accents, up to the sign of multiplication
+    {0xD8, 0xF6},    // and up to the sign of division
+    {0xF8, 0x24F},   // and the rest
+    {0x386, 0x3FF},  // Greek
+}};
+
+bool IsLetter(char32_t character) {
+    return std::ranges::any_of(kLetters, [&](const LetterRange& range) {
+        return character >= range.first && character <= range.last;
+    });
+}
 
 double FactorOf(std::string_view text) {
     if (text.empty())
@@ -78,6 +97,12 @@ FactoredSymbol SplitFactor(std::string_view text) {
     const std::size_t end = std::min(trimmed.find_first_not_of(kFactorCharacters), trimmed.size());
     return {FactorOf(std::string_view(trimmed).substr(0, end)),
             WithCapital(text::Trim(std::string_view(trimmed).substr(end)))};
+}
+
+bool IsSymbolName(std::string_view text) {
+    std::size_t position = 0;
+    return !text.empty() && IsLetter(text::NextCodePoint(text, position)) &&
+           text.find_first_of(" *") == std::string_view::npos;
 }
 
 std::string FactorText(double coef, std::string_view symbol, int decimals) {

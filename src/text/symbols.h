@@ -18,6 +18,10 @@ struct FactoredSymbol {
 /// "f" (a friction force). Fails with TypeMismatch when what stands in front is no number, like "--".
 FactoredSymbol SplitFactor(std::string_view text);
 
+/// Whether a text can name an unknown: it begins with a letter (of Latin or Greek) and holds neither a blank
+/// nor a "*", which would be a product. Its length is the reader's to judge.
+bool IsSymbolName(std::string_view text);
+
 /// A component as text: "0", "F", "-F" or the coefficient rounded to `decimals`, a blank and the symbol.
 /// Coefficients within 1e-8 of 0, 1 and -1 count as these.
 std::string FactorText(double coef, std::string_view symbol, int decimals);

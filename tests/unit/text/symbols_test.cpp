@@ -35,6 +35,14 @@ TEST(SplitFactor, FailsWhereTheFactorIsNoNumber) {
         EXPECT_THROW(SplitFactor(text), numeric::RuntimeFailure) << text;
 }
 
+TEST(IsSymbolName, AsksForALetterInFrontAndNoBlankOrStar) {
+    for (const char* name : {"F", "F1", "f", "Ñ1", "á", "Ë", "α", "Ω2", "z", "A-", "F(1", "Alfa"})
+        EXPECT_TRUE(IsSymbolName(name)) << name;
+    for (const char* text : {"",   "1",  "-F", "+F", "*F", "F*2", "F 1", " F", "_F", "(F)",
+                             "−5", "×2", "÷2", "²",  "°",  "[",   "@",   "`",  "{",  "\xFF"})
+        EXPECT_FALSE(IsSymbolName(text)) << text;
+}
+
 struct FactorTextRow {
     double coef;
     const char* symbol;
