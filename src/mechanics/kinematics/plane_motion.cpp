@@ -1,0 +1,64 @@
+#include "mechanics/kinematics/plane_motion.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "mechanics/kinematics/line_motion.h"
+#include "mechanics/kinematics/time_steps.h"
+#include "numeric/checked.h"
+#include "numeric/derivatives.h"
+
+namespace tavrelo::mechanics::kinematics {
+namespace {
+
+using numeric::Finite;
+
+/// A formula in t with its first two derivatives at a time.
+struct Jet {
+    double value;
+    double first;
+    double second;
+};
+Jet JetOf(const std::string& formula, double t, const double& angle_factor) {
+    MotionFormula parsed(formula, 1, angle_factor);
+    const auto at = [&](double time) { return parsed.At({time}); };
+    return {Finite(at(t)), numeric::Derivative(at, t, DerivativeStep(t)).value,
+            numeric::SecondDeriv(at, t, SecondDerivativeStep(t))};
+}
+
+PlaneState Polar(double t, const Jet& r, const Jet& theta, double k) {
+    const double w = k * theta.first;
+    const double w_rate = k * theta.second;
+    return {t,
+            {r.value, theta.value},
+            {r.first, Finite(r.value * w)},
+            {Finite(r.second - r.value * w * w), Finite(r.value * w_rate + 2 * r.first * w)}};
+}
+
+}  // namespace
+
+PlaneState PlaneAt(const PlaneMotion& motion, double t, const double& angle_factor) {
+    const Jet first = JetOf(motion.first, t, angle_factor);
+    const Jet second = JetOf(motion.second, t, angle_factor);
+    if (motion.way == Way::Polar)
+        return Polar(t, first, second, angle_factor);
+    return {t, {first.value, second.value}, {first.first, second.first}, {first.second, second.second}};
+}
+
+Trajectory SamplePlane(const PlaneMotion& motion, double t0, double t1, const double& angle_factor) {
+    RequireSpan(t0, t1);
+    MotionFormula first(motion.first, 1, angle_factor);
+    MotionFormula second(motion.second, 1, angle_factor);
+    const auto [from, to] = std::minmax(t0, t1);
+    Trajectory path;
+    for (const double t : EqualSteps(from, to, kGraphSteps)) {
+        const double u = Finite(first.At({t}));
+        const double w = Finite(second.At({t}));
+        const bool polar = motion.way == Way::Polar;
+        path.x.push_back(polar ? Finite(u * std::cos(angle_factor * w)) : u);
+        path.y.push_back(polar ? Finite(u * std::sin(angle_factor * w)) : w);
+    }
+    return path;
+}
+
+}  // namespace tavrelo::mechanics::kinematics
