@@ -3,6 +3,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "window/form1.h"
 
@@ -17,6 +18,15 @@ void WriteMarkup(window::Form1& form, std::string_view font_name, double font_si
 /// tab and the text goes to the log too, behind it "-----"; rtbSolve appends, every other box is replaced.
 void WriteLines(window::Form1& form, window::RichTextBox& target, std::span<const std::string> lines);
 void WriteLines(window::Form1& form, window::RichTextBox& target, std::initializer_list<std::string> lines);
+
+using Lines = std::vector<std::string>;
+
+/// Joins neighbouring paragraphs while one rendering takes their marks (text::kMarkLimit); a paragraph that
+/// passes the limit by itself is taken line by line.
+std::vector<Lines> Portions(std::span<const Lines> paragraphs);
+
+/// A report of any length into a box that appends: WriteLines of each portion, the view being told once.
+void WritePortions(window::Form1& form, window::RichTextBox& target, std::span<const Lines> paragraphs);
 
 /// Appends plain text (no marks) to the end of the log.
 void AppendToLog(window::Form1& form, std::string_view text);

@@ -44,8 +44,7 @@ void FormWindow::PlacePage() {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-    if (m_model.OnClose)
-        m_model.OnClose();
+    m_model.UserClose();
     event->setAccepted(!m_model.Visible());
 }
 

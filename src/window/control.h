@@ -2,6 +2,8 @@
 
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "text/color.h"
 #include "window/geometry.h"
@@ -37,6 +39,12 @@ enum class Change {
 class Control;
 using ChangeListener = std::function<void(Control&, Change)>;
 
+/// What a window does for its controls.
+struct ControlLinks {
+    ChangeListener changed;
+    std::function<void()> handler_failed;  // a failure left the handler of something that the user did
+};
+
 /// What all controls of the window have in common. The model owns every property; the view shows them and
 /// reports what the user did through the `User...` members of the control classes.
 class Control {
@@ -49,8 +57,7 @@ class Control {
     };
     static constexpr int kAllPages = -1;
 
-    Control(Identity identity, const ChangeListener& listener)
-        : m_identity(std::move(identity)), m_listener(listener) {}
+    Control(Identity identity, const ControlLinks& links) : m_identity(std::move(identity)), m_links(links) {}
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -89,7 +96,18 @@ class Control {
     static constexpr text::Color kNoColor{0xff000000};  // the toolkit's own background shows
 
   protected:
-    void Notify(Change change) { m_listener(*this, change); }
+    /// Tells the view; inside a ChangeBatch once for all changes of a kind.
+    void Notify(Change change);
+    /// Fires the events of something that the user did. No failure leaves it: what a handler's own guard let
+    /// pass ends here.
+    template <class Events>
+    void FireForUser(Events&& events) const {
+        try {
+            std::forward<Events>(events)();
+        } catch (...) {
+            m_links.handler_failed();
+        }
+    }
     template <class T>
     void Set(T& property, T value, Change change = Change::State) {
         if (property == value)
@@ -101,8 +119,12 @@ class Control {
     virtual bool ShowsPage(int /*page*/) const { return true; }
 
   private:
+    friend class ChangeBatch;
+
     Identity m_identity;
-    const ChangeListener& m_listener;
+    const ControlLinks& m_links;
+    int m_batches = 0;                // open now
+    std::vector<Change> m_held_back;  // by them, each kind once
     Rect m_bounds;
     std::string m_caption;
     std::string m_tooltip;
@@ -111,6 +133,19 @@ class Control {
     bool m_underlined = false;
     text::Color m_fore_color = text::kBlack;
     text::Color m_back_color = kNoColor;
+};
+
+/// While it lives, the view is told of a control's changes only once, at its end: a block of cells or a
+/// report of many portions is painted once.
+class ChangeBatch {
+  public:
+    explicit ChangeBatch(Control& control) : m_control(control) { ++m_control.m_batches; }
+    ~ChangeBatch();
+    ChangeBatch(const ChangeBatch&) = delete;
+    ChangeBatch& operator=(const ChangeBatch&) = delete;
+
+  private:
+    Control& m_control;
 };
 
 }  // namespace tavrelo::window

@@ -14,9 +14,17 @@ void Fire(const Event& event) {
 
 }  // namespace
 
-void Label::UserClick() { Fire(OnClick); }
+void Window::UserClose() {
+    FireForUser([this] { Fire(OnClose); });
+}
 
-void Button::UserClick() { Fire(OnClick); }
+void Label::UserClick() {
+    FireForUser([this] { Fire(OnClick); });
+}
+
+void Button::UserClick() {
+    FireForUser([this] { Fire(OnClick); });
+}
 
 void OptionButton::Choose() {
     for (OptionButton* other : group)
@@ -27,12 +35,12 @@ void OptionButton::Choose() {
 
 void OptionButton::UserClick() {
     Choose();
-    Fire(OnClick);
+    FireForUser([this] { Fire(OnClick); });
 }
 
 void CheckBox::UserClick() {
     SetChecked(!m_checked);
-    Fire(OnClick);
+    FireForUser([this] { Fire(OnClick); });
 }
 
 void TextControl::SetText(std::string text) {
@@ -70,9 +78,23 @@ void TextControl::PutCaretAtEnd() { Select({Length(), 0}); }
 
 std::size_t TextControl::Length() const { return text::CharacterCount(Text()); }
 
+bool TextControl::UserKeyDown(const KeyStroke& stroke) {
+    bool consumed = false;
+    FireForUser([&] { consumed = OnKeyDown && OnKeyDown(stroke); });
+    return consumed;
+}
+
+bool TextControl::UserKeyPress(char32_t character) {
+    bool consumed = false;
+    FireForUser([&] { consumed = OnKeyPress && OnKeyPress(character); });
+    return consumed;
+}
+
 void TextControl::UserKeyUp(const KeyStroke& stroke) {
-    if (OnKeyUp)
-        OnKeyUp(stroke);
+    FireForUser([&] {
+        if (OnKeyUp)
+            OnKeyUp(stroke);
+    });
 }
 
 void TextControl::UserEdited(std::string text, TextSelection selection) {
@@ -83,7 +105,7 @@ void TextControl::UserEdited(std::string text, TextSelection selection) {
     StoreText(std::move(text));
     m_selection = Clipped(selection);
     Notify(Change::Content);
-    Fire(OnChange);
+    FireForUser([this] { Fire(OnChange); });
 }
 
 void RichTextBox::SetContent(text::RichText content) {
@@ -94,8 +116,9 @@ void RichTextBox::SetContent(text::RichText content) {
 }
 
 void RichTextBox::AppendContent(const text::RichText& content) {
+    const ChangeBatch batch(*this);
     m_content.Append(content);
-    m_text = m_content.PlainText();
+    m_text += content.PlainText();
     Notify(Change::Content);
     PutCaretAtEnd();
 }
@@ -106,8 +129,8 @@ void RichTextBox::StoreText(std::string text) {
     m_text = std::move(text);
 }
 
-Picture::Picture(Identity identity, const ChangeListener& listener)
-    : Control(std::move(identity), listener), m_canvas(0, 0) {
+Picture::Picture(Identity identity, const ControlLinks& links)
+    : Control(std::move(identity), links), m_canvas(0, 0) {
     m_canvas.OnChange = [this] { Notify(Change::Content); };
 }
 
@@ -138,18 +161,24 @@ Point Picture::ToPixels(Point own) const {
 }
 
 void Picture::UserMouseDown(const MouseStroke& stroke) {
-    if (OnMouseDown)
-        OnMouseDown(stroke);
+    FireForUser([&] {
+        if (OnMouseDown)
+            OnMouseDown(stroke);
+    });
 }
 
 void Picture::UserMouseMove(const MouseStroke& stroke) {
-    if (OnMouseMove)
-        OnMouseMove(stroke);
+    FireForUser([&] {
+        if (OnMouseMove)
+            OnMouseMove(stroke);
+    });
 }
 
 void Picture::UserMouseUp(const MouseStroke& stroke) {
-    if (OnMouseUp)
-        OnMouseUp(stroke);
+    FireForUser([&] {
+        if (OnMouseUp)
+            OnMouseUp(stroke);
+    });
 }
 
 void ComboBox::SetItems(std::vector<std::string> items) {
@@ -160,7 +189,7 @@ void ComboBox::SetItems(std::vector<std::string> items) {
 
 void ComboBox::UserPick(int index) {
     SetIndex(index);
-    Fire(OnClick);
+    FireForUser([this] { Fire(OnClick); });
 }
 
 void ListBox::SetItems(std::vector<std::string> items) {
@@ -196,14 +225,16 @@ void ListBox::SetChosen(int row, bool chosen) {
 void ListBox::UserPick(const std::vector<int>& rows) {
     for (int row = 0; row < static_cast<int>(m_chosen.size()); ++row)
         SetChosen(row, std::ranges::find(rows, row) != rows.end());
-    Fire(OnClick);
+    FireForUser([this] { Fire(OnClick); });
 }
 
 void TabStrip::UserPick(int tab) {
     const int previous = m_current;
     SetCurrent(tab);
-    if (OnClick)
-        OnClick(previous);
+    FireForUser([&] {
+        if (OnClick)
+            OnClick(previous);
+    });
 }
 
 void UpDown::SetValue(int value) {
@@ -220,7 +251,7 @@ void UpDown::SetRange(int minimum, int maximum) {
 
 void UpDown::UserSpin(int value) {
     SetValue(value);
-    Fire(OnChange);
+    FireForUser([this] { Fire(OnChange); });
 }
 
 }  // namespace tavrelo::window

@@ -22,6 +22,7 @@ class Window : public Control {
   public:
     using Control::Control;
     /// The user closed it by its frame.
+    void UserClose();
     Event OnClose;
 };
 
@@ -131,8 +132,8 @@ class TextControl : public Control {
     bool Locked() const { return m_locked; }
     void SetLocked(bool locked) { Set(m_locked, locked); }
 
-    bool UserKeyDown(const KeyStroke& stroke) { return OnKeyDown && OnKeyDown(stroke); }
-    bool UserKeyPress(char32_t character) { return OnKeyPress && OnKeyPress(character); }
+    bool UserKeyDown(const KeyStroke& stroke);
+    bool UserKeyPress(char32_t character);
     void UserKeyUp(const KeyStroke& stroke);
     /// The box's own editing left this text and selection.
     void UserEdited(std::string text, TextSelection selection);
@@ -244,9 +245,9 @@ class Grid : public Control {
     /// A drag that began with UserPress has come to this cell.
     void UserDragTo(int row, int col);
     void UserDblClick(int row, int col);
-    bool UserKeyDown(const KeyStroke& stroke) { return OnKeyDown && OnKeyDown(stroke); }
-    bool UserKeyPress(char32_t character) { return OnKeyPress && OnKeyPress(character); }
-    bool UserKeyUp(const KeyStroke& stroke) { return OnKeyUp && OnKeyUp(stroke); }
+    bool UserKeyDown(const KeyStroke& stroke);
+    bool UserKeyPress(char32_t character);
+    bool UserKeyUp(const KeyStroke& stroke);
     /// An arrow key that no handler consumed: moves the current cell, with Shift the end of the selection.
     void UserNavigate(Key key, bool extend);
 
@@ -269,6 +270,8 @@ class Grid : public Control {
     };
     const CellData& At(int row, int col) const;
     CellData& At(int row, int col);
+    const Column& ColumnAt(int col) const;
+    Column& ColumnAt(int col);
     void MoveTo(int row, int col);
     void DragOver(const CellBlock& block);
 
@@ -305,7 +308,7 @@ enum class MouseUnits {
 /// A drawing surface with mouse events. Pictures may also hold other controls.
 class Picture : public Control {
   public:
-    Picture(Identity identity, const ChangeListener& listener);
+    Picture(Identity identity, const ControlLinks& links);
 
     Recorder& Canvas() { return m_canvas; }
     const Recorder& Canvas() const { return m_canvas; }

@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "text/refusal.h"
+
 namespace tavrelo::window {
 namespace {
 
@@ -20,40 +22,40 @@ ArrayName SplitName(std::string_view name) {
     return {name.substr(0, open), index};
 }
 
-std::unique_ptr<Control> NewControl(Control::Identity identity, const ChangeListener& listener) {
+std::unique_ptr<Control> NewControl(Control::Identity identity, const ControlLinks& links) {
     switch (identity.kind) {
         case ControlKind::Window:
-            return std::make_unique<Window>(std::move(identity), listener);
+            return std::make_unique<Window>(std::move(identity), links);
         case ControlKind::Frame:
-            return std::make_unique<Frame>(std::move(identity), listener);
+            return std::make_unique<Frame>(std::move(identity), links);
         case ControlKind::Label:
-            return std::make_unique<Label>(std::move(identity), listener);
+            return std::make_unique<Label>(std::move(identity), links);
         case ControlKind::Button:
-            return std::make_unique<Button>(std::move(identity), listener);
+            return std::make_unique<Button>(std::move(identity), links);
         case ControlKind::OptionButton:
-            return std::make_unique<OptionButton>(std::move(identity), listener);
+            return std::make_unique<OptionButton>(std::move(identity), links);
         case ControlKind::CheckBox:
-            return std::make_unique<CheckBox>(std::move(identity), listener);
+            return std::make_unique<CheckBox>(std::move(identity), links);
         case ControlKind::TextBox:
-            return std::make_unique<TextBox>(std::move(identity), listener);
+            return std::make_unique<TextBox>(std::move(identity), links);
         case ControlKind::RichTextBox:
-            return std::make_unique<RichTextBox>(std::move(identity), listener);
+            return std::make_unique<RichTextBox>(std::move(identity), links);
         case ControlKind::Grid:
-            return std::make_unique<Grid>(std::move(identity), listener);
+            return std::make_unique<Grid>(std::move(identity), links);
         case ControlKind::Picture:
-            return std::make_unique<Picture>(std::move(identity), listener);
+            return std::make_unique<Picture>(std::move(identity), links);
         case ControlKind::ComboBox:
-            return std::make_unique<ComboBox>(std::move(identity), listener);
+            return std::make_unique<ComboBox>(std::move(identity), links);
         case ControlKind::ListBox:
-            return std::make_unique<ListBox>(std::move(identity), listener);
+            return std::make_unique<ListBox>(std::move(identity), links);
         case ControlKind::TabStrip:
-            return std::make_unique<TabStrip>(std::move(identity), listener);
+            return std::make_unique<TabStrip>(std::move(identity), links);
         case ControlKind::UpDown:
-            return std::make_unique<UpDown>(std::move(identity), listener);
+            return std::make_unique<UpDown>(std::move(identity), links);
         case ControlKind::Shape:
             break;
     }
-    return std::make_unique<Shape>(std::move(identity), listener);
+    return std::make_unique<Shape>(std::move(identity), links);
 }
 
 /// A box with a caret starts with its caption as its text.
@@ -83,12 +85,13 @@ Form1::Form1(const Host& host)
 }
 
 bool Form1::MakeControls() {
-    m_forward = [this](Control& control, Change change) {
+    m_links.changed = [this](Control& control, Change change) {
         if (m_focus && !m_focus->IsUsable())
             m_focus = nullptr;
         if (OnChange)
             OnChange(control, change);
     };
+    m_links.handler_failed = [this] { boxes.Tell(text::kCommandFailed); };
     for (const ControlRow& row : ControlTable())
         MakeControl(row);
     for (const ControlTooltip& row : TooltipTable())
@@ -98,7 +101,7 @@ bool Form1::MakeControls() {
 
 void Form1::MakeControl(const ControlRow& row) {
     Control* parent = row.parent.empty() ? nullptr : MustFind(row.parent);
-    auto control = NewControl({std::string(row.name), row.kind, parent, row.page}, m_forward);
+    auto control = NewControl({std::string(row.name), row.kind, parent, row.page}, m_links);
     control->SetBounds(row.bounds);
     control->SetCaption(std::string(row.caption));
     ApplyFlags(*control, row.flags);
@@ -114,8 +117,12 @@ Control* Form1::Find(std::string_view name) {
 Control* Form1::MustFind(std::string_view name) {
     Control* control = Find(name);
     if (!control)
-        throw numeric::RuntimeFailure(numeric::FailureCode::Internal, std::string(name));
+        FailOn(name);
     return control;
+}
+
+void Form1::FailOn(std::string_view name) {
+    throw numeric::RuntimeFailure(numeric::FailureCode::Internal, std::string(name));
 }
 
 std::vector<std::pair<int, Control*>> Form1::FindArray(std::string_view name) {
@@ -163,12 +170,20 @@ void Form1::FitResultPages() {
 void Form1::SetFocus(Control& control) {
     if (!control.IsUsable() || m_focus == &control)
         return;
-    UserFocused(control);
+    MoveFocus(control);
     if (OnChange)
         OnChange(control, Change::Focus);
 }
 
 void Form1::UserFocused(Control& control) {
+    try {
+        MoveFocus(control);
+    } catch (...) {
+        m_links.handler_failed();
+    }
+}
+
+void Form1::MoveFocus(Control& control) {
     if (m_focus == &control)
         return;
     auto* left = dynamic_cast<TextControl*>(m_focus);

@@ -50,6 +50,28 @@ class Form1 {
 
     /// The control of that name ("rtbCalc", "cmdParts(0)", "Form2"), or null.
     Control* Find(std::string_view name);
+    /// The control of that name and kind, for the parts of the program that bind what they need once, when
+    /// they are made. Fails with Internal when there is none.
+    template <class ControlType>
+    ControlType& Get(std::string_view name) {
+        auto* control = dynamic_cast<ControlType*>(Find(name));
+        if (!control)
+            FailOn(name);
+        return *control;
+    }
+    /// All controls "name(0)", "name(1)", ..., in the order of the table; fails as Get.
+    template <class ControlType>
+    ControlArray<ControlType> GetArray(std::string_view name) {
+        std::vector<std::pair<int, ControlType*>> items;
+        for (const auto& [index, control] : FindArray(name)) {
+            items.emplace_back(index, dynamic_cast<ControlType*>(control));
+            if (!items.back().second)
+                FailOn(name);
+        }
+        if (items.empty())
+            FailOn(name);
+        return ControlArray<ControlType>(std::move(items));
+    }
     /// All controls in reading order.
     std::span<Control* const> Controls() const { return m_order; }
 
@@ -60,7 +82,7 @@ class Form1 {
     Control* Focus() const { return m_focus; }
     /// The program moves the focus; nothing happens when the control cannot be used now.
     void SetFocus(Control& control);
-    /// The user moved the focus.
+    /// The user moved the focus; as every `User...`, no failure of a handler leaves it.
     void UserFocused(Control& control);
 
     /// Shape of the window's pointer, see PointerShape.
@@ -89,26 +111,16 @@ class Form1 {
   private:
     void MakeControl(const ControlRow& row);
     Control* MustFind(std::string_view name);
-
-    template <class ControlType>
-    ControlType& Get(std::string_view name) {
-        return dynamic_cast<ControlType&>(*MustFind(name));
-    }
-    template <class ControlType>
-    ControlArray<ControlType> GetArray(std::string_view name) {
-        std::vector<std::pair<int, ControlType*>> items;
-        for (const auto& [index, control] : FindArray(name))
-            items.emplace_back(index, &dynamic_cast<ControlType&>(*control));
-        return ControlArray<ControlType>(std::move(items));
-    }
+    [[noreturn]] static void FailOn(std::string_view name);
     std::vector<std::pair<int, Control*>> FindArray(std::string_view name);
     /// Makes all controls; runs before the members below are bound to them.
     bool MakeControls();
+    void MoveFocus(Control& control);
     void LinkControls();
     /// The boxes on the pages of tabCalc fill them.
     void FitResultPages();
 
-    ChangeListener m_forward;
+    ControlLinks m_links;
     std::map<std::string, std::unique_ptr<Control>, std::less<>> m_controls;
     std::vector<Control*> m_order;
     Control* m_focus = nullptr;

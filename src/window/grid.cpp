@@ -98,15 +98,21 @@ void Grid::SetCellBackColor(int row, int col, text::Color color) {
     Set(At(row, col).back_color, color, Change::Content);
 }
 
-int Grid::ColWidth(int col) const { return m_columns.at(static_cast<std::size_t>(col)).width; }
-
-void Grid::SetColWidth(int col, int twips) { Set(m_columns.at(static_cast<std::size_t>(col)).width, twips); }
-
-Alignment Grid::ColAlignment(int col) const { return m_columns.at(static_cast<std::size_t>(col)).alignment; }
-
-void Grid::SetColAlignment(int col, Alignment alignment) {
-    Set(m_columns.at(static_cast<std::size_t>(col)).alignment, alignment);
+const Grid::Column& Grid::ColumnAt(int col) const {
+    if (col < 0 || col >= Cols())
+        throw numeric::RuntimeFailure(numeric::FailureCode::SubscriptRange, Name());
+    return m_columns[static_cast<std::size_t>(col)];
 }
+
+Grid::Column& Grid::ColumnAt(int col) { return const_cast<Column&>(std::as_const(*this).ColumnAt(col)); }
+
+int Grid::ColWidth(int col) const { return ColumnAt(col).width; }
+
+void Grid::SetColWidth(int col, int twips) { Set(ColumnAt(col).width, twips); }
+
+Alignment Grid::ColAlignment(int col) const { return ColumnAt(col).alignment; }
+
+void Grid::SetColAlignment(int col, Alignment alignment) { Set(ColumnAt(col).alignment, alignment); }
 
 void Grid::SetCurrent(int row, int col) {
     Select({row, col, row, col});
@@ -124,16 +130,38 @@ void Grid::Select(const CellBlock& block) {
 
 void Grid::MoveTo(int row, int col) {
     SetCurrent(row, col);
-    Fire(OnEnterCell);
-    Fire(OnSelChange);
+    FireForUser([this] {
+        Fire(OnEnterCell);
+        Fire(OnSelChange);
+    });
+}
+
+bool Grid::UserKeyDown(const KeyStroke& stroke) {
+    bool consumed = false;
+    FireForUser([&] { consumed = OnKeyDown && OnKeyDown(stroke); });
+    return consumed;
+}
+
+bool Grid::UserKeyPress(char32_t character) {
+    bool consumed = false;
+    FireForUser([&] { consumed = OnKeyPress && OnKeyPress(character); });
+    return consumed;
+}
+
+bool Grid::UserKeyUp(const KeyStroke& stroke) {
+    bool consumed = false;
+    FireForUser([&] { consumed = OnKeyUp && OnKeyUp(stroke); });
+    return consumed;
 }
 
 void Grid::UserPress(int row, int col) {
     if (!HasCell(row, col) || row < m_fixed_rows || col < m_fixed_cols)
         return;
     MoveTo(row, col);
-    if (OnMouseDown)
-        OnMouseDown(row, col);
+    FireForUser([&] {
+        if (OnMouseDown)
+            OnMouseDown(row, col);
+    });
 }
 
 void Grid::UserDrag(const CellBlock& block) {
@@ -155,12 +183,12 @@ void Grid::DragOver(const CellBlock& block) {
     if (block == DraggedBlock())
         return;
     Select(block);
-    Fire(OnSelChange);
+    FireForUser([this] { Fire(OnSelChange); });
 }
 
 void Grid::UserDblClick(int row, int col) {
     UserPress(row, col);
-    Fire(OnDblClick);
+    FireForUser([this] { Fire(OnDblClick); });
 }
 
 void Grid::UserNavigate(Key key, bool extend) {
@@ -172,7 +200,7 @@ void Grid::UserNavigate(Key key, bool extend) {
         block.last_row = std::clamp(block.last_row + step.row, m_fixed_rows, Rows() - 1);
         block.last_col = std::clamp(block.last_col + step.col, m_fixed_cols, Cols() - 1);
         Select(block);
-        Fire(OnSelChange);
+        FireForUser([this] { Fire(OnSelChange); });
         return;
     }
     MoveTo(std::clamp(m_row + step.row, m_fixed_rows, Rows() - 1),

@@ -27,9 +27,9 @@ class TextEditingTest : public testing::Test {
         EXPECT_EQ(m_box.Selection().length, selection.length);
     }
 
-    window::ChangeListener m_listener = [](window::Control&, window::Change) {};
+    window::ControlLinks m_links{[](window::Control&, window::Change) {}, [] {}};
     window::TextBox m_box{{"txtBox", window::ControlKind::TextBox, nullptr, window::Control::kAllPages},
-                          m_listener};
+                          m_links};
     RecordedClipboard m_clipboard;
     TextEditing m_editing{m_clipboard};
 };
