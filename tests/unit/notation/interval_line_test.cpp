@@ -57,8 +57,7 @@ TEST(IntervalLine, RefusesANumberOfDataAndFailsOnTexts) {
     EXPECT_EQ(FailureOf([] { (void)ReadIntervalLine("a = uno, vi = 2, vf = 3"); }),
               FailureCode::TypeMismatch);
     EXPECT_EQ(FailureOf([] { (void)ReadIntervalLine("a =, vi = 2, vf = 3"); }), FailureCode::TypeMismatch);
-    EXPECT_EQ(FailureOf([] { (void)ReadIntervalLine("a = 1E999, vi = 2, vf = 3"); }),
-              FailureCode::TypeMismatch);
+    EXPECT_EQ(FailureOf([] { (void)ReadIntervalLine("a = 1E999, vi = 2, vf = 3"); }), FailureCode::Overflow);
 }
 
 }  // namespace
