@@ -2,7 +2,6 @@
 
 #include "tools/calculator/argument_prompt.h"
 #include "tools/calculator/catalogue.h"
-#include "tools/kinematics/kinem_panel.h"
 #include "tools/motion/motion_help.h"
 #include "tools/motion/motion_panels.h"
 #include "window/guard.h"
@@ -37,7 +36,8 @@ Program::Tools::Tools(window::Form1& window)
       calculator(window, expression, grid),
       clock(window),
       particle(window, clock),
-      rigid_body(window) {
+      rigid_body(window),
+      kinematics(window) {
     WireMenu();
     WireHelp();
     WireTools();
@@ -65,7 +65,7 @@ void Program::Tools::WireMenu() {
         const tools::calculator::Routine* routine = tools::calculator::FindRoutine(number);
         return routine ? std::string(routine->title) : std::string();
     };
-    menu.OnWay = [this](int way) { tools::kinematics::ShowWay(form, way); };
+    menu.OnWay = [this](int way) { kinematics.ShowWay(way); };
 }
 
 void Program::Tools::WireHelp() {
@@ -120,8 +120,7 @@ void Program::Tools::WireTools() {
                                  tools::motion::FillMruaCbo(form, help_tool);
                                  form.SetFocus(form.cmdTable[0]);
                              }});
-    tool_switch.SetHooks(Tool::Kinematics,
-                         {.on_entry = [this] { form.SetFocus(form.txtKinem[0]); }, .uses_pic1 = true});
+    tool_switch.SetHooks(Tool::Kinematics, kinematics.Hooks());
 }
 
 /// Enter in the vector box: a force in the particle tool, an argument of the table in the calculator.

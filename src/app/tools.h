@@ -11,6 +11,7 @@
 #include "frame/tool_switch.h"
 #include "tools/calculator/argument_grid.h"
 #include "tools/calculator/calculator.h"
+#include "tools/kinematics/kinematics_tool.h"
 #include "tools/particle/particle_tool.h"
 #include "tools/rigid/rigid_tool.h"
 
@@ -33,6 +34,7 @@ struct Program::Tools {
     frame::DirectionClock clock;
     tools::particle::Parts particle;
     tools::rigid::RigidBody rigid_body;
+    tools::kinematics::KinematicsTool kinematics;
 
   private:
     void Load();
