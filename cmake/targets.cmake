@@ -16,11 +16,22 @@ if(TAVRELO_SANITIZE)
     target_link_options(tavrelo_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# tavrelo_library(numeric SOURCES a.cpp b.cpp LINKS text): the static library of one folder of src/.
-# It links only the folders named, so an include that points up does not link.
+# tavrelo_library(numeric SOURCES a.cpp b.cpp LINKS text): the static library of one folder of src/. It links only the
+# folders named, so what an include that points up declares does not link; src/arrows.txt tells which may point where.
 function(tavrelo_library folder)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     list(TRANSFORM ARG_LINKS PREPEND tavrelo_)
     add_library(tavrelo_${folder} STATIC ${ARG_SOURCES})
     target_link_libraries(tavrelo_${folder} PUBLIC tavrelo_options ${ARG_LINKS})
+endfunction()
+
+# tavrelo_are_built(result expr text): whether this build has the libraries of all these folders. Only a build of some
+# rooms alone may lack one; its tests, harnesses and benchmarks are then left out.
+function(tavrelo_are_built result)
+    set(${result} TRUE PARENT_SCOPE)
+    foreach(folder ${ARGN})
+        if(NOT TAVRELO_ROOMS STREQUAL "all" AND NOT TARGET tavrelo_${folder})
+            set(${result} FALSE PARENT_SCOPE)
+        endif()
+    endforeach()
 endfunction()
