@@ -36,6 +36,10 @@ class Binding : public QObject {
     /// Shows everything, also after a change of the zoom.
     void RefreshAll();
 
+    /// Whether any change of the content renews the widget as a whole. Of such a one all changes of a handler
+    /// are shown together, behind it.
+    virtual bool IsRenewedWhole() const { return false; }
+
   protected:
     /// Place, visibility, enabling, tooltip, colours.
     virtual void ShowState();

@@ -74,6 +74,8 @@ void FitToWindow(QWidget& box) {
 void KeepLines(QMessageBox& box) {
     constexpr double kWidestShare = 0.8;
     auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label)  // a part of the toolkit's own, which may change its name
+        return;
     const int width = label->fontMetrics().size(0, label->text()).width();
     label->setMinimumWidth(std::min(width, qRound(box.screen()->availableSize().width() * kWidestShare)));
 }
@@ -96,7 +98,8 @@ std::optional<std::string> WindowBoxes::AskText(std::string_view prompt, std::st
     FitToWindow(box);
     box.setWindowTitle(ToQString(title));
     box.setLabelText(ToQString(prompt));
-    box.findChild<QLabel*>()->setTextFormat(Qt::PlainText);
+    if (auto* label = box.findChild<QLabel*>())
+        label->setTextFormat(Qt::PlainText);
     box.setOkButtonText(QStringLiteral("Aceptar"));
     box.setCancelButtonText(QStringLiteral("Cancelar"));
     box.resize(box.sizeHint().expandedTo({kInputCharacters * box.fontMetrics().averageCharWidth(), 0}));

@@ -9,6 +9,8 @@ class GridBinding : public Binding {
     GridBinding(window::Grid& grid, GridView& view, ViewContext& context)
         : Binding(grid, view, context), m_view(view) {}
 
+    bool IsRenewedWhole() const override { return true; }
+
   protected:
     void ShowState() override {
         Binding::ShowState();

@@ -1,6 +1,5 @@
-#include <QApplication>
-
 #include "app/program.h"
+#include "qt/application.h"
 #include "qt/boxes.h"
 #include "qt/clipboard.h"
 #include "qt/files.h"
@@ -26,7 +25,7 @@ struct Desktop {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
+    qt::Application application(argc, argv);
     qt::SetUpApplication(application);
     Desktop desktop;
     app::Program program({desktop.boxes, desktop.clipboard, desktop.printer, desktop.files});

@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <functional>
+#include <utility>
 
 #include "qt/fonts.h"
 #include "qt/zoom.h"
@@ -15,6 +16,9 @@ namespace tavrelo::qt {
 namespace {
 
 constexpr int kWheelStep = 120;
+
+/// Comes back to the window when the handler under way has ended.
+constexpr auto kShowLate = QEvent::User;
 
 /// Panels that lie over others though they come before them in the table.
 constexpr std::string_view kRaised[] = {"picArgs", "fraHelp"};
@@ -129,6 +133,7 @@ void MainWindow::ShowWindows() {
 }
 
 QWidget& MainWindow::WidgetOf(window::Control& control) {
+    ShowLateChanges();
     if (&control == &m_context.form.ThisWindow)
         return m_main;
     if (&control == &m_context.form.Form2)
@@ -157,11 +162,36 @@ void MainWindow::OnChange(window::Control& control, window::Change change) {
     if (control.Kind() == window::ControlKind::Window)
         ShowWindows();
     else if (change == window::Change::Focus || m_bindings.contains(&control))
-        BindingOf(control).Refresh(change);
+        ShowChange(BindingOf(control), change);
     if (control.Kind() == window::ControlKind::TabStrip && change == window::Change::Selection)
         RefreshPages(control);
     if (may_show)
         MakeWidgets();
+}
+
+void MainWindow::ShowChange(Binding& binding, window::Change change) {
+    const bool is_inside = change == window::Change::Content || change == window::Change::Selection;
+    if (!is_inside || !binding.IsRenewedWhole())
+        return binding.Refresh(change);
+    if (m_late.empty())
+        QCoreApplication::postEvent(this, new QEvent(kShowLate));
+    const auto waiting = std::ranges::find(m_late, &binding, &LateChange::binding);
+    if (waiting == m_late.end())
+        m_late.push_back({&binding, change});
+    else if (change == window::Change::Content)
+        waiting->change = change;
+}
+
+void MainWindow::ShowLateChanges() {
+    for (const LateChange& late : std::exchange(m_late, {}))
+        late.binding->Refresh(late.change);
+}
+
+bool MainWindow::event(QEvent* event) {
+    if (event->type() != kShowLate)
+        return QObject::event(event);
+    ShowLateChanges();
+    return true;
 }
 
 void MainWindow::RefreshPages(const window::Control& strip) {

@@ -36,6 +36,7 @@ class MainWindow : public QObject {
   protected:
     /// Ctrl with the wheel zooms, whatever is below the pointer.
     bool eventFilter(QObject* watched, QEvent* event) override;
+    bool event(QEvent* event) override;
 
   private:
     void MakeShortcuts();
@@ -49,6 +50,9 @@ class MainWindow : public QObject {
     void Stack(const window::Control& control, QWidget& widget);
     void OrderTabs();
     void OnChange(window::Control& control, window::Change change);
+    /// Shows a change at once, or behind the handler when it would renew a whole table or text.
+    void ShowChange(Binding& binding, window::Change change);
+    void ShowLateChanges();
     void ShowWindows();
     /// When the control in use becomes unusable, no other widget inherits the focus.
     void DropLostFocus();
@@ -64,6 +68,11 @@ class MainWindow : public QObject {
     std::vector<window::Control*> m_unmade;  // controls that were not in view yet
     std::unordered_map<const window::Control*, std::unique_ptr<Binding>> m_bindings;
     std::unordered_map<const QWidget*, Binding*> m_by_widget;
+    struct LateChange {
+        Binding* binding;
+        window::Change change;  // a content is shown with its selection
+    };
+    std::vector<LateChange> m_late;
     int m_wheel_turn = 0;  // eighths of a degree that make no whole step yet
 };
 

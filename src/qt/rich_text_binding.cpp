@@ -12,6 +12,8 @@ class RichTextBinding : public Binding {
         connect(&view, &QTextEdit::cursorPositionChanged, this, [this] { ReportSelection(); });
     }
 
+    bool IsRenewedWhole() const override { return true; }
+
   protected:
     void ShowContent() override {
         m_view.ShowText(m_box.Content(), Zoom());

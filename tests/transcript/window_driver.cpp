@@ -1,9 +1,9 @@
 #include "window_driver.h"
 
-#include <QApplication>
 #include <QStandardPaths>
 #include <cstdio>
 
+#include "qt/application.h"
 #include "qt/look.h"
 #include "real_window.h"
 
@@ -27,7 +27,7 @@ struct WindowSystem::Toolkit {
         if (!qEnvironmentVariableIsSet(kPlatformVariable))
             qputenv(kPlatformVariable, "offscreen");
         QStandardPaths::setTestModeEnabled(true);
-        application = std::make_unique<QApplication>(argument_count, arguments);
+        application = std::make_unique<qt::Application>(argument_count, arguments);
         QApplication::setQuitOnLastWindowClosed(false);
         qt::SetUpApplication(*application);
     }
@@ -35,7 +35,7 @@ struct WindowSystem::Toolkit {
     int argument_count = 1;
     char name[11] = "transcript";
     char* arguments[2] = {name, nullptr};
-    std::unique_ptr<QApplication> application;
+    std::unique_ptr<qt::Application> application;
 };
 
 WindowSystem::WindowSystem() : m_toolkit(std::make_unique<Toolkit>()) {}

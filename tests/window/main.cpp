@@ -1,7 +1,7 @@
-#include <QApplication>
 #include <QStandardPaths>
 #include <QTest>
 
+#include "qt/application.h"
 #include "qt/look.h"
 #include "tests.h"
 
@@ -19,12 +19,13 @@ int Run(int argc, char* argv[]) {
 
 int main(int argc, char* argv[]) {
     QStandardPaths::setTestModeEnabled(true);
-    QApplication application(argc, argv);
+    tavrelo::qt::Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     tavrelo::qt::SetUpApplication(application);
     int failed = 0;
-    for (const auto run : {Run<ZoomTest>, Run<FocusTest>, Run<TypingTest>, Run<RichTextTest>, Run<BoxesTest>,
-                           Run<PictureTest>, Run<PrintingTest>, Run<ClosingTest>, Run<LayoutTest>})
+    for (const auto run :
+         {Run<ZoomTest>, Run<FocusTest>, Run<TypingTest>, Run<RichTextTest>, Run<BoxesTest>, Run<ChangesTest>,
+          Run<PictureTest>, Run<PrintingTest>, Run<ClosingTest>, Run<LayoutTest>})
         failed += run(argc, argv);
     return failed == 0 ? 0 : 1;
 }

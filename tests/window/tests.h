@@ -66,6 +66,14 @@ class BoxesTest : public QObject {
     void InputBoxAnswers();
 };
 
+class ChangesTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void ABlockOfCellsIsShownOnce();
+    void LinesOfOneHandlerAreShownOnce();
+    void AFailureOfAHandlerEndsInABoxAndTheProgramGoesOn();
+};
+
 class PictureTest : public QObject {
     Q_OBJECT
   private slots:
