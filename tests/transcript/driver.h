@@ -112,17 +112,21 @@ class Driver {
     virtual window::CellBlock Selection(const window::Grid& grid) = 0;
     virtual std::vector<ListRow> Rows(const window::ComboBox& combo) = 0;
     virtual std::vector<ListRow> Rows(const window::ListBox& list) = 0;
+    /// The captions of the tabs, the one in front chosen.
+    virtual std::vector<ListRow> Rows(const window::TabStrip& tabs) = 0;
     virtual bool IsChecked(const window::OptionButton& option) = 0;
     virtual bool IsChecked(const window::CheckBox& check) = 0;
     virtual int FrontTab(const window::TabStrip& tabs) = 0;
     virtual int Value(const window::UpDown& control) = 0;
+    // A driver of a real window fails with ScriptError when what it paints is not what was drawn.
+
     /// The drawing as it stands, pixels at 100 %.
     virtual std::vector<window::DrawOp> Drawing(const window::Picture& picture) = 0;
     virtual std::vector<std::string> DrawnTexts(const window::Picture& picture) = 0;
 
     /// The control with the focus, or null.
     virtual const window::Control* Focus() = 0;
-    /// The number of the pointer shape in force; see shell::PointerShape.
+    /// The number of the pointer shape in force; see window::PointerShape.
     virtual int Pointer() = 0;
     virtual ClipboardContent OnClipboard() = 0;
 

@@ -16,22 +16,6 @@ bool IsVisibleWithPanels(const window::Control& control) {
     return control.Visible() && (!control.Parent() || IsVisibleWithPanels(*control.Parent()));
 }
 
-/// The background of a control that the program gave none.
-text::Color OwnBackColor(const window::Control& control) {
-    switch (control.Kind()) {
-        case ControlKind::Picture:
-            return dynamic_cast<const window::Picture&>(control).Canvas().BackColor;
-        case ControlKind::TextBox:
-        case ControlKind::RichTextBox:
-        case ControlKind::Grid:
-        case ControlKind::ComboBox:
-        case ControlKind::ListBox:
-            return text::kWhite;
-        default:
-            return kWindowColor;
-    }
-}
-
 /// The character that a key sends behind its key-down; 0 for none.
 char32_t PressedCharacter(const KeyStroke& stroke) {
     if (stroke.ctrl || stroke.alt)
@@ -98,6 +82,7 @@ class ModelDriver : public Driver {
     window::CellBlock Selection(const window::Grid& grid) override { return grid.Selection(); }
     std::vector<ListRow> Rows(const window::ComboBox& combo) override;
     std::vector<ListRow> Rows(const window::ListBox& list) override;
+    std::vector<ListRow> Rows(const window::TabStrip& tabs) override;
     bool IsChecked(const window::OptionButton& option) override { return option.Checked(); }
     bool IsChecked(const window::CheckBox& check) override { return check.Checked(); }
     int FrontTab(const window::TabStrip& tabs) override { return tabs.Current(); }
@@ -207,6 +192,13 @@ std::vector<ListRow> ModelDriver::Rows(const window::ListBox& list) {
     return rows;
 }
 
+std::vector<ListRow> ModelDriver::Rows(const window::TabStrip& tabs) {
+    std::vector<ListRow> rows;
+    for (const std::string& caption : tabs.Tabs())
+        rows.push_back({caption, static_cast<int>(rows.size()) == tabs.Current()});
+    return rows;
+}
+
 std::vector<window::DrawOp> ModelDriver::Drawing(const window::Picture& picture) {
     return picture.Canvas().Operations();
 }
@@ -232,6 +224,21 @@ ClipboardContent ModelDriver::OnClipboard() {
 }
 
 }  // namespace
+
+text::Color OwnBackColor(const window::Control& control) {
+    switch (control.Kind()) {
+        case ControlKind::Picture:
+            return dynamic_cast<const window::Picture&>(control).Canvas().BackColor;
+        case ControlKind::TextBox:
+        case ControlKind::RichTextBox:
+        case ControlKind::Grid:
+        case ControlKind::ComboBox:
+        case ControlKind::ListBox:
+            return text::kWhite;
+        default:
+            return kWindowColor;
+    }
+}
 
 Appearance LookOf(const window::Control& control) {
     return {IsVisibleWithPanels(control),

@@ -45,6 +45,7 @@ class RealWindow : public Driver {
     window::CellBlock Selection(const window::Grid& grid) override;
     std::vector<ListRow> Rows(const window::ComboBox& combo) override;
     std::vector<ListRow> Rows(const window::ListBox& list) override;
+    std::vector<ListRow> Rows(const window::TabStrip& tabs) override;
     bool IsChecked(const window::OptionButton& option) override;
     bool IsChecked(const window::CheckBox& check) override;
     int FrontTab(const window::TabStrip& tabs) override;
@@ -67,6 +68,10 @@ class RealWindow : public Driver {
     QWidget& Activate(const window::Control& control);
     QPointF PlaceOn(const window::Picture& picture, window::Point own) const;
     bool IsVisible(const window::Control& control);
+    /// The place of a widget in its panel, pixels at 100 %.
+    window::Rect BoundsOf(QWidget& widget);
+    /// Fails with ScriptError when the painted picture lacks what was drawn on it.
+    void ExpectInk(const window::Picture& picture);
     /// Presses the mouse button on a heading: it only gives the focus.
     void PressHeading(qt::GridView& view, const window::Grid& grid, CellPlace cell);
 

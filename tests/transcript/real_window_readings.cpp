@@ -9,13 +9,16 @@
 #include <QSpinBox>
 #include <QTabBar>
 #include <algorithm>
+#include <map>
 
+#include "ink.h"
 #include "model_driver.h"
 #include "qt/pointers.h"
 #include "qt/rich_document.h"
 #include "qt/rich_text_view.h"
 #include "qt/text.h"
 #include "real_window.h"
+#include "script.h"
 
 // What is seen of a real window.
 
@@ -35,9 +38,83 @@ bool RealWindow::IsVisible(const window::Control& control) {
     return is_visible && IsVisible(*control.Parent());
 }
 
+namespace {
+
+/// The role of the palette that the back of a control's widget has.
+QPalette::ColorRole BackRoleOf(window::ControlKind kind) {
+    using window::ControlKind;
+    switch (kind) {
+        case ControlKind::Button:
+            return QPalette::Button;
+        case ControlKind::TextBox:
+        case ControlKind::RichTextBox:
+        case ControlKind::Grid:
+        case ControlKind::ComboBox:
+        case ControlKind::ListBox:
+            return QPalette::Base;
+        default:
+            return QPalette::Window;
+    }
+}
+
+text::Color ToColor(QRgb color) {
+    constexpr QRgb kWithoutAlpha = 0xffffff;
+    return {color & kWithoutAlpha};
+}
+
+/// A widget as it is painted, without its children.
+QImage PaintedAlone(QWidget& widget) {
+    QImage image(widget.size(), QImage::Format_RGB32);
+    image.fill(widget.palette().color(QPalette::Window));
+    widget.render(&image, {}, {}, QWidget::DrawWindowBackground);
+    return image;
+}
+
+/// The colour of most pixels.
+QRgb MainColor(const QImage& image) {
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y)];
+    const auto most = std::ranges::max_element(counts, {}, [](const auto& count) { return count.second; });
+    return most == counts.end() ? 0 : most->first;
+}
+
+/// The colour behind a control; where it is that of the look, the one that the program calls it by.
+text::Color BackColorOf(const window::Control& control, QWidget& widget) {
+    const auto role = BackRoleOf(control.Kind());
+    const bool is_painted =
+        control.Kind() == window::ControlKind::Shape || control.Kind() == window::ControlKind::Picture;
+    const QRgb color =
+        is_painted ? MainColor(PaintedAlone(widget)) : widget.palette().color(QPalette::Active, role).rgb();
+    return color == QApplication::palette().color(QPalette::Active, role).rgb() ? OwnBackColor(control)
+                                                                                : ToColor(color);
+}
+
+text::Color ForeColorOf(QWidget& widget) {
+    if (const auto* bar = widget.findChild<QTabBar*>({}, Qt::FindDirectChildrenOnly))
+        return ToColor(bar->tabTextColor(0).rgb());
+    return ToColor(widget.palette().color(QPalette::Active, QPalette::WindowText).rgb());
+}
+
+}  // namespace
+
+window::Rect RealWindow::BoundsOf(QWidget& widget) {
+    const auto unscaled = [zoom = m_window.Zoom()](int pixels) { return qRound(pixels / zoom); };
+    // A window's place on the desktop is not the program's; its page is as large as the program says.
+    const QRect place = widget.isWindow() ? QRect(QPoint(), widget.childrenRect().size()) : widget.geometry();
+    const int left = unscaled(place.left());
+    const int top = unscaled(place.top());
+    return {left, top, unscaled(place.left() + place.width()) - left,
+            unscaled(place.top() + place.height()) - top};
+}
+
 Appearance RealWindow::Look(const window::Control& control) {
     Appearance look = LookOf(control);
-    const QWidget& widget = Find(control);
+    QWidget& widget = Find(control);
+    look.bounds = BoundsOf(widget);
+    look.fore_color = ForeColorOf(widget);
+    look.back_color = BackColorOf(control, widget);
     look.visible = IsVisible(control);
     look.enabled = widget.isEnabledTo(widget.parentWidget());
     look.underlined = widget.font().underline();
@@ -113,6 +190,14 @@ std::vector<ListRow> RealWindow::Rows(const window::ComboBox& combo) {
     return rows;
 }
 
+std::vector<ListRow> RealWindow::Rows(const window::TabStrip& tabs) {
+    const auto& bar = *Find(tabs).findChild<QTabBar*>();
+    std::vector<ListRow> rows;
+    for (int tab = 0; tab < bar.count(); ++tab)
+        rows.push_back({ToUtf8(qt::FromCaption(bar.tabText(tab))), tab == bar.currentIndex()});
+    return rows;
+}
+
 std::vector<ListRow> RealWindow::Rows(const window::ListBox& list) {
     const auto& widget = FindAs<QListWidget>(list);
     std::vector<ListRow> rows;
@@ -139,11 +224,20 @@ int RealWindow::Value(const window::UpDown& control) {
     return FindAs<QLineEdit>(*control.buddy).text().toInt();
 }
 
+void RealWindow::ExpectInk(const window::Picture& picture) {
+    const QImage painted = PaintedAlone(Find(picture));
+    const std::string missing = MissingInk(painted, m_window.Zoom(), picture.Canvas());
+    if (!missing.empty())
+        throw ScriptError("the window does not show on " + picture.Name() + ": " + missing);
+}
+
 std::vector<window::DrawOp> RealWindow::Drawing(const window::Picture& picture) {
+    ExpectInk(picture);
     return picture.Canvas().Operations();
 }
 
 std::vector<std::string> RealWindow::DrawnTexts(const window::Picture& picture) {
+    ExpectInk(picture);
     return picture.Canvas().VisibleTexts();
 }
 

@@ -98,14 +98,6 @@ Lines PropertyOf(Session& session, const window::Control& control, std::string_v
     return TextLines(found->value(session, control));
 }
 
-/// The captions of the tabs, the one in front chosen.
-Lines TabLines(Session& session, const window::TabStrip& tabs) {
-    std::vector<ListRow> rows;
-    for (const std::string& caption : tabs.Tabs())
-        rows.push_back({caption, static_cast<int>(rows.size()) == session.driver.FrontTab(tabs)});
-    return ListLines(rows);
-}
-
 /// The text of a control.
 Lines TextOf(Session& session, const window::Control& control) {
     Driver& driver = session.driver;
@@ -122,7 +114,7 @@ Lines TextOf(Session& session, const window::Control& control) {
     if (const auto* picture = If<window::Picture>(control))
         return driver.DrawnTexts(*picture);
     if (const auto* tabs = If<window::TabStrip>(control))
-        return TabLines(session, *tabs);
+        return ListLines(driver.Rows(*tabs));
     if (const auto* up_down = If<window::UpDown>(control))
         return {std::to_string(driver.Value(*up_down))};
     return TextLines(driver.Look(control).caption);
