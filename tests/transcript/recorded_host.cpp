@@ -52,6 +52,8 @@ window::Answer BoxLog::Message(std::string_view text, std::string_view title, wi
     Show(heading, text);
     if (buttons == window::Buttons::Ok)
         return window::Answer::Ok;
+    if (m_answers.empty() && m_improviser.choice)
+        return m_improviser.choice(buttons);
     const auto queued = NextAnswer(heading);
     if (!queued)
         return Refusal(buttons);
@@ -65,6 +67,8 @@ window::Answer BoxLog::Message(std::string_view text, std::string_view title, wi
 std::optional<std::string> BoxLog::Input(std::string_view prompt, std::string_view title) {
     const std::string heading = "input " + Quoted(title);
     Show(heading, prompt);
+    if (m_answers.empty() && m_improviser.text)
+        return m_improviser.text();
     const auto queued = NextAnswer(heading);
     if (!queued)
         return std::nullopt;

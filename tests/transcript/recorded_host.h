@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -20,6 +21,12 @@ class BoxLog {
   public:
     void Queue(window::Answer answer) { m_answers.emplace_back(answer); }
     void QueueText(std::string text) { m_answers.emplace_back(std::move(text)); }
+    /// Who answers a box for which nothing is queued: a choice, or a text (nothing: cancelled).
+    struct Improviser {
+        std::function<window::Answer(window::Buttons)> choice;
+        std::function<std::optional<std::string>()> text;
+    };
+    void Improvise(Improviser improviser) { m_improviser = std::move(improviser); }
 
     /// Records a message box and takes its answer. A box with OK alone needs none. With no fitting answer
     /// queued the run has failed (see Failure) and the box is cancelled.
@@ -37,6 +44,8 @@ class BoxLog {
     void Show(const std::string& heading, std::string_view text);
     std::optional<QueuedAnswer> NextAnswer(const std::string& heading);
     void Fail(std::string reason);
+
+    Improviser m_improviser;
 
     std::deque<QueuedAnswer> m_answers;
     std::vector<std::string> m_lines;

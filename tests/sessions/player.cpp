@@ -1,0 +1,142 @@
+#include "player.h"
+
+#include <exception>
+
+#include "acts.h"
+#include "checks.h"
+#include "commands.h"
+#include "words.h"
+
+namespace tavrelo::sessions {
+namespace {
+
+using transcript::Driver;
+using transcript::Session;
+using window::Answer;
+using window::Buttons;
+
+std::string NameOf(Answer answer) {
+    switch (answer) {
+        case Answer::Yes:
+            return "Yes";
+        case Answer::No:
+            return "No";
+        case Answer::Ok:
+            return "OK";
+        case Answer::Cancel:
+            break;
+    }
+    return "Cancel";
+}
+
+/// One program in the hands of the player.
+struct Seat {
+    explicit Seat(std::unique_ptr<Driver> made) : driver(std::move(made)), session(*driver) {}
+
+    std::vector<std::string> Do(const std::string& act) {
+        transcript::Perform(session, act);
+        return session.TakeLines();
+    }
+
+    std::unique_ptr<Driver> driver;
+    Session session;
+};
+
+class Game {
+  public:
+    explicit Game(const Plan& plan) : m_plan(plan), m_chance(plan.seed), m_seat(plan.make_driver()) {
+        m_seat.driver->World().box_log.Improvise(
+            {[this](Buttons buttons) { return Choose(buttons); }, [this] { return WriteText(); }});
+        if (plan.make_peer)
+            m_peer.emplace(plan.make_peer());
+    }
+
+    std::optional<Fault> Play() {
+        for (int k = 0; k < m_plan.acts; ++k)
+            if (const auto reason = Step())
+                return Fault{*reason, m_lines};
+        return std::nullopt;
+    }
+
+  private:
+    Answer Choose(Buttons buttons) {
+        const bool first = m_chance.OneIn(2);
+        const Answer answer = buttons == Buttons::YesNo ? (first ? Answer::Yes : Answer::No)
+                                                        : (first ? Answer::Ok : Answer::Cancel);
+        m_answers.push_back("answer " + NameOf(answer));
+        return answer;
+    }
+    std::optional<std::string> WriteText() {
+        if (m_chance.OneIn(8)) {
+            m_answers.emplace_back("answer Cancel");
+            return std::nullopt;
+        }
+        const std::string text = AnswerText(m_chance);
+        m_answers.push_back("answer = " + text);
+        return text;
+    }
+
+    std::optional<std::string> Step() {
+        const std::string act = RandomAct(*m_seat.driver, m_chance);
+        const Contents before = ContentsOf(m_seat.session);
+        m_answers.clear();
+        std::vector<std::string> shown;
+        std::optional<std::string> failure;
+        try {
+            shown = m_seat.Do(act);
+        } catch (const transcript::ScriptError&) {
+            // A place that the control does not have: nothing was done.
+        } catch (const std::exception& escaped) {
+            failure = std::string("a failure left the guard: ") + escaped.what();
+        }
+        for (const std::string& answer : m_answers)
+            m_lines.push_back("> " + answer);
+        m_lines.push_back("> " + act);
+        if (failure)
+            return failure;
+        return Check(act, shown, before);
+    }
+
+    std::optional<std::string> Check(const std::string& act, const std::vector<std::string>& shown,
+                                     const Contents& before) {
+        const Contents after = ContentsOf(m_seat.session);
+        if (const auto line = FindNoNumber(shown))
+            return "a box holds no number: " + *line;
+        if (const auto line = FindNoNumber(after))
+            return "no number in " + *line;
+        if (IsRefusal(shown))
+            if (const auto name = ChangedProblem(before, after))
+                return "the refusal \"" + shown.back() + "\" changed " + *name;
+        return m_peer ? Compare(act, shown, after) : std::nullopt;
+    }
+
+    std::optional<std::string> Compare(const std::string& act, const std::vector<std::string>& shown,
+                                       const Contents& after) {
+        std::vector<std::string> peer_shown;
+        try {
+            for (const std::string& answer : m_answers)
+                m_peer->Do(answer);
+            peer_shown = m_peer->Do(act);
+        } catch (const transcript::ScriptError&) {
+            // As in the first program.
+        }
+        if (shown != peer_shown)
+            return "the two programs show different boxes";
+        if (const auto difference = FirstDifference(after, ContentsOf(m_peer->session)))
+            return "the two programs differ in " + *difference;
+        return std::nullopt;
+    }
+
+    const Plan& m_plan;
+    Chance m_chance;
+    Seat m_seat;
+    std::optional<Seat> m_peer;
+    std::vector<std::string> m_answers;
+    std::vector<std::string> m_lines;
+};
+
+}  // namespace
+
+std::optional<Fault> PlaySession(const Plan& plan) { return Game(plan).Play(); }
+
+}  // namespace tavrelo::sessions
