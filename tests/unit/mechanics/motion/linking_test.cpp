@@ -1,0 +1,150 @@
+// Two stretches solved as one motion: worked examples, and motions taken at random whose data are hidden one
+// by one.
+
+#include "mechanics/motion/linking.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+#include "../../failure_code.h"
+
+namespace tavrelo::mechanics::motion {
+namespace {
+
+using numeric::FailureCode;
+using tavrelo::testing::FailureOf;
+using LinkedMotions = std::vector<LinkedMotion>;
+
+constexpr double kTolerance = 1e-9;
+constexpr LinkDatum kLinkData[] = {LinkDatum::FirstAcceleration, LinkDatum::SecondAcceleration,
+                                   LinkDatum::FinalTime, LinkDatum::FinalPosition, LinkDatum::FinalSpeed};
+
+LinkData Without(LinkDatum missing, LinkData data) {
+    switch (missing) {
+        case LinkDatum::FirstAcceleration:
+            data.first_acceleration.reset();
+            break;
+        case LinkDatum::SecondAcceleration:
+            data.second_acceleration.reset();
+            break;
+        case LinkDatum::FinalTime:
+            data.tc.reset();
+            break;
+        case LinkDatum::FinalPosition:
+            data.xc.reset();
+            break;
+        case LinkDatum::FinalSpeed:
+            data.vc.reset();
+            break;
+    }
+    return data;
+}
+
+void ExpectMotion(const LinkedMotion& motion, const MotionPoint& junction, const MotionPoint& end, double a1,
+                  double a2) {
+    EXPECT_NEAR(motion.junction.t, junction.t, kTolerance);
+    EXPECT_NEAR(motion.junction.x, junction.x, kTolerance);
+    EXPECT_NEAR(motion.junction.v, junction.v, kTolerance);
+    EXPECT_NEAR(motion.end.t, end.t, kTolerance);
+    EXPECT_NEAR(motion.end.x, end.x, kTolerance);
+    EXPECT_NEAR(motion.end.v, end.v, kTolerance);
+    EXPECT_NEAR(motion.first_acceleration, a1, kTolerance);
+    EXPECT_NEAR(motion.second_acceleration, a2, kTolerance);
+}
+
+// From rest with 2 for 5 (x = 25, v = 10), then braked with -1 for 4: x = 25 + 40 - 8 = 57, v = 6.
+TEST(SolveLink, FindsEachDatumOfAMetro) {
+    const LinkData all = {{0, 0, 0}, 2, -1, 9, 57, 6};
+    for (const LinkDatum missing : kLinkData) {
+        const LinkData data = Without(missing, all);
+        EXPECT_EQ(data.Missing(), missing);
+        const auto answer = SolveLink(data);
+        ASSERT_TRUE(std::holds_alternative<LinkedMotions>(answer)) << static_cast<int>(missing);
+        ASSERT_EQ(std::get<LinkedMotions>(answer).size(), 1U);
+        ExpectMotion(std::get<LinkedMotions>(answer).front(), {5, 25, 10}, {9, 57, 6}, 2, -1);
+    }
+}
+
+// At 20 for half a second, then braked with -5 to rest: 10 + 40.
+TEST(SolveLink, AUniformStretchTakesTheTimeOfItsDistance) {
+    const auto reaction = SolveLink({{0, 0, 20}, 0, -5, {}, 50, 0});
+    ASSERT_TRUE(std::holds_alternative<LinkedMotions>(reaction));
+    ASSERT_EQ(std::get<LinkedMotions>(reaction).size(), 1U);
+    ExpectMotion(std::get<LinkedMotions>(reaction).front(), {0.5, 10, 20}, {4.5, 50, 0}, 0, -5);
+    // From rest with 2 to 6 in 3 (x = 9), then on at 6 for 4.
+    const auto cruise = SolveLink({{1, 0, 0}, 2, 0, {}, 33, 6});
+    ASSERT_TRUE(std::holds_alternative<LinkedMotions>(cruise));
+    ASSERT_EQ(std::get<LinkedMotions>(cruise).size(), 1U);
+    ExpectMotion(std::get<LinkedMotions>(cruise).front(), {4, 9, 6}, {8, 33, 6}, 2, 0);
+}
+
+// Thrown up at 10 under -10 and then pushed on with -5: at x = 3.75 falling with 5 it may have passed the
+// junction rising or falling: s = (25 - 100 + 37.5)/(-10) = 3.75, vb^2 = 25, vb = 5 at 0.5 or -5 at 1.5.
+TEST(SolveLink, AJunctionPassedOnTheWayUpOrDown) {
+    const auto answer = SolveLink({{0, 0, 10}, -10, -5, {}, 3.75, -5});
+    ASSERT_TRUE(std::holds_alternative<LinkedMotions>(answer));
+    const auto& motions = std::get<LinkedMotions>(answer);
+    ASSERT_EQ(motions.size(), 2U);
+    ExpectMotion(motions[0], {0.5, 3.75, 5}, {2.5, 3.75, -5}, -10, -5);
+    ExpectMotion(motions[1], {1.5, 3.75, -5}, {1.5, 3.75, -5}, -10, -5);
+}
+
+TEST(SolveLink, RefusesAndFails) {
+    const auto refused = [](const LinkData& data) {
+        const auto answer = SolveLink(data);
+        return std::holds_alternative<text::Refusal>(answer) ? std::get<text::Refusal>(answer).text
+                                                             : "solved";
+    };
+    EXPECT_EQ(refused({{0, 0, 0}, 2, 2, 9, 57, {}}), kEqualAccelerations);
+    EXPECT_EQ(refused({{0, 0, 0}, 0.3, 0.1 * 3, 9, 57, {}}), kEqualAccelerations);
+    // Beyond what the first acceleration alone reaches: 81 at t = 9.
+    EXPECT_EQ(refused({{0, 0, 0}, 2, -1, 9, 100, {}}), kNoLink);
+    // Speed 30 at t = 9 asks for a junction before a.
+    EXPECT_EQ(refused({{0, 0, 0}, 2, -1, 9, {}, 30}), kNoLink);
+    EXPECT_EQ(refused({{0, 0, 0}, 2, -1, {}, 57, 100}), kNoLink);
+    EXPECT_EQ(refused({{0, 0, 0}, {}, 1, 4, 3, 4}), kNoLink);
+    EXPECT_EQ(refused({{0, 0, 0}, 1, {}, 4, 3, 4}), kNoLink);
+    EXPECT_EQ(refused({{5, 0, 0}, 2, -1, 4, 57, {}}), kNoLink) << "c before a";
+    EXPECT_EQ(FailureOf([&] { (void)refused({{0, 0, 0}, 2, -1, 9, 57, 6}); }), FailureCode::TypeMismatch);
+    EXPECT_EQ(FailureOf([&] { (void)refused({{0, 0, 0}, 2, {}, {}, 57, 6}); }), FailureCode::TypeMismatch);
+}
+
+TEST(SolveLink, TheHiddenDatumIsFoundAndEverySolutionIsAMotion) {
+    std::mt19937 random(17);
+    std::uniform_real_distribution<double> number(-10, 10), duration(0.2, 5);
+    for (int k = 0; k < 3000; ++k) {
+        const MotionPoint a = {number(random), number(random), number(random)};
+        const double a1 = number(random), z = duration(random), y = duration(random);
+        const double a2 = number(random);
+        // Where data hardly depend on each other, rounding decides.
+        if (std::abs(a1 - a2) < 0.5 || std::abs(a1) < 0.1 || std::abs(a2) < 0.1)
+            continue;
+        const MotionPoint b = {a.t + z, a.x + a.v * z + a1 * z * z / 2, a.v + a1 * z};
+        const MotionPoint c = {b.t + y, b.x + b.v * y + a2 * y * y / 2, b.v + a2 * y};
+        for (const LinkDatum missing : kLinkData) {
+            const auto answer = SolveLink(Without(missing, {a, a1, a2, c.t, c.x, c.v}));
+            ASSERT_TRUE(std::holds_alternative<LinkedMotions>(answer))
+                << k << " " << static_cast<int>(missing);
+            bool is_found = false;
+            for (const LinkedMotion& motion : std::get<LinkedMotions>(answer)) {
+                const double second = motion.end.t - motion.junction.t;
+                EXPECT_GE(motion.junction.t, a.t - 1e-6);
+                EXPECT_GE(second, -1e-6);
+                EXPECT_NEAR(motion.end.v, motion.junction.v + motion.second_acceleration * second, 2e-3);
+                EXPECT_NEAR(motion.end.x,
+                            motion.junction.x + motion.junction.v * second +
+                                motion.second_acceleration * second * second / 2,
+                            2e-3);
+                is_found = is_found ||
+                           (std::abs(motion.junction.t - b.t) < 1e-6 &&
+                            std::abs(motion.junction.x - b.x) < 1e-5 && std::abs(motion.end.x - c.x) < 1e-5);
+            }
+            EXPECT_TRUE(is_found) << k << " " << static_cast<int>(missing);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace tavrelo::mechanics::motion
