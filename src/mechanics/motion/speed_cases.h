@@ -1,0 +1,21 @@
+#pragma once
+
+#include "mechanics/motion/parameter_case.h"
+
+/// The unknown speed at the base, by data set; the acceleration is known.
+namespace tavrelo::mechanics::motion::speed {
+
+Finding OfTimePosition(const ParameterCase& each);
+Finding OfTimeSpeed(const ParameterCase& each);
+Finding OfPositionSpeed(const ParameterCase& each);
+Finding OfTimesDx(const ParameterCase& each);
+Finding OfPositionsDt(const ParameterCase& each);
+Finding OfTimesXFactor(const ParameterCase& each);
+Finding OfTimesVFactor(const ParameterCase& each);
+Finding OfPositionsTFactor(const ParameterCase& each);
+Finding OfPositionsVFactor(const ParameterCase& each);
+Finding OfSpeedsTFactor(const ParameterCase& each);
+Finding OfSpeedsXFactor(const ParameterCase& each);
+Finding RefuseKnownAcceleration(const ParameterCase& each);
+
+}  // namespace tavrelo::mechanics::motion::speed
