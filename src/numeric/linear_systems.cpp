@@ -203,13 +203,37 @@ LinearOutcome LUBack(const SquareMatrix& factors, std::span<double> b, const Per
     }
 }
 
-LinearOutcome SolveLinear(SquareMatrix& a, std::span<double> b) {
+std::vector<double> LargestOfRows(const SquareMatrix& a) {
+    std::vector<double> largest(a.Order());
+    for (std::size_t column = 0; column < a.Order(); ++column) {
+        const std::span<const double> elements = a.Column(column);
+        for (std::size_t row = 0; row < a.Order(); ++row)
+            largest[row] = std::max(largest[row], std::abs(elements[row]));
+    }
+    return largest;
+}
+
+bool HasRoundingPivot(const SquareMatrix& factors, const Permutation& permutation,
+                      std::vector<double> largest) {
+    for (std::size_t j = 0; j < factors.Order(); ++j) {
+        std::swap(largest[j], largest[permutation[j]]);
+        if (std::abs(factors(j, j)) < kRoundingPivot * largest[j])
+            return true;
+    }
+    return false;
+}
+
+namespace {
+
+/// Factors and substitutes; `refuses` may find fault with the factors.
+template <typename Refuses>
+LinearOutcome SolveUnless(Refuses refuses, SquareMatrix& a, std::span<double> b) {
     RequireOrder(a.Order(), b.size());
     Permutation permutation;
     double determinant = 0.0;
     try {
         LUDec(a, permutation, determinant);
-        if (NearEq(determinant, 0.0, kZeroDeterminant)) {
+        if (NearEq(determinant, 0.0, kZeroDeterminant) || refuses(permutation)) {
             return LinearOutcome::DeterminantIsZero;
         }
         Substitute(a, b, permutation);
@@ -217,6 +241,18 @@ LinearOutcome SolveLinear(SquareMatrix& a, std::span<double> b) {
     } catch (const RuntimeFailure&) {
         return LinearOutcome::SystemNotSolved;
     }
+}
+
+}  // namespace
+
+LinearOutcome SolveLinear(SquareMatrix& a, std::span<double> b) {
+    return SolveUnless([](const Permutation&) { return false; }, a, b);
+}
+
+LinearOutcome SolveIndependent(SquareMatrix& a, std::span<double> b) {
+    const std::vector<double> largest = LargestOfRows(a);
+    return SolveUnless(
+        [&](const Permutation& permutation) { return HasRoundingPivot(a, permutation, largest); }, a, b);
 }
 
 double Determinant(SquareMatrix a) {

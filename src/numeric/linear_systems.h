@@ -45,6 +45,8 @@ std::string_view TextOf(LinearOutcome outcome);
 
 /// A determinant of at most this size counts as zero, whatever the scale of the coefficients.
 inline constexpr double kZeroDeterminant = 1e-8;
+/// A pivot below this part of the largest element of its row as given is only what rounding left of a zero.
+inline constexpr double kRoundingPivot = 1e-13;
 /// A larger matrix fails with SubscriptRange.
 inline constexpr std::size_t kLargestOrder = 500;
 
@@ -66,6 +68,17 @@ LinearOutcome LUBack(const SquareMatrix& factors, std::span<double> b, const Per
 /// untouched) or SystemNotSolved (`b` partly overwritten). Fails with SubscriptRange when the lengths
 /// disagree.
 LinearOutcome SolveLinear(SquareMatrix& a, std::span<double> b);
+
+/// The largest element of each row, by its size.
+std::vector<double> LargestOfRows(const SquareMatrix& a);
+/// Whether the rows of a matrix depend on each other but for rounding: a pivot among the factors and
+/// exchanges of LUDec is below kRoundingPivot of the largest element that its row had (`largest`, of the
+/// matrix as given).
+bool HasRoundingPivot(const SquareMatrix& factors, const Permutation& permutation,
+                      std::vector<double> largest);
+
+/// SolveLinear that takes for DeterminantIsZero also equations that depend on each other but for rounding.
+LinearOutcome SolveIndependent(SquareMatrix& a, std::span<double> b);
 
 /// The determinant by LUDec; 0 with a row of zeros, and a number of the size of rounding for other singular
 /// matrices. Fails with Overflow.

@@ -166,11 +166,28 @@ OdeOutcome ODEInt(OdeFunction f, int order, OdeState& y, double x1, double x2, d
     return OdeOutcome::TooManySteps;
 }
 
-OdeIntegral IntegrateOde(OdeFunction f, double a, double b, double eps) {
+namespace {
+
+/// The integral of f from `low` up to `high`, made from the left.
+OdeIntegral IntegrateUpward(OdeFunction f, double low, double high, double eps) {
     OdeState y{};
-    const OdeOutcome outcome =
-        ODEInt(f, 1, y, std::min(a, b), std::max(a, b), eps, kOdeFirstStep, kOdeLeastStep);
+    const OdeOutcome outcome = ODEInt(f, 1, y, low, high, eps, kOdeFirstStep, kOdeLeastStep);
     return {y[0], outcome};
+}
+
+}  // namespace
+
+OdeIntegral IntegrateOde(OdeFunction f, double a, double b, double eps) {
+    const double low = std::min(a, b);
+    const double high = std::max(a, b);
+    const OdeIntegral from_left = IntegrateUpward(f, low, high, eps);
+    if (from_left.outcome == OdeOutcome::Done)
+        return from_left;
+    const auto mirrored = [&](std::span<const double> at) {
+        const std::array<double, 2> place = {low + high - at[0], at[1]};
+        return f(place);
+    };
+    return IntegrateUpward(mirrored, low, high, eps);
 }
 
 OdeState RK4(OdeFunction f, int order, const OdeState& y, const OdeState& dydx, double x, double h) {

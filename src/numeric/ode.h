@@ -67,8 +67,9 @@ struct OdeIntegral {
 /// The integral of f between a and b as the differential equation y' = f(x, y), y(a) = 0. Limits in falling
 /// order are exchanged and the sign stays.
 ///
-/// A density that is 0 at first and then jumps ends in TooManySteps: while y and y' are 0 no error is
-/// tolerated, so no step passes the jump.
+/// A density that is 0 at first and then jumps stops the integration: while y and y' are 0 no error is
+/// tolerated, so no step passes the jump. It is then made from the other limit, with f mirrored; one that is
+/// 0 at both ends gives TooManySteps.
 OdeIntegral IntegrateOde(OdeFunction f, double a, double b, double eps = kOdeIntegralAccuracy);
 
 /// One classical fourth-order Runge-Kutta step of length h from (x, y), whose derivatives are `dydx`.

@@ -214,14 +214,14 @@ Point MomentAt(const SpaceResultant& resultant, Point point) {
             Finite(resultant.moment_y + point.x * resultant.force)};
 }
 
-LoadResultant DistributedLoad(numeric::OdeFunction density, numeric::OdeFunction moment_density, double x1,
-                              double x2) {
+std::optional<LineResultant> DistributedLoad(numeric::OdeFunction density,
+                                             numeric::OdeFunction moment_density, double x1, double x2) {
     const numeric::OdeIntegral force = numeric::IntegrateOde(density, x1, x2);
     const numeric::OdeIntegral moment = numeric::IntegrateOde(moment_density, x1, x2);
-    const auto given_up = [](const numeric::OdeIntegral& integral) {
-        return integral.outcome == numeric::OdeOutcome::TooManySteps ? 1 : 0;
-    };
-    return {LineResultantOf(force.value, moment.value), given_up(force) + given_up(moment)};
+    for (const numeric::OdeIntegral& integral : {force, moment})
+        if (integral.outcome == numeric::OdeOutcome::TooManySteps)
+            return std::nullopt;
+    return LineResultantOf(force.value, moment.value);
 }
 
 }  // namespace tavrelo::mechanics::forces

@@ -140,14 +140,10 @@ SpaceResultant ParallelSpace(std::span<const VerticalForce> forces);
 /// The couple (Mx, My), as a point, that goes with the resultant when it is placed at `point`.
 numeric::Point MomentAt(const SpaceResultant& resultant, numeric::Point point);
 
-struct LoadResultant {
-    LineResultant resultant;
-    int given_up = 0;  // how many of the two integrals ended in TooManySteps; they count as 0
-};
 /// The resultant of a load of density f(x) between x1 and x2, in either order, by IntegrateOde:
-/// `moment_density` is x f(x). For each integral given up the caller shows the box of numeric/ode.h. Fails
-/// with what the densities fail with.
-LoadResultant DistributedLoad(numeric::OdeFunction density, numeric::OdeFunction moment_density, double x1,
-                              double x2);
+/// `moment_density` is x f(x). Nothing when an integral ends in TooManySteps. Fails with what the densities
+/// fail with.
+std::optional<LineResultant> DistributedLoad(numeric::OdeFunction density,
+                                             numeric::OdeFunction moment_density, double x1, double x2);
 
 }  // namespace tavrelo::mechanics::forces

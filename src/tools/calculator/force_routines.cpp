@@ -280,12 +280,14 @@ Outcome DistributedLoad(Task& task) {
     const auto moment_density = [&](std::span<const double> at) {
         return numeric::CheckedMultiply(at[0], task.At(at[0]));
     };
-    const auto [result, given_up] = mechanics::forces::DistributedLoad(density, moment_density, first, last);
-    for (int k = 0; k < given_up; ++k)
+    const auto result = mechanics::forces::DistributedLoad(density, moment_density, first, last);
+    if (!result) {
         task.TellTooManySteps();
+        return std::nullopt;
+    }
     DrawFormula(task, first, last);
-    DrawLoadResultant(task, result, first, last);
-    task.Report(LoadReport(task, result));
+    DrawLoadResultant(task, *result, first, last);
+    task.Report(LoadReport(task, *result));
     return std::nullopt;
 }
 

@@ -70,8 +70,10 @@ Outcome AdaptiveIntegral(Task& task) {
         return text::Refusal{"No tomes el argumento \"épsilon\" mayor que 0.001."};
     const auto integral = numeric::IntegrateOde([&](std::span<const double> at) { return task.At(at[0]); },
                                                 first, last, accuracy);
-    if (integral.outcome == numeric::OdeOutcome::TooManySteps)
+    if (integral.outcome == numeric::OdeOutcome::TooManySteps) {
         task.TellTooManySteps();
+        return std::nullopt;
+    }
     task.Report({"La integral de la función f(x) = " + task.ShownFormula(),
                  "en el intervalo [" + task.Shown(first) + ", " + task.Shown(last) + "]",
                  "es " + task.Shown(integral.value)});

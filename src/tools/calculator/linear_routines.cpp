@@ -46,8 +46,10 @@ System SystemOf(const Arguments& arguments) {
 Outcome Solve(System& system) {
     numeric::Permutation exchanges;
     double determinant = 0;
+    const std::vector<double> largest = numeric::LargestOfRows(system.matrix);
     numeric::LUDec(system.matrix, exchanges, determinant);
-    if (numeric::NearEq(determinant, 0, numeric::kZeroDeterminant))
+    if (numeric::NearEq(determinant, 0, numeric::kZeroDeterminant) ||
+        numeric::HasRoundingPivot(system.matrix, exchanges, largest))
         return text::Refusal{std::string(TextOf(LinearOutcome::DeterminantIsZero))};
     if (numeric::LUBack(system.matrix, system.right_side, exchanges) != LinearOutcome::Done)
         return text::Refusal{"Falló el cálculo."};

@@ -243,6 +243,35 @@ TEST(SolveLinear, NothingButNumbersLeavesIt) {
         EXPECT_GT(count, 100);
 }
 
+/// The third row is twice the first and three times the second: rounding leaves a pivot of about 1e-14 and, the numbers being
+/// large, a determinant above the limit.
+TEST(SolveIndependent, RefusesRowsThatDependOnEachOther) {
+    const std::vector<double> rows = {910.5, -789.2, 137.7, -779.0, -837.4, 298.0, -516.0, -4090.6, 1169.4};
+    SquareMatrix unguarded(3, rows);
+    std::vector<double> made_up = {100, 200, 301};
+    EXPECT_EQ(SolveLinear(unguarded, made_up), LinearOutcome::Done);
+
+    SquareMatrix dependent(3, rows);
+    std::vector<double> b = {100, 200, 301};
+    EXPECT_EQ(SolveIndependent(dependent, b), LinearOutcome::DeterminantIsZero);
+    EXPECT_EQ(b, (std::vector<double>{100, 200, 301}));
+}
+
+/// Rows of very different size, given in the order that makes every step exchange, are as good as any.
+TEST(SolveIndependent, SolvesWhatIsOnlyBadlyScaled) {
+    SquareMatrix a(3, std::vector<double>{1e-6, 0, 0, 1e-6, 1e6, 0, 1, 1, 1e3});
+    std::vector<double> b = {1e-6, 2e6 + 1e-6, 1 + 2 + 3e3};
+    EXPECT_EQ(SolveIndependent(a, b), LinearOutcome::Done);
+    for (const double expected : {1.0, 2.0, 3.0})
+        EXPECT_NEAR(b[static_cast<std::size_t>(expected) - 1], expected, 1e-9);
+}
+
+TEST(SolveIndependent, KeepsTheLimitOfTheDeterminant) {
+    SquareMatrix small(2, std::vector<double>{1e-5, 0, 0, 1e-4});
+    std::vector<double> b = {1, 1};
+    EXPECT_EQ(SolveIndependent(small, b), LinearOutcome::DeterminantIsZero);
+}
+
 TEST(LinearOutcome, HasItsMessage) {
     EXPECT_EQ(TextOf(LinearOutcome::Done), "");
     EXPECT_EQ(TextOf(LinearOutcome::NotFactored), "Falló la rutina LUDec.");

@@ -232,9 +232,20 @@ TEST(IntegrateOde, HandsOverTheIntegralSoFarAsSecondArgument) {
     EXPECT_NEAR(IntegrateOde(grows, 0, 1).value, std::numbers::e - 1, 1e-5);
 }
 
-TEST(IntegrateOde, AJumpFromNothingIsTooManySteps) {
+TEST(IntegrateOde, AJumpFromNothingIsMadeFromTheOtherLimit) {
     const auto late = [](Arguments arguments) { return arguments[0] < 1.5 ? 0.0 : 12.5; };
-    const OdeIntegral integral = IntegrateOde(late, 0, 3);
+    for (const auto& [a, b] : {std::pair(0.0, 3.0), std::pair(3.0, 0.0)}) {
+        const OdeIntegral integral = IntegrateOde(late, a, b, 1e-9);
+        EXPECT_EQ(integral.outcome, OdeOutcome::Done);
+        EXPECT_NEAR(integral.value, 18.75, 1e-4);
+    }
+    const auto early = [](Arguments arguments) { return arguments[0] < 1.5 ? 12.5 : 0.0; };
+    EXPECT_NEAR(IntegrateOde(early, 0, 3, 1e-9).value, 18.75, 1e-4);
+}
+
+TEST(IntegrateOde, AJumpInsideNothingIsTooManySteps) {
+    const auto inside = [](Arguments arguments) { return arguments[0] > 1 && arguments[0] < 2 ? 12.5 : 0.0; };
+    const OdeIntegral integral = IntegrateOde(inside, 0, 3);
     EXPECT_EQ(integral.outcome, OdeOutcome::TooManySteps);
     EXPECT_EQ(integral.value, 0);
 }

@@ -191,7 +191,7 @@ TEST(ParallelSpace, ForceCoupleAndNothing) {
 
 /// The resultant of the load f(x) between x1 and x2.
 template <typename Load>
-LoadResultant ResultantOf(Load load, double x1, double x2) {
+std::optional<LineResultant> ResultantOf(Load load, double x1, double x2) {
     const auto density = [&](Arguments arguments) { return load(arguments[0]); };
     const auto moment = [&](Arguments arguments) { return arguments[0] * load(arguments[0]); };
     return DistributedLoad(density, moment, x1, x2);
@@ -199,29 +199,37 @@ LoadResultant ResultantOf(Load load, double x1, double x2) {
 
 TEST(DistributedLoad, UniformAndTriangular) {
     for (const auto& [x1, x2] : {std::pair(0.0, 3.0), std::pair(3.0, 0.0)}) {
-        const LoadResultant uniform = ResultantOf([](double) { return 2.0; }, x1, x2);
-        EXPECT_EQ(uniform.given_up, 0);
-        EXPECT_EQ(uniform.resultant.kind, ResultantKind::Force);
-        EXPECT_NEAR(uniform.resultant.force, 6, 1e-4);
-        EXPECT_NEAR(uniform.resultant.x, 1.5, 1e-4);
+        const LineResultant uniform = ResultantOf([](double) { return 2.0; }, x1, x2).value();
+        EXPECT_EQ(uniform.kind, ResultantKind::Force);
+        EXPECT_NEAR(uniform.force, 6, 1e-4);
+        EXPECT_NEAR(uniform.x, 1.5, 1e-4);
     }
-    const LineResultant triangular = ResultantOf([](double x) { return 100 * x / 3; }, 0, 6).resultant;
+    const LineResultant triangular = ResultantOf([](double x) { return 100 * x / 3; }, 0, 6).value();
     EXPECT_NEAR(triangular.force, 600, 1e-2);  // half of 6 by 200, at two thirds of the span
     EXPECT_NEAR(triangular.moment, 2400, 1e-1);
     EXPECT_NEAR(triangular.x, 4, 1e-4);
 }
 
 TEST(DistributedLoad, ACoupleAndNothing) {
-    const LineResultant couple = ResultantOf([](double x) { return x - 1; }, 0, 2).resultant;
+    const LineResultant couple = ResultantOf([](double x) { return x - 1; }, 0, 2).value();
     EXPECT_EQ(couple.kind, ResultantKind::Couple);
     EXPECT_NEAR(couple.moment, 2.0 / 3, 1e-5);
-    EXPECT_EQ(ResultantOf([](double) { return 0.0; }, 0, 3).resultant.kind, ResultantKind::Null);
+    EXPECT_EQ(ResultantOf([](double) { return 0.0; }, 0, 3).value().kind, ResultantKind::Null);
 }
 
-TEST(DistributedLoad, CountsTheIntegralsThatWereGivenUp) {
-    const LoadResultant late = ResultantOf([](double x) { return x < 1.5 ? 0.0 : 4.0; }, 0, 3);
-    EXPECT_EQ(late.given_up, 2);
-    EXPECT_EQ(late.resultant.kind, ResultantKind::Null);
+/// 20 (x - 2) from 2 to 5 is a triangle of base 3 and height 60: 90 at two thirds of it, x = 4.
+TEST(DistributedLoad, LoadsThatBeginAtZero) {
+    const LineResultant triangle = ResultantOf([](double x) { return 20 * (x - 2); }, 2, 5).value();
+    EXPECT_NEAR(triangle.force, 90, 1e-3);
+    EXPECT_NEAR(triangle.x, 4, 1e-4);
+    // 4 on the second half of 3: 6 at 2.25, as well as the steps find the jump.
+    const LineResultant late = ResultantOf([](double x) { return x < 1.5 ? 0.0 : 4.0; }, 0, 3).value();
+    EXPECT_NEAR(late.force, 6, 1e-2);
+    EXPECT_NEAR(late.x, 2.25, 1e-2);
+}
+
+TEST(DistributedLoad, GivesUpALoadThatIsZeroAtBothEnds) {
+    EXPECT_FALSE(ResultantOf([](double x) { return x > 1 && x < 2 ? 4.0 : 0.0; }, 0, 3).has_value());
     EXPECT_EQ(FailureOf([] { ResultantOf([](double x) { return numeric::CheckedDivide(1, x); }, 0, 1); }),
               FailureCode::DivisionByZero);
 }
