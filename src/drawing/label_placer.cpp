@@ -38,6 +38,10 @@ Point Turned(Point vector, double degrees) {
 
 }  // namespace
 
+void PrintLabel(window::Surface& surface, const PlacedLabel& label) {
+    PrintLabel(surface, label.markup, label.left, label.top, LabelFont(), label.color);
+}
+
 /// Clips the line against the four sides of the area.
 bool LabelPlacer::Crosses(const Segment& line, const Area& area) {
     // Most lines lie far away.
@@ -69,8 +73,7 @@ bool LabelPlacer::IsNear(const Segment& line, Point place) {
 }
 
 bool LabelPlacer::IsClear(const Area& area) const {
-    const bool inside = area.left >= 0 && area.top >= 0 && area.right <= m_surface.Width() &&
-                        area.bottom <= m_surface.Height();
+    const bool inside = area.left >= 0 && area.top >= 0 && area.right <= m_width && area.bottom <= m_height;
     const auto meets = [&](const Area& other) {
         return area.left < other.right && other.left < area.right && area.top < other.bottom &&
                other.top < area.bottom;
@@ -116,8 +119,8 @@ Point LabelPlacer::FreeSide(Point place) const {
     return side;
 }
 
-void LabelPlacer::Place(const std::string& markup, Point anchor, Point outward, text::Color color,
-                        double radius) {
+PlacedLabel LabelPlacer::Place(const std::string& markup, Point anchor, Point outward, text::Color color,
+                               double radius) {
     const text::Font font = LabelFont();
     const double half_width = text::MarkupWidth(markup, font) / 2;
     const double half_height = text::TextHeight(font) / 2;
@@ -144,7 +147,7 @@ void LabelPlacer::Place(const std::string& markup, Point anchor, Point outward, 
     };
     const Area area = find();
     m_labels.push_back(area);
-    PrintLabel(m_surface, markup, area.left, area.top, font, color);
+    return {markup, area.left, area.top, color};
 }
 
 }  // namespace tavrelo::drawing

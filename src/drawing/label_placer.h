@@ -7,13 +7,23 @@
 
 namespace tavrelo::drawing {
 
-/// Finds places for the labels of a drawing that lie clear of its lines and of each other. All lines are told
-/// first. Pixels from the top left, downward.
+/// A label at its place: the top left corner, pixels from the top left of the picture.
+struct PlacedLabel {
+    std::string markup;
+    double left, top;
+    text::Color color;
+};
+void PrintLabel(window::Surface& surface, const PlacedLabel& label);
+
+/// Finds places for the labels of a drawing that lie clear of its lines and of each other, and draws nothing.
+/// All lines are told first. Pixels from the top left, downward.
 class LabelPlacer {
   public:
-    /// `margin`: pixels kept free around each label.
-    explicit LabelPlacer(window::Surface& surface, double margin = 0)
-        : m_surface(surface), m_margin(margin) {}
+    /// For a picture of this size; `margin`: pixels kept free around each label.
+    LabelPlacer(double width, double height, double margin = 0)
+        : m_width(width), m_height(height), m_margin(margin) {}
+    explicit LabelPlacer(const window::Surface& surface, double margin = 0)
+        : LabelPlacer(surface.Width(), surface.Height(), margin) {}
 
     void AddLine(window::Point from, window::Point to) { m_lines.push_back({from, to}); }
     /// A line that labels cross where there is no other place for them.
@@ -25,10 +35,11 @@ class LabelPlacer {
     /// Unit vector into the widest angle between those lines; the lower one of equal angles.
     window::Point FreeSide(window::Point place) const;
 
-    /// Prints a label beside `anchor`, as near as possible to the side in which `outward` points (any
-    /// length) and at least `radius` pixels away. Where no place is free it stands on that side nevertheless.
-    void Place(const std::string& markup, window::Point anchor, window::Point outward, text::Color color,
-               double radius = 0);
+    /// The place of a label beside `anchor`, as near as possible to the side in which `outward` points (any
+    /// length) and at least `radius` pixels away; taken from now on. Where no place is free it is on that
+    /// side nevertheless.
+    [[nodiscard]] PlacedLabel Place(const std::string& markup, window::Point anchor, window::Point outward,
+                                    text::Color color, double radius = 0);
 
   private:
     struct Segment {
@@ -42,7 +53,8 @@ class LabelPlacer {
     bool IsClear(const Area& area) const;
     bool CrossesFaintLine(const Area& area) const;
 
-    window::Surface& m_surface;
+    double m_width;
+    double m_height;
     double m_margin;
     std::vector<Segment> m_lines;
     std::vector<Segment> m_faint_lines;

@@ -72,7 +72,8 @@ class ArrowDrawing {
 
     void PlaceLabels() {
         for (const Pending& label : m_pending)
-            m_labels.Place(label.markup, label.anchor, label.outward, label.color);
+            drawing::PrintLabel(m_surface,
+                                m_labels.Place(label.markup, label.anchor, label.outward, label.color));
     }
 
   private:

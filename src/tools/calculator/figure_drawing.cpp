@@ -73,14 +73,16 @@ void DrawFigure(Task& task, const Figure& figure) {
     }
     surface.DrawWidth = 1;
     for (std::size_t i = 0; i < figure.vertex_labels.size(); ++i)
-        labels.Place(figure.vertex_labels[i], points[i],
-                     AwayFromSides(points[i], points[(i + count - 1) % count], points[(i + 1) % count]),
-                     text::kBlack);
+        drawing::PrintLabel(surface, labels.Place(figure.vertex_labels[i], points[i],
+                                                  AwayFromSides(points[i], points[(i + count - 1) % count],
+                                                                points[(i + 1) % count]),
+                                                  text::kBlack));
     for (std::size_t i = 0; i < figure.side_labels.size(); ++i) {
         const window::Point from = points[i];
         const window::Point to = points[(i + 1) % count];
         const window::Point middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
-        labels.Place(figure.side_labels[i], middle, AwayFrom(points[(i + 2) % count], from, to), color(i));
+        drawing::PrintLabel(surface, labels.Place(figure.side_labels[i], middle,
+                                                  AwayFrom(points[(i + 2) % count], from, to), color(i)));
     }
 }
 

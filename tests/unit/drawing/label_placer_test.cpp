@@ -34,7 +34,7 @@ TEST(LabelPlacer, KeepsOffALevelLine) {
     window::Recorder picture(kWidth, kHeight);
     LabelPlacer labels(picture);
     labels.AddLine({0, 100}, {kWidth, 100});
-    labels.Place("V!1", {200, 100}, {1, 0}, text::kBlack);
+    PrintLabel(picture, labels.Place("V!1", {200, 100}, {1, 0}, text::kBlack));
     const auto areas = LabelAreas(picture);
     ASSERT_EQ(areas.size(), 1U);
     EXPECT_TRUE(areas[0].bottom < 100 || areas[0].top > 100);
@@ -44,7 +44,7 @@ TEST(LabelPlacer, LabelsOfOnePlaceDoNotCoverEachOther) {
     window::Recorder picture(kWidth, kHeight);
     LabelPlacer labels(picture);
     for (const char* name : {"(1, 2)", "(1, 3)", "(1, 4)", "(1, 5)"})
-        labels.Place(name, {200, 150}, {0, -1}, text::kBlack);
+        PrintLabel(picture, labels.Place(name, {200, 150}, {0, -1}, text::kBlack));
     const auto areas = LabelAreas(picture);
     ASSERT_EQ(areas.size(), 4U);
     for (std::size_t i = 0; i < areas.size(); ++i)
@@ -55,7 +55,7 @@ TEST(LabelPlacer, LabelsOfOnePlaceDoNotCoverEachOther) {
 TEST(LabelPlacer, StaysInsideThePicture) {
     window::Recorder picture(kWidth, kHeight);
     LabelPlacer labels(picture);
-    labels.Place("(123.456, 78.9)", {kWidth - 2, 2}, {1, -1}, text::kBlack);
+    PrintLabel(picture, labels.Place("(123.456, 78.9)", {kWidth - 2, 2}, {1, -1}, text::kBlack));
     const auto areas = LabelAreas(picture);
     ASSERT_EQ(areas.size(), 1U);
     EXPECT_GE(areas[0].top, 0);
@@ -68,8 +68,8 @@ TEST(LabelPlacer, KeepsItsMarginAndRadius) {
     window::Recorder picture(kWidth, kHeight);
     LabelPlacer labels(picture, kMargin);
     labels.AddLine({200 + kRadius, 0}, {200 + kRadius, kHeight});
-    labels.Place("A", {200, 150}, {1, 0}, text::kBlack);
-    labels.Place("B", {200, 150}, {0, 1}, text::kBlack, kRadius);
+    PrintLabel(picture, labels.Place("A", {200, 150}, {1, 0}, text::kBlack));
+    PrintLabel(picture, labels.Place("B", {200, 150}, {0, 1}, text::kBlack, kRadius));
     const auto areas = LabelAreas(picture);
     ASSERT_EQ(areas.size(), 2U);
     EXPECT_LE(areas[0].right, 200 + kRadius - kMargin);
@@ -86,7 +86,7 @@ TEST(LabelPlacer, CrossesFaintLinesOnlyWhereItMust) {
             for (const double y : {140.0, 160.0})
                 for (double row = 0; row < 60; row += 5)
                     labels.AddLine({0, y < 150 ? y - row : y + row}, {kWidth, y < 150 ? y - row : y + row});
-        labels.Place("A", {200, 150}, {1, 0}, text::kBlack);
+        PrintLabel(picture, labels.Place("A", {200, 150}, {1, 0}, text::kBlack));
         const auto areas = LabelAreas(picture);
         ASSERT_EQ(areas.size(), 1U);
         EXPECT_EQ(areas[0].top < 150 && areas[0].bottom > 150, is_narrow);
