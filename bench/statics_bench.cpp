@@ -62,7 +62,7 @@ mechanics::rigid::BodyForces FrameForces() {
     mechanics::rigid::BodyForces forces;
     for (const auto& [body, point, x, y, text] : kFrame)
         forces.push_back(std::get<mechanics::rigid::BodyForce>(
-            mechanics::rigid::ReadBodyForce(body, {point, x, y, 0, 0}, text, kDecimals)));
+            mechanics::rigid::ReadBodyForce(body, {point, x, y}, text, kDecimals)));
     return forces;
 }
 
@@ -79,17 +79,17 @@ void SolveFrame(benchmark::State& state) {
 BENCHMARK(SolveFrame);
 
 void DrawFrame(benchmark::State& state) {
-    mechanics::rigid::BodyForces forces = FrameForces();
-    mechanics::rigid::PointTable points;
-    for (const auto& force : forces)
-        if (mechanics::rigid::PointIndex(points, force.point) == 0)
-            points.push_back({force.point, force.x, force.y, 0, 0});
-    const mechanics::rigid::LineTable lines = {{"ABC", 2}, {"CDE", 3}, {"BFD", 4}};
-    const mechanics::rigid::SystemPoints systems = {"ABCDEF", "ABC", "CDE", "BFD"};
-    const mechanics::rigid::ShownDCL shown = {false, true, true, true};
+    mechanics::rigid::RigidProblem problem;
+    problem.forces = FrameForces();
+    for (const auto& force : problem.forces)
+        if (!mechanics::rigid::FindPoint(problem.structure.points, force.point))
+            problem.structure.points.push_back({force.point, force.x, force.y});
+    problem.lines = {{"ABC", 2}, {"CDE", 3}, {"BFD", 4}};
+    problem.systems = {"ABCDEF", "ABC", "CDE", "BFD"};
+    const tools::rigid::DiagramView view = {.shown = {false, true, true, true}};
     window::Recorder canvas(397, 385);
     for (auto _ : state)
-        tools::rigid::RedrawAll(canvas, {points, lines, systems, forces, shown, kDecimals});
+        tools::rigid::RedrawAll(canvas, {problem, view, kDecimals});
 }
 BENCHMARK(DrawFrame);
 

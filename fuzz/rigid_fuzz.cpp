@@ -12,9 +12,10 @@
 
 #include "mechanics/rigid/body_solver.h"
 #include "mechanics/rigid/chain_vectors.h"
-#include "mechanics/rigid/rigid_lines.h"
-#include "mechanics/rigid/rigid_report.h"
+#include "mechanics/rigid/line_command.h"
+#include "mechanics/rigid/rigid_problem.h"
 #include "numeric/checked.h"
+#include "tools/rigid/equilibrium_report.h"
 #include "tools/rigid/rigid_picture.h"
 #include "window/surface.h"
 
@@ -22,6 +23,7 @@ namespace {
 
 using namespace tavrelo;
 using namespace tavrelo::mechanics::rigid;
+using tools::rigid::EquilibriumReport;
 
 constexpr int kDecimals = 3;
 constexpr double kPictureSide = 400;
@@ -85,20 +87,19 @@ BodyForces ForcesOf(const std::vector<std::string>& lines, const PointTable& poi
         const auto read = ReadBodyForce(1, point, lines[i], kDecimals);
         if (const auto* force = std::get_if<BodyForce>(&read)) {
             forces.push_back(*force);
-            RequireFinite(force->couple);
+            if (force->couple)
+                RequireFinite(force->couple->value.value_or(0));
             TryOpposite(lines[i], point);
         }
     }
     return forces;
 }
 
-void Draw(PointTable& points, BodyForces& forces, const LineTable& lines) {
+void Draw(const RigidProblem& problem) {
     window::Recorder canvas(kPictureSide, kPictureSide);
-    for (BodyForce& force : forces)
-        if (NeedsDrawDirection(force))
-            SetDrawDirection(force, mechanics::forces::kDefaultDrawDirection);
-    const SystemPoints systems = {"ABC"};
-    tools::rigid::RedrawAll(canvas, {points, lines, systems, forces, {true}, kDecimals});
+    tools::rigid::DiagramView view;
+    view.Show(1, true);
+    tools::rigid::RedrawAll(canvas, {problem, view, kDecimals});
 }
 
 void Solve(BodyForces& forces, std::string_view suppressed) {
@@ -111,14 +112,14 @@ void Solve(BodyForces& forces, std::string_view suppressed) {
     const auto outcome = SolveEquations(*equations, bodies.size());
     BodyResults results;
     if (const auto* choice = std::get_if<BodyChoice>(&outcome)) {
-        QuestionBetween(*choice, kDecimals);
+        tools::rigid::QuestionBetween(*choice, kDecimals);
         results = choice->front();
     } else if (const auto* only = std::get_if<BodyResults>(&outcome)) {
         results = *only;
     }
     for (const FoundUnknown& found : results)
         RequireFinite(found.value);
-    UpdateBodyForces(forces, results, kDecimals);
+    forces = WithResults(forces, results, kDecimals);
     for (const BodyForce& force : forces)
         for (const text::Value& cell : force.force)
             RequireFinite(cell);
@@ -127,16 +128,15 @@ void Solve(BodyForces& forces, std::string_view suppressed) {
 
 void Try(std::string_view text) {
     const std::vector<std::string> lines = LinesOf(text);
-    SegTable segments;
-    PointTable points;
-    TryChain(lines, segments, points);
-    LineTable drawn;
-    const auto line = ReadLine(lines.back(), {"ABC", "AB", "C"}, points);
+    RigidProblem problem;
+    problem.systems = {"ABC", "AB", "C"};
+    TryChain(lines, problem.structure.segments, problem.structure.points);
+    const auto line = ReadLine(lines.back(), problem.systems, problem.structure.points);
     if (const auto* command = std::get_if<LineCommand>(&line))
-        drawn.push_back(command->line);
-    BodyForces forces = ForcesOf(lines, points);
-    Solve(forces, lines.back());
-    Draw(points, forces, drawn);
+        problem.lines.push_back(command->line);
+    problem.forces = ForcesOf(lines, problem.structure.points);
+    Solve(problem.forces, lines.back());
+    Draw(problem);
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ struct Program::Tools {
     tools::calculator::Calculator calculator;
     frame::DirectionClock clock;
     tools::particle::Parts particle;
-    tools::rigid::RigidBody rigid_body;
+    tools::rigid::RigidTool rigid_body;
     tools::kinematics::KinematicsTool kinematics;
 
   private:

@@ -4,17 +4,14 @@
 #include <array>
 #include <utility>
 
-#include "mechanics/forces/equation_text.h"
-#include "mechanics/forces/unknowns.h"
 #include "numeric/checked.h"
-#include "text/markup.h"
-#include "text/number_text.h"
 #include "text/symbols.h"
 #include "text/utf8.h"
 
 namespace tavrelo::mechanics::rigid {
 namespace {
 
+using forces::UnknownTerm;
 using numeric::CheckedAdd;
 using numeric::CheckedMultiply;
 using numeric::CheckedSubtract;
@@ -32,53 +29,56 @@ struct BodySums {
     BodyEquation m;
 };
 
-void AddTerm(BodyEquation& sum, double coef, const std::string& symbol) {
+bool SameUnknown(const UnknownTerm& a, const UnknownTerm& b) {
+    return a.function == b.function && text::SameSymbol(a.magnitude, b.magnitude) &&
+           text::SameSymbol(a.angle, b.angle);
+}
+
+void AddTerm(BodyEquation& sum, double coef, const UnknownTerm& unknown) {
     for (BodyTerm& term : sum.terms)
-        if (mechanics::forces::SameUnknown(term.symbol, symbol)) {
+        if (SameUnknown(term.unknown, unknown)) {
             term.coef = CheckedAdd(term.coef, coef);
             return;
         }
-    sum.terms.push_back({coef, symbol});
+    sum.terms.push_back({coef, unknown});
 }
 
 void AddConstant(BodyEquation& sum, double value) { sum.constant = CheckedAdd(sum.constant, value); }
 
 // Adds a component times `arm`: 1 in its own sum, the lever in the sum of moments.
-void AddComponent(BodyEquation& sum, double arm, const mechanics::forces::ForceRow& force,
-                  const mechanics::forces::ComponentColumns& columns) {
+void AddComponent(BodyEquation& sum, double arm, const forces::ForceRow& force,
+                  const forces::ComponentColumns& columns) {
     const std::string unknown = force[columns.unknown].Text();
     if (unknown.empty())
         AddConstant(sum, CheckedMultiply(arm, force[columns.component].Number()));
     else
-        AddTerm(sum, CheckedMultiply(arm, force[columns.coefficient].Number()), unknown);
+        AddTerm(sum, CheckedMultiply(arm, force[columns.coefficient].Number()), forces::ReadUnknown(unknown));
 }
 
-void AddCouple(BodyEquation& moments, const text::Value& couple) {
-    if (text::IsNum(couple)) {
-        AddConstant(moments, couple.Number());
-        return;
-    }
-    const text::FactoredSymbol unknown = text::SplitFactor(couple.Text());
-    AddTerm(moments, unknown.factor, unknown.symbol);
+void AddCouple(BodyEquation& moments, const Couple& couple) {
+    if (couple.IsKnown())
+        AddConstant(moments, *couple.value);
+    else
+        AddTerm(moments, couple.sign, {couple.symbol, forces::AngleFunction::None, {}});
 }
 
 // The moment of a force is rx Fy - ry Fx.
 void AddForceMoment(BodyEquation& moments, const ChosenBody& body, const BodyForce& row) {
-    AddComponent(moments, CheckedSubtract(body.y0, row.y), row.force, mechanics::forces::kXColumns);
-    AddComponent(moments, CheckedSubtract(row.x, body.x0), row.force, mechanics::forces::kYColumns);
+    AddComponent(moments, CheckedSubtract(body.y0, row.y), row.force, forces::kXColumns);
+    AddComponent(moments, CheckedSubtract(row.x, body.x0), row.force, forces::kYColumns);
 }
 
 void AddRow(BodySums& sums, const ChosenBody& body, const BodyForce& row) {
     if (row.HasForce()) {
-        AddComponent(sums.x, 1, row.force, mechanics::forces::kXColumns);
-        AddComponent(sums.y, 1, row.force, mechanics::forces::kYColumns);
+        AddComponent(sums.x, 1, row.force, forces::kXColumns);
+        AddComponent(sums.y, 1, row.force, forces::kYColumns);
     }
     if (body.is_particle)
         return;
     if (row.HasForce())
         AddForceMoment(sums.m, body, row);
-    if (row.HasCouple())
-        AddCouple(sums.m, row.couple);
+    if (row.couple)
+        AddCouple(sums.m, *row.couple);
 }
 
 BodySums SumsOf(const BodyForces& forces, const ChosenBody& body) {
@@ -93,14 +93,13 @@ BodySums SumsOf(const BodyForces& forces, const ChosenBody& body) {
 // Whether "1x" or "1X" stands in the list for that equation.
 bool IsSuppressed(const BodyEquation& equation, std::string_view list) {
     const std::string name = std::to_string(equation.body) + std::string(LetterOf(equation.sum));
-    while (true) {
-        const std::size_t comma = list.find(',');
-        if (text::EqualIgnoringCase(text::Trim(list.substr(0, comma)), name))
+    for (std::size_t start = 0; start <= list.size();) {
+        const std::size_t end = std::min(list.find(',', start), list.size());
+        if (text::EqualIgnoringCase(text::Trim(list.substr(start, end - start)), name))
             return true;
-        if (comma == std::string_view::npos)
-            return false;
-        list.remove_prefix(comma + 1);
+        start = end + 1;
     }
+    return false;
 }
 
 void DropZeros(BodyEquation& equation) {
@@ -133,17 +132,9 @@ void ListUnknowns(BodyEquations& result) {
         for (const BodyEquation& equation : result.equations)
             if (equation.sum == sum)
                 for (const BodyTerm& term : equation.terms) {
-                    const mechanics::forces::UnknownTerm unknown =
-                        mechanics::forces::ReadUnknown(term.symbol);
-                    ListName(result.magnitudes, result.unknowns, unknown.magnitude);
-                    ListName(result.angles, result.unknowns, unknown.angle);
+                    ListName(result.magnitudes, result.unknowns, term.unknown.magnitude);
+                    ListName(result.angles, result.unknowns, term.unknown.angle);
                 }
-}
-
-// The name as the diagrams show it. One that holds marks of the markup itself stays as it was typed.
-std::string NameMarkup(const std::string& symbol, int decimals) {
-    const std::string escaped = text::EscapeMarks(symbol);
-    return escaped == symbol ? text::Trim(text::SymbolMarkup(1, symbol, decimals)) : escaped;
 }
 
 }  // namespace
@@ -171,14 +162,6 @@ std::variant<text::Refusal, BodyEquations> BuildEquations(const BodyForces& forc
     if (result.unknowns.empty())
         return text::Refusal{kNoUnknowns};
     return result;
-}
-
-std::string EquationLine(const BodyEquation& equation, int decimals) {
-    mechanics::forces::Equation shown = {{}, equation.constant};
-    for (const BodyTerm& term : equation.terms)
-        shown.terms.push_back({term.coef, NameMarkup(term.symbol, decimals)});
-    const std::string text = mechanics::forces::EquationText(shown, decimals);
-    return std::string(LetterOf(equation.sum)) + (text.starts_with(' ') ? ":" : ": ") + text;
 }
 
 std::optional<text::Refusal> CheckAngles(const BodyEquations& equations, std::size_t bodies) {

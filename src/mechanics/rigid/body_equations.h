@@ -7,6 +7,7 @@
 #include <variant>
 #include <vector>
 
+#include "mechanics/forces/unknowns.h"
 #include "mechanics/rigid/body_force.h"
 
 namespace tavrelo::mechanics::rigid {
@@ -24,11 +25,10 @@ struct ChosenBody {
     double y0 = 0;
 };
 
-/// A coefficient and the text of the unknown that it multiplies: "F1", "cos A" or "F1 cos A", as stored in
-/// the table of forces (the first writing met).
+/// A coefficient and the unknown that it multiplies, as the first force that holds it writes it.
 struct BodyTerm {
     double coef;
-    std::string symbol;
+    forces::UnknownTerm unknown;
 };
 
 /// A sum equal to zero. An empty one still counts as an equation.
@@ -53,9 +53,6 @@ struct BodyEquations {
 std::variant<text::Refusal, BodyEquations> BuildEquations(const BodyForces& forces,
                                                           std::span<const ChosenBody> bodies,
                                                           std::string_view suppressed);
-
-/// "x: A!X + B ;- 100 = 0" in rich-text markup, one blank behind the colon.
-std::string EquationLine(const BodyEquation& equation, int decimals);
 
 /// Why equations with an unknown angle are not for this program: too many angles, or too many bodies;
 /// nothing when there is no angle, or one on a single body.

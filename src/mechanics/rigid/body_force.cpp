@@ -6,8 +6,8 @@
 #include <system_error>
 #include <utility>
 
-#include "mechanics/forces/unknowns.h"
 #include "notation/force_parser.h"
+#include "notation/number_product.h"
 #include "notation/vector_format.h"
 #include "numeric/angles.h"
 #include "text/number_text.h"
@@ -71,22 +71,20 @@ bool IsCoupleName(std::string_view name) {
            name.find_first_of(" /:,;<") == std::string_view::npos;
 }
 
-std::variant<text::Refusal, text::Value> ReadCouple(std::string_view text) {
+std::variant<text::Refusal, Couple> ReadCouple(const std::string& text) {
     if (text::IsNum(text))
-        return text::Value(text::ToNumber(text));
+        return Couple{.text = text, .value = text::ToNumber(text)};
     const std::string name = NameOfCouple(text);
     if (!IsCoupleName(name))
         return text::Refusal{"El símbolo debe constar de una literal y uno o dos subíndices."};
-    return text::Value((text.starts_with(kMinus) ? "-" : "") + text::ToUpper(name));
+    return Couple{.text = text, .symbol = text::ToUpper(name), .sign = text.starts_with(kMinus) ? -1.0 : 1.0};
 }
 
 std::optional<text::Refusal> SetCouple(BodyForce& row, const std::string& text) {
-    const auto couple = ReadCouple(text);
+    auto couple = ReadCouple(text);
     if (const auto* refusal = std::get_if<text::Refusal>(&couple))
         return *refusal;
-    row.couple = std::get<text::Value>(couple);
-    row.couple_text = text;
-    row.couple_colour = row.couple.HoldsNumber() ? mechanics::forces::kKnown : mechanics::forces::kUnknown;
+    row.couple = std::get<Couple>(std::move(couple));
     return {};
 }
 
@@ -94,15 +92,8 @@ std::optional<text::Refusal> SetForce(BodyForce& row, const std::string& text, i
     const auto parsed = notation::ParseForce(text, decimals);
     if (const auto* refusal = std::get_if<text::Refusal>(&parsed))
         return *refusal;
-    row.force = mechanics::forces::RowOf(std::get<notation::ForceRecord>(parsed));
+    row.force = forces::RowOf(std::get<notation::ForceRecord>(parsed));
     return {};
-}
-
-void SetPlace(BodyForce& row, const PointRecord& point) {
-    row.x = point.x;
-    row.y = point.y;
-    row.draw_x = point.draw_x;
-    row.draw_y = point.draw_y;
 }
 
 // --- Negation
@@ -111,9 +102,10 @@ std::string ToggledMinus(const std::string& text) {
     return text.starts_with(kMinus) ? text::Trim(std::string_view(text).substr(1)) : kMinus + text;
 }
 
-// A number or symbol with the other sign.
+// A number, a product of numbers or a symbol with the other sign.
 std::string Negated(const std::string& text) {
-    return text::IsNum(text) ? text::NumberToText(-text::ToNumber(text)) : ToggledMinus(text);
+    const std::optional<double> number = notation::ReadNumberProduct(text);
+    return number ? text::NumberToText(-*number) : ToggledMinus(text);
 }
 
 // The opposite of an unknown direction cannot be written: the sign makes the later entry tell so.
@@ -124,14 +116,14 @@ std::string OppositeDirection(const std::string& text) {
     return text::RoundedText(opposite, kAngleDecimals);
 }
 
-char OppositeQuadrant(char letter) {
+// The letter of a quadrant in front becomes that of the opposite one; any other letter stays.
+std::string NegatedQuadrant(std::string text) {
     constexpr std::string_view kQuadrants = "ptsc";
     constexpr std::string_view kOpposites = "tpcs";
-    return kOpposites[kQuadrants.find(letter)];
-}
-
-std::string NegatedQuadrant(const std::string& text) {
-    return OppositeQuadrant(text.front()) + text.substr(1);
+    const std::size_t quadrant = text.empty() ? std::string_view::npos : kQuadrants.find(text.front());
+    if (quadrant != std::string_view::npos)
+        text.front() = kOpposites[quadrant];
+    return text;
 }
 
 std::string NegatedComponents(const VectorFormat& format) {
@@ -150,9 +142,9 @@ std::string NegateByFormat(const VectorFormat& format, const std::string& text) 
         return NegatedComponents(format);
     if (format.code == notation::kPolar)
         return NegatedPolar(format, text);
-    if (format.code == notation::kUnit)
-        return text.front() + OppositeDirection(format.second);
-    return text.front() + Negated(format.second);
+    const std::string letter = text.substr(0, 1);
+    return letter +
+           (format.code == notation::kUnit ? OppositeDirection(format.second) : Negated(format.second));
 }
 
 std::variant<text::Refusal, std::string> NegateForce(const std::string& text) {
@@ -161,7 +153,7 @@ std::variant<text::Refusal, std::string> NegateForce(const std::string& text) {
         return text::Refusal{format.msg};
     if (format.not_colon)
         return NegateByFormat(format, text);
-    return NegateByFormat(format, text::Trim(text.substr(0, text.size() - 1))) + kColon;
+    return NegateByFormat(format, text::Trim(text.substr(0, text.rfind(kColon)))) + kColon;
 }
 
 // Digits stay as typed, unlike those of a component.
@@ -195,8 +187,9 @@ std::variant<text::Refusal, BodyForce> ReadBodyForce(int body, const PointRecord
     BodyForce row;
     row.body = body;
     row.point = point.name;
+    row.x = point.x;
+    row.y = point.y;
     row.text = text;
-    SetPlace(row, point);
     const Sides sides = SidesOf(text);
     if (!IsCoupleAlone(sides))
         if (const auto refusal = SetForce(row, sides.force, decimals))
@@ -207,22 +200,13 @@ std::variant<text::Refusal, BodyForce> ReadBodyForce(int body, const PointRecord
     return row;
 }
 
-bool NeedsDrawDirection(const BodyForce& force) {
-    return mechanics::forces::ReadUnknown(force.force[mechanics::forces::XUnknown].Text()).HasAngle() &&
-           !text::IsNum(force.force[mechanics::forces::DrawDirection]);
-}
-
-void SetDrawDirection(BodyForce& force, double degrees) {
-    const numeric::ClockReading clock = numeric::ClockOf(numeric::CosD(degrees), numeric::SinD(degrees));
-    force.force[mechanics::forces::DrawDirection] = degrees;
-    force.force[mechanics::forces::Hour] = clock.hour;
-    force.force[mechanics::forces::ClockAngle] = clock.angle;
-}
-
-void RefreshPlaces(BodyForces& forces, const PointTable& points) {
+BodyForces AtPoints(BodyForces forces, const PointTable& points) {
     for (BodyForce& row : forces)
-        if (const PointRecord* point = FindPoint(points, row.point))
-            SetPlace(row, *point);
+        if (const PointRecord* point = FindPoint(points, row.point)) {
+            row.x = point->x;
+            row.y = point->y;
+        }
+    return forces;
 }
 
 std::variant<text::Refusal, std::string> NegateForceText(std::string_view text) {

@@ -11,22 +11,29 @@
 
 namespace tavrelo::mechanics::rigid {
 
+/// A couple, positive counter-clockwise: a number, or an unknown that has none yet.
+struct Couple {
+    std::string text = {};             // as typed
+    std::optional<double> value = {};  // nothing while it is unknown
+    std::string symbol = {};           // of the unknown, in capitals, of any length; empty for a number
+    double sign = 1;                   // in front of the symbol: 1 or -1
+
+    bool IsKnown() const { return value.has_value(); }
+    friend bool operator==(const Couple&, const Couple&) = default;
+};
+
 /// One force, couple or both on a point of a body.
 struct BodyForce {
-    mechanics::forces::ForceRow force;  // of the pure couple: all columns empty
-    int body = 1;                       // system 1 to 5
+    forces::ForceRow force;  // of a couple alone: all columns empty
+    int body = 1;            // system 1 to 5
     std::string point;
     double x = 0;  // of the point of application, from the origin
     double y = 0;
-    float draw_x = 0;         // pixels from the left of the canvas
-    float draw_y = 0;         // pixels from its top
-    std::string text;         // as typed
-    text::Value couple;       // number, positive counter-clockwise, or its symbol in capitals; empty: none
-    std::string couple_text;  // as typed
-    int couple_colour = mechanics::forces::kKnown;  // kUnknown while the couple is a symbol
+    std::string text;  // as typed
+    std::optional<Couple> couple;
 
-    bool HasForce() const { return !force[mechanics::forces::GivenText].IsEmpty(); }
-    bool HasCouple() const { return !couple.IsEmpty(); }
+    bool HasForce() const { return !force[forces::GivenText].IsEmpty(); }
+    friend bool operator==(const BodyForce&, const BodyForce&) = default;
 };
 using BodyForces = std::vector<BodyForce>;
 
@@ -36,14 +43,8 @@ using BodyForces = std::vector<BodyForce>;
 std::variant<text::Refusal, BodyForce> ReadBodyForce(int body, const PointRecord& point,
                                                      std::string_view text, int decimals);
 
-/// Whether the force is to be drawn in a direction that only the user knows: an unknown one that has not been
-/// drawn before.
-bool NeedsDrawDirection(const BodyForce& force);
-/// Draws the force from now on in that direction (degrees).
-void SetDrawDirection(BodyForce& force, double degrees);
-
-/// Copies the coordinates and drawing places of the points into the rows that act on them.
-void RefreshPlaces(BodyForces& forces, const PointTable& points);
+/// The forces at the coordinates that their points have now.
+BodyForces AtPoints(BodyForces forces, const PointTable& points);
 
 /// The text of the opposite force or couple: "30, -40/250" is "-30, 40/-250". An unknown direction only takes
 /// a minus sign, which ParseForce refuses. Refused for a couple's symbol of more than three characters and

@@ -1,12 +1,13 @@
 #include "mechanics/rigid/body_solver.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <utility>
 
 #include "mechanics/forces/substitution.h"
 #include "mechanics/forces/unknowns.h"
-#include "mechanics/rigid/body_angle.h"
+#include "mechanics/rigid/unknown_angle.h"
 #include "numeric/angles.h"
 #include "numeric/checked.h"
 #include "numeric/linear_systems.h"
@@ -23,12 +24,13 @@ text::Refusal CountsDiffer(std::size_t unknowns, std::size_t equations) {
             " ecuaciones."};
 }
 
-// Place of an unknown in the list that holds it, from 0.
-std::size_t PlaceOf(const std::vector<std::string>& unknowns, std::string_view name) {
-    std::size_t place = 0;
-    while (!text::SameSymbol(unknowns[place], name))
-        ++place;
-    return place;
+// Place of a force or couple in the list of unknowns, from 0; none for a stranger.
+std::optional<std::size_t> PlaceOf(const std::vector<std::string>& unknowns, std::string_view name) {
+    const auto found = std::ranges::find_if(
+        unknowns, [&](const std::string& known) { return text::SameSymbol(known, name); });
+    if (found == unknowns.end())
+        return {};
+    return static_cast<std::size_t>(found - unknowns.begin());
 }
 
 BodyOutcome SolveLinearEquations(const BodyEquations& system) {
@@ -39,7 +41,8 @@ BodyOutcome SolveLinearEquations(const BodyEquations& system) {
     std::vector<double> values(n);
     for (std::size_t row = 0; row < n; ++row) {
         for (const BodyTerm& term : system.equations[row].terms)
-            matrix(row, PlaceOf(system.unknowns, term.symbol)) = term.coef;
+            if (const auto place = PlaceOf(system.unknowns, term.unknown.magnitude))
+                matrix(row, *place) = term.coef;
         values[row] = -system.equations[row].constant;
     }
     const numeric::LinearOutcome outcome = numeric::SolveLinear(matrix, values);
@@ -51,13 +54,6 @@ BodyOutcome SolveLinearEquations(const BodyEquations& system) {
     return results;
 }
 
-std::string ResultLine(const BodyResults& results, int decimals) {
-    std::string line;
-    for (const FoundUnknown& found : results)
-        line += (line.empty() ? "" : ", ") + found.name + " = " + text::RoundedText(found.value, decimals);
-    return line;
-}
-
 std::optional<double> ValueOf(const BodyResults& results, std::string_view name, bool is_angle) {
     for (const FoundUnknown& found : results)
         if (found.is_angle == is_angle && text::SameSymbol(found.name, name))
@@ -67,25 +63,22 @@ std::optional<double> ValueOf(const BodyResults& results, std::string_view name,
 
 // What the coefficient of an unknown is to be multiplied by; nothing while a part of it is unknown.
 std::optional<double> FactorOf(const BodyResults& results, const std::string& text) {
-    const mechanics::forces::UnknownTerm unknown = mechanics::forces::ReadUnknown(text);
+    const forces::UnknownTerm unknown = forces::ReadUnknown(text);
     if (!unknown.HasAngle())
         return ValueOf(results, unknown.magnitude, false);
     const auto magnitude = unknown.HasBoth() ? ValueOf(results, unknown.magnitude, false) : 1.0;
     const auto angle = ValueOf(results, unknown.angle, true);
     if (!magnitude || !angle)
         return {};
-    const bool is_cos = unknown.function == mechanics::forces::AngleFunction::Cos;
+    const bool is_cos = unknown.function == forces::AngleFunction::Cos;
     return CheckedMultiply(*magnitude, is_cos ? numeric::CosD(*angle) : numeric::SinD(*angle));
 }
 
-void UpdateCouple(BodyForce& row, const BodyResults& results) {
-    if (!row.HasCouple() || text::IsNum(row.couple))
+void UpdateCouple(Couple& couple, const BodyResults& results) {
+    if (couple.IsKnown())
         return;
-    const text::FactoredSymbol unknown = text::SplitFactor(row.couple.Text());
-    if (const auto value = ValueOf(results, unknown.symbol, false)) {
-        row.couple = CheckedMultiply(unknown.factor, *value);
-        row.couple_colour = mechanics::forces::kKnown;
-    }
+    if (const auto value = ValueOf(results, couple.symbol, false))
+        couple.value = CheckedMultiply(couple.sign, *value);
 }
 
 }  // namespace
@@ -96,21 +89,14 @@ BodyOutcome SolveEquations(const BodyEquations& equations, std::size_t bodies) {
     return equations.angles.empty() ? SolveLinearEquations(equations) : SolveWithAngle(equations);
 }
 
-std::string QuestionBetween(const BodyChoice& choice, int decimals) {
-    return "Solución 1:\n" + ResultLine(choice[0], decimals) + "\nSolución 2:\n" +
-           ResultLine(choice[1], decimals) +
-           "\nPara escoger la primera solución oprime \"Sí\", para la segunda oprime \"No\".";
-}
-
-void UpdateBodyForces(BodyForces& forces, const BodyResults& results, int decimals) {
-    BodyForces updated = forces;
-    for (BodyForce& row : updated) {
-        mechanics::forces::Substitute(row.force,
-                                      [&](const std::string& text) { return FactorOf(results, text); });
-        mechanics::forces::MarkSolved(row.force, decimals);
-        UpdateCouple(row, results);
+BodyForces WithResults(BodyForces forces, const BodyResults& results, int decimals) {
+    for (BodyForce& row : forces) {
+        forces::Substitute(row.force, [&](const std::string& text) { return FactorOf(results, text); });
+        forces::MarkSolved(row.force, decimals);
+        if (row.couple)
+            UpdateCouple(*row.couple, results);
     }
-    forces = std::move(updated);
+    return forces;
 }
 
 }  // namespace tavrelo::mechanics::rigid

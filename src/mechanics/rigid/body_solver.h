@@ -24,15 +24,12 @@ using BodyChoice = std::array<BodyResults, 2>;
 using BodyOutcome = std::variant<text::Refusal, BodyResults, BodyChoice>;
 
 /// Solves the equations of `bodies` bodies: a linear system, its results in the order of the unknowns, or one
-/// body with one unknown angle (see body_angle.h). Fails with Overflow.
+/// body with one unknown angle (see unknown_angle.h). Fails with Overflow.
 BodyOutcome SolveEquations(const BodyEquations& equations, std::size_t bodies);
 
-/// The text of the question between two results, numbers bare; lines parted by "\n".
-std::string QuestionBetween(const BodyChoice& choice, int decimals);
-
-/// Writes the results into all rows that hold their symbols, of whatever body. A force that becomes known is
-/// rewritten as a known one with the colour of a solved one, a couple becomes its number in the colour of a
-/// known one; texts as typed stay. When it fails, with Overflow, no row has changed.
-void UpdateBodyForces(BodyForces& forces, const BodyResults& results, int decimals);
+/// The forces with the results in all rows that hold their symbols, of whatever body. A force that becomes
+/// known is rewritten as a known one with the colour of a solved one, a couple has its number; texts as typed
+/// stay. Fails with Overflow.
+BodyForces WithResults(BodyForces forces, const BodyResults& results, int decimals);
 
 }  // namespace tavrelo::mechanics::rigid

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "notation/force_parser.h"
+#include "notation/number_product.h"
 #include "notation/vector_format.h"
 #include "numeric/angles.h"
 #include "numeric/checked.h"
@@ -109,19 +110,18 @@ Step StepBy(Series series, double direction, double value) {
     return {value * numeric::CosD(direction), value * numeric::SinD(direction)};
 }
 
-ChainRefusal Failed(ChainField field, std::size_t value = 0) {
-    return {std::string(text::kCommandFailed), field, value};
-}
+ChainRefusal Missing(ChainField field, std::size_t value = 0) { return {std::nullopt, field, value}; }
 
 std::variant<ChainRefusal, Step> FurtherStep(const ChainEntry& entry, const ForceRecord& first,
                                              std::size_t further) {
     const std::optional<Series> series = SeriesFor(first, entry.series);
     if (!series)
-        return Failed(ChainField::Series);
+        return Missing(ChainField::Series);
     const std::string text = further < entry.texts.size() ? text::Trim(entry.texts[further]) : "";
-    if (!text::IsNum(text))
-        return Failed(ChainField::Value, further);
-    return StepBy(*series, first[notation::ForceDirection].Number(), text::ToNumber(text));
+    const std::optional<double> value = notation::ReadNumberProduct(text);
+    if (!value)
+        return Missing(ChainField::Value, further);
+    return StepBy(*series, first[notation::ForceDirection].Number(), *value);
 }
 
 // Of the pair that begins at the letter `pair` of the chain.
@@ -160,20 +160,20 @@ bool NeedsSeries(std::string_view format_code) {
 std::variant<ChainRefusal, SegTable> ChainRows(const ChainEntry& entry, const PointTable& known,
                                                int decimals) {
     if (const auto refusal = CheckCommandChain(entry.chain))
-        return ChainRefusal{refusal->text, ChainField::Chain};
+        return ChainRefusal{*refusal, ChainField::Chain};
     const auto parsed = notation::ParseForce(entry.vector, decimals);
     if (const auto* refusal = std::get_if<text::Refusal>(&parsed))
-        return ChainRefusal{refusal->text, ChainField::Vector};
+        return ChainRefusal{*refusal, ChainField::Vector};
     const auto& first = std::get<ForceRecord>(parsed);
     const std::vector<std::string> letters = LettersOf(entry.chain);
     if (const auto refusal = CheckVector(first, letters.size() - 1))
-        return ChainRefusal{refusal->text, ChainField::Vector};
+        return ChainRefusal{*refusal, ChainField::Vector};
     SegTable rows;
     for (std::size_t pair = 0; pair + 1 < letters.size(); ++pair) {
         const std::string& from = letters[pair];
         const std::string& to = letters[pair + 1];
         if (const auto refusal = CheckPair(from, to, known))
-            return ChainRefusal{refusal->text, ChainField::Chain};
+            return ChainRefusal{*refusal, ChainField::Chain};
         const auto step = StepOf(entry, first, pair);
         if (const auto* refusal = std::get_if<ChainRefusal>(&step))
             return *refusal;

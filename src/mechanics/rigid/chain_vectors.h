@@ -27,7 +27,7 @@ std::optional<text::Refusal> CheckChain(std::string_view chain);
 enum class ChainField { Chain, Vector, Series, Value };
 
 struct ChainRefusal {
-    std::string text;
+    std::optional<text::Refusal> refusal;  // nothing: the part is missing, and no words are known for that
     ChainField field;
     std::size_t value = 0;  // place in the texts, for a value
 };

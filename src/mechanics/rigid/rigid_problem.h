@@ -8,21 +8,21 @@
 
 namespace tavrelo::mechanics::rigid {
 
-/// Everything that a problem of rigid bodies consists of. It outlasts a change of tool; only the new-problem
-/// command empties it.
-struct RigidProblem : Structure {
+/// Everything that a problem of rigid bodies consists of: what the user gave, and what was found. The steps
+/// (structure_steps.h, force_steps.h) take one and give a new one. It outlasts a change of tool; only the
+/// new-problem command empties it.
+struct RigidProblem {
+    Structure structure;
     SystemPoints systems;
     LineTable lines;
     BodyForces forces;
     BodyForces backup;  // the forces before the last solution
-    ShownDCL shown{};
 
     /// The letters of a system (1 to 5); empty for one that is not defined or does not exist.
     std::string_view LettersOfSystem(int system) const;
     bool IsDefined(int system) const { return !LettersOfSystem(system).empty(); }
-    /// Whether the system's diagram is in view.
-    bool IsShown(int system) const { return shown[static_cast<std::size_t>(system) - 1]; }
-    void Show(int system, bool in_view) { shown[static_cast<std::size_t>(system) - 1] = in_view; }
+
+    friend bool operator==(const RigidProblem&, const RigidProblem&) = default;
 };
 
 /// What is told about a system, by its number as typed, that is not defined.

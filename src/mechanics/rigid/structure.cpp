@@ -14,35 +14,25 @@ namespace {
 
 constexpr double kCoincidence = 1e-7;
 
-// A point found by a vector from one that is known already.
-struct Found {
-    SegRow* row;
-    PointRecord point;
-};
-
-PointRecord At(const std::string& name, double x, double y) { return {name, x, y, 0, 0}; }
-
 bool IsKnown(const PointTable& points, std::string_view name) { return PointIndex(points, name) != 0; }
 
 // The other end of a vector that leaves or reaches `base`, when it is still to be found.
 std::optional<PointRecord> OtherEnd(const SegRow& row, const PointRecord& base, const PointTable& points) {
     if (row.from == base.name && !IsKnown(points, row.to))
-        return At(row.to, numeric::CheckedAdd(base.x, row.dx), numeric::CheckedAdd(base.y, row.dy));
+        return PointRecord{row.to, numeric::CheckedAdd(base.x, row.dx), numeric::CheckedAdd(base.y, row.dy)};
     if (row.to == base.name && !IsKnown(points, row.from))
-        return At(row.from, numeric::CheckedSubtract(base.x, row.dx),
-                  numeric::CheckedSubtract(base.y, row.dy));
+        return PointRecord{row.from, numeric::CheckedSubtract(base.x, row.dx),
+                           numeric::CheckedSubtract(base.y, row.dy)};
     return {};
 }
 
-// The walk decides which of two coinciding points the message names and the order of the points.
-std::optional<Found> FindNext(SegTable& segments, const PointTable& points) {
+// The next point that a vector leads to from one that is known. The walk decides which of two coinciding
+// points the message names, and the order of the points.
+std::optional<PointRecord> FindNext(const SegTable& segments, const PointTable& points) {
     for (const PointRecord& base : points)
-        for (SegRow& row : segments) {
-            if (row.used)
-                continue;
-            if (const auto end = OtherEnd(row, base, points))
-                return Found{&row, *end};
-        }
+        for (const SegRow& row : segments)
+            if (auto end = OtherEnd(row, base, points))
+                return end;
     return {};
 }
 
@@ -100,31 +90,28 @@ bool HasRepeated(std::string_view text) {
     return static_cast<std::size_t>(text::RemoveDuplicates(letters)) < count;
 }
 
-std::variant<text::Refusal, PointTable> ComputeCoords(SegTable& segments) {
-    for (SegRow& row : segments)
-        row.used = false;
-    PointTable points = {At(segments.front().from, 0, 0)};
-    while (const auto next = FindNext(segments, points)) {
-        if (const PointRecord* other = CoincidingPoint(points, next->point))
-            return text::Refusal{"El punto " + next->point.name + " coincidiría con " + other->name};
-        points.push_back(next->point);
-        next->row->used = true;
+std::variant<text::Refusal, PointTable> ComputeCoords(const SegTable& segments) {
+    if (segments.empty())
+        return PointTable{};
+    PointTable points = {{segments.front().from, 0, 0}};
+    while (auto next = FindNext(segments, points)) {
+        if (const PointRecord* other = CoincidingPoint(points, *next))
+            return text::Refusal{"El punto " + next->name + " coincidiría con " + other->name};
+        points.push_back(*std::move(next));
     }
     return points;
 }
 
-std::optional<text::Refusal> MoveOrigin(PointTable& points, std::string_view origin) {
-    const PointRecord* found = FindPoint(points, origin);
-    if (!found)
+std::variant<text::Refusal, PointTable> SeenFrom(const PointTable& points, std::string_view origin) {
+    const PointRecord* base = FindPoint(points, origin);
+    if (!base)
         return text::Refusal{"No conozco las coordenadas del punto " + std::string(origin)};
-    const PointRecord base = *found;
-    PointTable moved = points;
-    for (PointRecord& point : moved) {
-        point.x = numeric::CheckedSubtract(point.x, base.x);
-        point.y = numeric::CheckedSubtract(point.y, base.y);
+    PointTable seen = points;
+    for (PointRecord& point : seen) {
+        point.x = numeric::CheckedSubtract(point.x, base->x);
+        point.y = numeric::CheckedSubtract(point.y, base->y);
     }
-    points = std::move(moved);
-    return {};
+    return seen;
 }
 
 std::vector<std::string> CoordLines(const SegTable& segments, const PointTable& points, int decimals) {

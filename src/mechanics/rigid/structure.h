@@ -21,7 +21,8 @@ struct SegRow {
     std::string to;
     double dx = 0;
     double dy = 0;
-    bool used = false;  // ComputeCoords has found a point by it
+
+    friend bool operator==(const SegRow&, const SegRow&) = default;
 };
 using SegTable = std::vector<SegRow>;
 
@@ -29,8 +30,8 @@ struct PointRecord {
     std::string name;  // one letter
     double x = 0;      // from the origin
     double y = 0;
-    float draw_x = 0;  // pixels from the left of the canvas; set by DrawConfig
-    float draw_y = 0;  // pixels from its top
+
+    friend bool operator==(const PointRecord&, const PointRecord&) = default;
 };
 using PointTable = std::vector<PointRecord>;
 
@@ -47,14 +48,13 @@ using LineTable = std::vector<LineRow>;
 /// The letters of each system in order; empty for one that is not defined. Index 0 is system 1.
 using SystemPoints = std::array<std::string, kSystems>;
 
-/// The systems whose diagrams are in view; index 0 is system 1.
-using ShownDCL = std::array<bool, kSystems>;
-
 /// Separation vectors and the points that they lead to.
 struct Structure {
     SegTable segments;
     PointTable points;   // of the letters that the vectors reach from the first point on
     std::string origin;  // letter of the point at (0, 0); empty without vectors
+
+    friend bool operator==(const Structure&, const Structure&) = default;
 };
 
 /// Place of the point in the table, from 1; 0 when it is not there.
@@ -71,14 +71,12 @@ std::vector<std::string> LettersOf(std::string_view text);
 std::vector<std::string> LettersOf(const SegTable& segments);
 
 /// The coordinates of all points that the first vector's start reaches over the vectors, that start being at
-/// (0, 0), and marks the vectors that found a point. Refused when two points coincide within 1e-7 in x and y.
-/// A vector whose two ends are known is passed over, whatever it measures. The drawing places are 0. The list
-/// of vectors must not be empty. Fails with Overflow.
-std::variant<text::Refusal, PointTable> ComputeCoords(SegTable& segments);
+/// (0, 0). Refused when two points coincide within 1e-7 in x and y. A vector whose two ends are known is
+/// passed over, whatever it measures. No vectors, no points. Fails with Overflow.
+std::variant<text::Refusal, PointTable> ComputeCoords(const SegTable& segments);
 
-/// Moves the origin of coordinates to the point of that name; refused when it has no coordinates. Fails with
-/// Overflow, the points unmoved.
-[[nodiscard]] std::optional<text::Refusal> MoveOrigin(PointTable& points, std::string_view origin);
+/// The points seen from the one of that name; refused when it has no coordinates. Fails with Overflow.
+std::variant<text::Refusal, PointTable> SeenFrom(const PointTable& points, std::string_view origin);
 
 /// One line for each letter: "A = (0, 0)", or "D(?, ?)" where the point has no coordinates.
 std::vector<std::string> CoordLines(const SegTable& segments, const PointTable& points, int decimals);

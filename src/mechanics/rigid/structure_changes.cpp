@@ -9,13 +9,13 @@ namespace {
 
 // The structure that the vectors make, seen from the origin.
 std::variant<text::Refusal, Structure> StructureOf(SegTable segments, const std::string& origin) {
-    auto points = ComputeCoords(segments);
-    if (auto* refusal = std::get_if<text::Refusal>(&points))
-        return std::move(*refusal);
-    Structure structure{std::move(segments), std::get<PointTable>(std::move(points)), origin};
-    if (auto refusal = MoveOrigin(structure.points, origin))
-        return std::move(*refusal);
-    return structure;
+    const auto points = ComputeCoords(segments);
+    if (const auto* refusal = std::get_if<text::Refusal>(&points))
+        return *refusal;
+    auto seen = SeenFrom(std::get<PointTable>(points), origin);
+    if (const auto* refusal = std::get_if<text::Refusal>(&seen))
+        return *refusal;
+    return Structure{std::move(segments), std::get<PointTable>(std::move(seen)), origin};
 }
 
 }  // namespace
@@ -30,7 +30,7 @@ std::variant<ChainRefusal, Structure> Extended(const Structure& structure, const
     const std::string origin = structure.segments.empty() ? segments.front().from : structure.origin;
     auto extended = StructureOf(std::move(segments), origin);
     if (const auto* refusal = std::get_if<text::Refusal>(&extended))
-        return ChainRefusal{refusal->text, ChainField::Vector};
+        return ChainRefusal{*refusal, ChainField::Vector};
     return std::get<Structure>(std::move(extended));
 }
 

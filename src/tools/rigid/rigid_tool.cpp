@@ -1,6 +1,7 @@
 #include "tools/rigid/rigid_tool.h"
 
-#include "tools/rigid/rigid_grid.h"
+#include "window/guarded.h"
+#include "window/questions.h"
 
 namespace tavrelo::tools::rigid {
 namespace {
@@ -8,66 +9,57 @@ namespace {
 // Pages of tabStat.
 enum Page { kConfiguration = 0, kDiagrams = 1, kEquations = 2 };
 
-void Focus(window::Form1& form, window::TextBox& box) {
-    form.SetFocus(box);
-    box.SelectAll();
-}
-
 }  // namespace
 
-RigidBody::RigidBody(window::Form1& form)
-    : m_form(form), m_board(form), m_config(m_board), m_diagrams(m_board), m_equations(m_board) {
-    ArrangeGd1(form);
-    form.spnColor.SetRange(1, mechanics::rigid::kSystems);
-    form.tabStat.OnClick = [this](int) {
-        if (m_form.tabStat.Current() == kDiagrams)
+RigidTool::RigidTool(window::Form1& form)
+    : m_form(form), m_view(form), m_configuration(m_view), m_diagrams(m_view), m_equations(m_view) {
+    window::TabStrip& pages = m_view.Controls().tabStat;
+    On(form, pages.OnClick, [this, &pages](int) {
+        if (pages.Current() == kDiagrams)
             m_diagrams.Enter();
-    };
-    m_config.OnDiagramsWanted = [this] { ShowDiagrams(); };
-    m_config.OnErased = [this] { m_diagrams.RestoreDCLCtrls(); };
+    });
+    m_configuration.OnDiagramsWanted = [this] { ShowDiagrams(); };
+    m_configuration.OnErased = [this] { m_diagrams.RestoreDCLCtrls(); };
     m_diagrams.OnConfigurationWanted = [this] { ShowConfiguration(); };
     m_diagrams.OnEquationsWanted = [this] { ShowEquations(); };
     m_equations.OnNewProblem = [this] { NewEstcrProblem(); };
 }
 
-frame::ToolHooks RigidBody::Hooks() {
-    frame::ToolHooks hooks;
-    hooks.uses_pic1 = true;
-    hooks.on_entry = [this] {
-        m_board.Draw();
-        m_form.SetFocus(m_form.txtSegm[0]);
-    };
-    return hooks;
+frame::ToolHooks RigidTool::Hooks() {
+    return {.on_entry =
+                [this] {
+                    m_view.Draw();
+                    m_configuration.Focus();
+                },
+            .uses_pic1 = true};
 }
 
-void RigidBody::ShowConfiguration() {
-    m_form.tabStat.SetCurrent(kConfiguration);
-    Focus(m_form, m_form.txtSegm[0]);
+void RigidTool::ShowConfiguration() {
+    m_view.Controls().tabStat.SetCurrent(kConfiguration);
+    m_configuration.FocusAndSelect();
 }
 
-void RigidBody::ShowDiagrams() {
-    m_form.tabStat.SetCurrent(kDiagrams);
+void RigidTool::ShowDiagrams() {
+    m_view.Controls().tabStat.SetCurrent(kDiagrams);
     m_diagrams.Enter();
-    Focus(m_form, m_form.txtBody[1]);
+    m_diagrams.FocusAndSelect();
 }
 
-void RigidBody::ShowEquations() {
-    m_form.tabStat.SetCurrent(kEquations);
-    m_form.SetFocus(m_form.optShowDCL[0]);
+void RigidTool::ShowEquations() {
+    m_view.Controls().tabStat.SetCurrent(kEquations);
+    m_form.SetFocus(m_view.Controls().optShowDCL[0]);
 }
 
-void RigidBody::NewEstcrProblem() {
-    if (m_form.boxes.ShowMessage("Confirmar borrado de todo.", window::kProgramTitle,
-                                 window::Buttons::YesNo) != window::Answer::Yes)
+void RigidTool::NewEstcrProblem() {
+    if (!window::Confirm(m_form.boxes, "Confirmar borrado de todo."))
         return;
-    m_board.DropDiagrams();
-    m_board.Problem() = {};
-    m_config.Clear();
+    m_view.HideAll();
+    m_view.Take({});
+    m_configuration.Clear();
     m_diagrams.RestoreDCLCtrls();
     m_diagrams.Enter();
-    m_form.txtSuprEqn.SetText("");
-    m_form.rtbSolve.SetContent({});
-    m_board.Draw();
+    m_equations.Clear();
+    m_view.Draw();
     ShowConfiguration();
 }
 

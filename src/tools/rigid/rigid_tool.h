@@ -1,34 +1,33 @@
 #pragma once
 
 #include "frame/tool_switch.h"
-#include "tools/rigid/rigid_board.h"
-#include "tools/rigid/rigid_config_tab.h"
-#include "tools/rigid/rigid_dcl_tab.h"
-#include "tools/rigid/rigid_solve_tab.h"
+#include "tools/rigid/configuration_page.h"
+#include "tools/rigid/diagrams_page.h"
+#include "tools/rigid/equations_page.h"
+#include "tools/rigid/problem_in_view.h"
 #include "window/form1.h"
 
 namespace tavrelo::tools::rigid {
 
 /// The tool "Estática del cuerpo rígido": its three pages over one problem, which outlasts a change of tool.
-class RigidBody {
+class RigidTool {
   public:
-    explicit RigidBody(window::Form1& form);
+    explicit RigidTool(window::Form1& form);
 
     frame::ToolHooks Hooks();
-    const mechanics::rigid::RigidProblem& Problem() const { return m_board.Problem(); }
+    const mechanics::rigid::RigidProblem& Problem() const { return m_view.Problem(); }
 
   private:
-    void ShowPage(int page);
     void ShowConfiguration();
     void ShowDiagrams();
     void ShowEquations();
     void NewEstcrProblem();
 
     window::Form1& m_form;
-    RigidBoard m_board;
-    ConfigTab m_config;
-    DclTab m_diagrams;
-    SolveTab m_equations;
+    ProblemInView m_view;
+    ConfigurationPage m_configuration;
+    DiagramsPage m_diagrams;
+    EquationsPage m_equations;
 };
 
 }  // namespace tavrelo::tools::rigid

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "../../failure_code.h"
 #include "body_rows.h"
+#include "text/number_text.h"
 
 namespace tavrelo::mechanics::rigid {
 namespace {
@@ -20,11 +23,40 @@ BodyEquations BuiltOfBody1(const BodyForces& forces, std::string_view suppressed
     return Built(forces, {ChosenBody{}}, suppressed);
 }
 
-// The lines of all equations, the number of the body in front.
-Texts LinesOf(const BodyEquations& equations, int decimals = kDecimals) {
+// "cos Q", "2 F", "- F cos Q": a sign only where the term is negative.
+std::string TermOf(double coef, const forces::UnknownTerm& unknown) {
+    const char* function = unknown.function == forces::AngleFunction::Cos ? "cos" : "sen";
+    std::string text = text::RoundedText(std::abs(coef), kDecimals);
+    if (text == "1")
+        text.clear();
+    for (const std::string& part : std::initializer_list<std::string>{
+             unknown.magnitude, unknown.HasAngle() ? function : "", unknown.angle})
+        if (!part.empty())
+            text.append(text.empty() ? "" : " ").append(part);
+    return (coef < 0 ? "- " : "") + text;
+}
+
+// "1 m: 3 F - 20": the number of the body, the sum, its terms, its constant unless that is 0.
+std::string LineOf(const BodyEquation& equation) {
+    std::string line = std::to_string(equation.body) + " " + std::string(LetterOf(equation.sum)) + ":";
+    bool is_first = true;
+    const auto add = [&](const std::string& term) {
+        line.append(is_first || term.starts_with('-') ? " " : " + ").append(term);
+        is_first = false;
+    };
+    for (const BodyTerm& term : equation.terms)
+        if (text::RoundedText(term.coef, kDecimals) != "0")
+            add(TermOf(term.coef, term.unknown));
+    if (const std::string constant = text::RoundedText(std::abs(equation.constant), kDecimals);
+        constant != "0")
+        add((equation.constant < 0 ? "- " : "") + constant);
+    return line;
+}
+
+Texts LinesOf(const BodyEquations& equations) {
     Texts lines;
     for (const BodyEquation& equation : equations.equations)
-        lines.push_back(std::to_string(equation.body) + " " + EquationLine(equation, decimals));
+        lines.push_back(LineOf(equation));
     return lines;
 }
 
@@ -45,16 +77,16 @@ TEST(BuildEquations, SumsComponentsAndMomentsAboutTheReferencePoint) {
         Texts lines;
     };
     const Row rows[] = {
-        {"5,7", {"1 x: 5 = 0", "1 y: 7 = 0", "1 m: 1 = 0"}},
-        {"5,F", {"1 x: 5 = 0", "1 y: F = 0", "1 m: 3 F ;- 20 = 0"}},
-        {"2F,7", {"1 x: 2 F = 0", "1 y: 7 = 0", "1 m: ;- 8 F + 21 = 0"}},
-        {"-F,3G", {"1 x: ;- F = 0", "1 y: 3 G = 0", "1 m: 4 F + 9 G = 0"}},
-        {"F,2F", {"1 x: F = 0", "1 y: 2 F = 0", "1 m: 2 F = 0"}},
-        {"100<q", {"1 x: 100 cos Q = 0", "1 y: 100 sen Q = 0", "1 m: ;- 400 cos Q + 300 sen Q = 0"}},
-        {"F<q", {"1 x: F cos Q = 0", "1 y: F sen Q = 0", "1 m: ;- 4 F cos Q + 3 F sen Q = 0"}},
-        {"5,7/-30", {"1 x: 5 = 0", "1 y: 7 = 0", "1 m: ;- 29 = 0"}},
-        {"5,7/M", {"1 x: 5 = 0", "1 y: 7 = 0", "1 m: M + 1 = 0"}},
-        {"250", {"1 x: = 0", "1 y: = 0", "1 m: 250 = 0"}},
+        {"5,7", {"1 x: 5", "1 y: 7", "1 m: 1"}},
+        {"5,F", {"1 x: 5", "1 y: F", "1 m: 3 F - 20"}},
+        {"2F,7", {"1 x: 2 F", "1 y: 7", "1 m: - 8 F + 21"}},
+        {"-F,3G", {"1 x: - F", "1 y: 3 G", "1 m: 4 F + 9 G"}},
+        {"F,2F", {"1 x: F", "1 y: 2 F", "1 m: 2 F"}},
+        {"100<q", {"1 x: 100 cos Q", "1 y: 100 sen Q", "1 m: - 400 cos Q + 300 sen Q"}},
+        {"F<q", {"1 x: F cos Q", "1 y: F sen Q", "1 m: - 4 F cos Q + 3 F sen Q"}},
+        {"5,7/-30", {"1 x: 5", "1 y: 7", "1 m: - 29"}},
+        {"5,7/M", {"1 x: 5", "1 y: 7", "1 m: M + 1"}},
+        {"250", {"1 x:", "1 y:", "1 m: 250"}},
     };
     for (const Row& row : rows) {
         // The unknown of body 2 keeps the table from having none.
@@ -68,12 +100,11 @@ TEST(BuildEquations, WritesTheEquationsOfBodyAfterBody) {
     // sin 60 = 0.866, 6 sin 60 = 5.196; the arm of the tie about the foot of the post is 5 cos 45 = 3.536,
     // and that of the tie on the arm 3 sin 45 + 2 cos 45 = 3.536.
     EXPECT_EQ(LinesOf(BuiltOfBody1(Beam())),
-              (Texts{"1 x: A!X ;- 0.5 R = 0", "1 y: A!Y + 0.866 R ;- 100 = 0", "1 m: 5.196 R ;- 300 = 0"}));
+              (Texts{"1 x: AX - 0.5 R", "1 y: AY + 0.866 R - 100", "1 m: 5.196 R - 300"}));
     EXPECT_EQ(LinesOf(Built(Frame(), {{2}, {3}})),
-              (Texts{"2 x: A!X + B!X + 0.707 T = 0", "2 y: A!Y + B!Y ;- 0.707 T = 0",
-                     "2 m: M!1 ;- 2 B!X ;- 3.536 T = 0", "3 x: ;- B!X ;- 0.707 T = 0",
-                     "3 y: ;- B!Y + 0.707 T ;- 40 = 0", "3 m: 2 B!X + 3.536 T ;- 120 = 0"}));
-    EXPECT_EQ(LinesOf(Built(Frame(), {{3}, {2}})).front(), "3 x: ;- B!X ;- 0.707 T = 0");
+              (Texts{"2 x: AX + BX + 0.707 T", "2 y: AY + BY - 0.707 T", "2 m: M1 - 2 BX - 3.536 T",
+                     "3 x: - BX - 0.707 T", "3 y: - BY + 0.707 T - 40", "3 m: 2 BX + 3.536 T - 120"}));
+    EXPECT_EQ(LinesOf(Built(Frame(), {{3}, {2}})).front(), "3 x: - BX - 0.707 T");
 }
 
 TEST(BuildEquations, ListsTheUnknownsOfAllXThenYThenM) {
@@ -109,7 +140,7 @@ TEST(BuildEquations, TakesOneUnknownHoweverItIsWrittenButNotFriction) {
     const BodyEquations equations =
         BuiltOfBody1({RowAt(0, 0, "p60x,Ta"), RowAt(1, 0, "hTA"), RowAt(2, 0, "h-f"), RowAt(2, 0, "hF")});
     EXPECT_EQ(equations.unknowns, (Texts{"Ta", "f", "F"}));
-    EXPECT_EQ(LinesOf(equations)[0], "1 x: 1.5 T!a ;- f + F = 0");
+    EXPECT_EQ(LinesOf(equations)[0], "1 x: 1.5 Ta - f + F");
     const BodyEquations of_couple = BuiltOfBody1({RowAt(0, 0, "vTa"), RowAt(1, 0, "ta")}, "1x, 1y");
     EXPECT_EQ(of_couple.unknowns, (Texts{"TA"}));
 }
@@ -119,32 +150,30 @@ TEST(BuildEquations, DropsATermThatIsExactlyZeroOnly) {
     // nothing and yet is an unknown of x.
     const BodyEquations none = BuiltOfBody1({RowAt(0, 0, "vA"), RowAt(3, 0, "hB"), RowAt(5, 0, "h-B")});
     EXPECT_EQ(none.unknowns, (Texts{"A"}));
-    EXPECT_EQ(LinesOf(none), (Texts{"1 x: = 0", "1 y: A = 0", "1 m: = 0"}));
+    EXPECT_EQ(LinesOf(none), (Texts{"1 x:", "1 y: A", "1 m:"}));
     const BodyEquations dust = BuiltOfBody1({RowAt(0, 0, "p90x,R"), RowAt(0, 0, "AX,AY")});
     EXPECT_EQ(dust.unknowns, (Texts{"R", "AX", "AY"}));
-    EXPECT_EQ(LinesOf(dust), (Texts{"1 x: A!X = 0", "1 y: R + A!Y = 0", "1 m: = 0"}));
+    EXPECT_EQ(LinesOf(dust), (Texts{"1 x: AX", "1 y: R + AY", "1 m:"}));
 }
 
 TEST(BuildEquations, AddsCouplesByTheirSign) {
     EXPECT_EQ(LinesOf(BuiltOfBody1({RowAt(0, 0, "-M1"), RowAt(4, 0, "v-100")})),
-              (Texts{"1 x: = 0", "1 y: ;- 100 = 0", "1 m: ;- M!1 ;- 400 = 0"}));
+              (Texts{"1 x:", "1 y: - 100", "1 m: - M1 - 400"}));
     // A negative one of the same name takes the first away.
     EXPECT_EQ(LinesOf(BuiltOfBody1({RowAt(0, 0, "M"), RowAt(4, 0, "-20"), RowAt(0, 0, "hF/-m")}))[2],
-              "1 m: ;- 20 = 0");
+              "1 m: - 20");
     // A couple has no lever.
-    EXPECT_EQ(LinesOf(Built({RowAt(9, 9, "1,1/ma")}, {{1, false, 9, 7}}))[2], "1 m: M!a ;- 2 = 0");
+    EXPECT_EQ(LinesOf(Built({RowAt(9, 9, "1,1/ma")}, {{1, false, 9, 7}}))[2], "1 m: MA - 2");
 }
 
 TEST(BuildEquations, GivesAParticleTwoEquationsWithoutItsCouples) {
     const BodyForces forces = {RowAt(1, 2, "p30x,F1", 2), RowAt(1, 2, "s45x,F2/M", 2),
                                RowAt(1, 2, "v-100", 2), RowAt(1, 2, "30", 2)};
     const BodyEquations equations = Built(forces, {{2, true, 9, 9}});
-    EXPECT_EQ(LinesOf(equations),
-              (Texts{"2 x: 0.866 F!1 ;- 0.707 F!2 = 0", "2 y: 0.5 F!1 + 0.707 F!2 ;- 100 = 0"}));
+    EXPECT_EQ(LinesOf(equations), (Texts{"2 x: 0.866 F1 - 0.707 F2", "2 y: 0.5 F1 + 0.707 F2 - 100"}));
     EXPECT_EQ(equations.unknowns, (Texts{"F1", "F2"}));
     // Nothing has a lever, be it ever so far away.
-    EXPECT_EQ(LinesOf(Built({RowAt(1e200, 0, "v1E+200"), RowAt(1e200, 0, "hF")}, {{1, true}}))[0],
-              "1 x: F = 0");
+    EXPECT_EQ(LinesOf(Built({RowAt(1e200, 0, "v1E+200"), RowAt(1e200, 0, "hF")}, {{1, true}}))[0], "1 x: F");
 }
 
 TEST(BuildEquations, LeavesOutTheSuppressedEquationsAndTheirUnknowns) {
@@ -197,43 +226,6 @@ TEST(BuildEquations, FailsOnSumsPastTheRangeOfNumbers) {
     EXPECT_EQ(FailureOf([&] { BuiltOfBody1(twice); }), numeric::FailureCode::Overflow);
     const BodyForces far_away = {RowAt(1e200, 0, "v1E+200"), RowAt(0, 0, "hF")};
     EXPECT_EQ(FailureOf([&] { BuiltOfBody1(far_away); }), numeric::FailureCode::Overflow);
-}
-
-TEST(EquationLine, KeepsOneBlankBehindTheColon) {
-    struct Row {
-        BodyEquation equation;
-        int decimals;
-        const char* line;
-    };
-    const Row rows[] = {
-        {{1, BodySum::X, {}, 0}, 3, "x: = 0"},
-        {{1, BodySum::X, {}, 25}, 3, "x: 25 = 0"},
-        {{1, BodySum::Y, {}, -25}, 3, "y: ;- 25 = 0"},
-        {{1, BodySum::X, {{1, "AX"}}, 0}, 3, "x: A!X = 0"},
-        {{1, BodySum::M, {{-1, "M1"}}, -400}, 3, "m: ;- M!1 ;- 400 = 0"},
-        {{1, BodySum::X, {{0.0004, "AX"}, {2, "B"}}, 0}, 3, "x: 2 B = 0"},
-        {{1, BodySum::X, {{0.0004, "AX"}, {-2, "B"}}, 0}, 3, "x: ;- 2 B = 0"},
-        {{1, BodySum::M, {{0.866, "R"}}, -12.34}, 1, "m: 0.9 R ;- 12.3 = 0"},
-        {{1, BodySum::X, {{1, "AX"}, {100, "cos Q"}}, 0}, 3, "x: A!X + 100 cos Q = 0"},
-        {{1, BodySum::Y, {{-100, "sen a1"}}, 0}, 3, "y: ;- 100 sen A!1 = 0"},
-        {{1, BodySum::Y, {{2, "F1 sen q"}}, 0}, 3, "y: 2 F!1 sen Q = 0"},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(EquationLine(row.equation, row.decimals), row.line);
-}
-
-TEST(EquationLine, WritesNamesAsTheDiagramsDo) {
-    struct Row {
-        const char* symbol;
-        const char* name;
-    };
-    const Row rows[] = {
-        {"Ax", "A!X"}, {"MA", "M!a"}, {"Ta", "T!a"},   {"F12", "F!1!2"}, {"fb", "f!b"},
-        {"R", "R"},    {"F!", "F!!"}, {"F/2", "F//2"}, {"F$", "F$$"},    {"cos q!", "cos q!!"},
-    };
-    for (const Row& row : rows)
-        EXPECT_EQ(EquationLine({1, BodySum::X, {{1, row.symbol}}, 0}, kDecimals),
-                  std::string("x: ") + row.name + " = 0");
 }
 
 TEST(CheckAngles, TellsWhatIsNotForThisProgram) {

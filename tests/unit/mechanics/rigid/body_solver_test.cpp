@@ -325,30 +325,11 @@ TEST(SolveEquations, FailsOnResultsPastTheRangeOfNumbers) {
         "No pude resolver el sistema.");
 }
 
-// --- The question
-
-TEST(QuestionBetween, TellsBothResultsInBareNumbers) {
-    const BodyChoice choice = {{{{"AX", -86.602540}, {"AY", 50}, {"Q", 30, true}},
-                                {{"AX", 86.602540}, {"AY", -1e-15}, {"Q", 150, true}}}};
-    EXPECT_EQ(QuestionBetween(choice, 3),
-              "Solución 1:\n"
-              "AX = -86.603, AY = 50, Q = 30\n"
-              "Solución 2:\n"
-              "AX = 86.603, AY = 0, Q = 150\n"
-              "Para escoger la primera solución oprime \"Sí\", para la segunda oprime \"No\".");
-    EXPECT_EQ(QuestionBetween(choice, 0),
-              "Solución 1:\n"
-              "AX = -87, AY = 50, Q = 30\n"
-              "Solución 2:\n"
-              "AX = 87, AY = 0, Q = 150\n"
-              "Para escoger la primera solución oprime \"Sí\", para la segunda oprime \"No\".");
-}
-
 // --- What the results change
 
-TEST(UpdateBodyForces, RewritesAForceThatBecomesKnown) {
+TEST(WithResults, RewritesAForceThatBecomesKnown) {
     BodyForces forces = {RowAt(4, 0, "s30x,2F")};
-    UpdateBodyForces(forces, {{"f", 7}, {"F", -10}}, 2);
+    forces = WithResults(forces, {{"f", 7}, {"F", -10}}, 2);
     const BodyForce& row = forces[0];
     // 20 at 150 degrees, pushed: 20 at -30.
     EXPECT_NEAR(row.force[mechanics::forces::XComponent].Number(), 10 * std::sqrt(3), kTolerance);
@@ -366,7 +347,7 @@ TEST(UpdateBodyForces, RewritesAForceThatBecomesKnown) {
     EXPECT_EQ(row.text, "s30x,2F");
 }
 
-TEST(UpdateBodyForces, PutsValuesWhereverTheirSymbolsStand) {
+TEST(WithResults, PutsValuesWhereverTheirSymbolsStand) {
     struct Row {
         const char* text;
         double x, y;
@@ -380,7 +361,8 @@ TEST(UpdateBodyForces, PutsValuesWhereverTheirSymbolsStand) {
         BodyForces forces = {RowAt(0, 0, row.text, 3)};
         const bool was_known = forces[0].force[mechanics::forces::Colour] == Value(mechanics::forces::kKnown);
         forces[0].force[mechanics::forces::DrawDirection] = 45;
-        UpdateBodyForces(forces, {{"F", 30}, {"f1", 20}, {"F1", 20}, {"Q", q, true}, {"Q", 999}}, kDecimals);
+        forces =
+            WithResults(forces, {{"F", 30}, {"f1", 20}, {"F1", 20}, {"Q", q, true}, {"Q", 999}}, kDecimals);
         EXPECT_NEAR(forces[0].force[mechanics::forces::XComponent].Number(), row.x, kTolerance) << row.text;
         EXPECT_NEAR(forces[0].force[mechanics::forces::YComponent].Number(), row.y, kTolerance) << row.text;
         EXPECT_EQ(forces[0].force[mechanics::forces::Colour],
@@ -390,9 +372,9 @@ TEST(UpdateBodyForces, PutsValuesWhereverTheirSymbolsStand) {
     }
 }
 
-TEST(UpdateBodyForces, KeepsWhatIsStillUnknown) {
+TEST(WithResults, KeepsWhatIsStillUnknown) {
     BodyForces forces = {RowAt(0, 0, "F,G"), RowAt(0, 0, "F<A"), RowAt(0, 0, "hf"), RowAt(0, 0, "20<F")};
-    UpdateBodyForces(forces, {{"F", 30}}, kDecimals);
+    forces = WithResults(forces, {{"F", 30}}, kDecimals);
     EXPECT_EQ(forces[0].force[mechanics::forces::XComponent], Value(30));
     EXPECT_EQ(forces[0].force[mechanics::forces::YComponent], Value(""));
     for (const BodyForce& row : forces)
@@ -401,36 +383,31 @@ TEST(UpdateBodyForces, KeepsWhatIsStillUnknown) {
         EXPECT_EQ(forces[i].force[mechanics::forces::XComponent], Value("")) << forces[i].text;
 }
 
-TEST(UpdateBodyForces, GivesACoupleItsValueInBlack) {
+TEST(WithResults, GivesACoupleItsValue) {
     struct Row {
         const char* text;
-        Value couple;
-        int colour;
+        std::optional<double> value;
     };
     const Row rows[] = {
-        {"ma", 250, mechanics::forces::kKnown},         {"-MA", -250, mechanics::forces::kKnown},
-        {"AX,AY/-ma", -250, mechanics::forces::kKnown}, {"MB", "MB", mechanics::forces::kUnknown},
-        {"40", 40, mechanics::forces::kKnown},          {"Q", "Q", mechanics::forces::kUnknown},
+        {"ma", 250}, {"-MA", -250}, {"AX,AY/-ma", -250}, {"MB", {}}, {"40", 40}, {"Q", {}},
     };
     for (const Row& row : rows) {
         BodyForces forces = {RowAt(0, 0, row.text)};
         const mechanics::forces::ForceRow force = forces[0].force;
-        const std::string couple_text = forces[0].couple_text;
-        UpdateBodyForces(forces, {{"MA", 250}, {"Q", 30, true}}, kDecimals);
-        EXPECT_EQ(forces[0].couple, row.couple) << row.text;
-        EXPECT_EQ(forces[0].couple_colour, row.colour) << row.text;
-        EXPECT_EQ(forces[0].couple_text, couple_text);
+        const Couple typed = forces[0].couple.value();
+        forces = WithResults(forces, {{"MA", 250}, {"Q", 30, true}}, kDecimals);
+        EXPECT_EQ(forces[0].couple->value, row.value) << row.text;
+        EXPECT_EQ(forces[0].couple->text, typed.text) << row.text;
+        EXPECT_EQ(forces[0].couple->symbol, typed.symbol) << row.text;
         EXPECT_EQ(forces[0].force, force) << row.text;  // a couple alone never becomes a force
     }
 }
 
-TEST(UpdateBodyForces, ChangesNothingWhenItFails) {
-    BodyForces forces = {RowAt(0, 0, "hA"), RowAt(0, 0, "vB")};
+TEST(WithResults, FailsPastTheRangeOfNumbers) {
     EXPECT_EQ(FailureOf([&] {
-                  UpdateBodyForces(forces, {{"A", 5}, {"B", 1e300}}, kDecimals);
+                  WithResults({RowAt(0, 0, "hA"), RowAt(0, 0, "vB")}, {{"A", 5}, {"B", 1e300}}, kDecimals);
               }),
               numeric::FailureCode::Overflow);
-    EXPECT_EQ(forces[0].force[mechanics::forces::XComponent], Value(""));
 }
 
 // --- Problems built backwards from a known answer
@@ -477,8 +454,8 @@ Wrench TotalOf(const BodyForces& forces, int body) {
             if (row.HasForce())
                 total = total + At({row.x, row.y}, row.force[mechanics::forces::XComponent].Number(),
                                    row.force[mechanics::forces::YComponent].Number());
-            if (row.HasCouple())
-                total.m += row.couple.Number();
+            if (row.couple)
+                total.m += row.couple->value.value();
         }
     return total;
 }
@@ -518,7 +495,7 @@ TEST(BodyPhysics, TwoBodiesJoinedByAPinStandStillWithTheirReactions) {
         const Place about = random.Point();
         const auto outcome = Solved(forces, {{4, false, about.x, about.y}, {2, false, about.y, about.x}});
         ASSERT_TRUE(std::holds_alternative<BodyResults>(outcome)) << RefusalText(outcome);
-        UpdateBodyForces(forces, std::get<BodyResults>(outcome), kDecimals);
+        forces = WithResults(forces, std::get<BodyResults>(outcome), kDecimals);
         ExpectEquilibrium(forces, 2);
         ExpectEquilibrium(forces, 4);
         // About the pin the roller alone holds the load.
@@ -621,7 +598,7 @@ TEST(BodyPhysics, EveryKindOfAngleFindsTheAnswerItsProblemWasBuiltFrom) {
             for (const BodyResults& results : ResultsOf(outcome)) {
                 found = found || IsNear(results, problem->answer);
                 BodyForces forces = problem->forces;
-                UpdateBodyForces(forces, results, kDecimals);
+                forces = WithResults(forces, results, kDecimals);
                 ExpectEquilibrium(forces, 1);
             }
             EXPECT_TRUE(found) << RefusalText(outcome);

@@ -85,14 +85,14 @@ TEST(ChainRows, RefusesInTheOrderOfItsTests) {
         {"ABC", "u30", "Operación no válida con este formato."},
     };
     for (const RefusedCommand& row : refused)
-        EXPECT_EQ(std::get<ChainRefusal>(Rows(row.chain, row.vector)).text, row.refusal)
+        EXPECT_EQ(std::get<ChainRefusal>(Rows(row.chain, row.vector)).refusal, text::Refusal{row.refusal})
             << row.chain << ' ' << row.vector;
 }
 
 TEST(ChainRows, RefusesAPairWhoseEndsAreBothKnown) {
     const PointTable known = {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}};
     const auto refusal = [&](const char* chain) {
-        return std::get<ChainRefusal>(Rows(chain, "h4", "", Texts{"1", "1"}, known)).text;
+        return std::get<ChainRefusal>(Rows(chain, "h4", "", Texts{"1", "1"}, known)).refusal.value().text;
     };
     EXPECT_EQ(refusal("AB"), "El segmento AB ya está registrado.");
     EXPECT_EQ(refusal("BA"), "El segmento BA ya está registrado.");
@@ -131,7 +131,6 @@ TEST(ChainRows, GivesOneRowForTwoLetters) {
         EXPECT_EQ(rows[0].to, "B");
         EXPECT_NEAR(rows[0].dx, vector.dx, kTolerance) << vector.vector;
         EXPECT_NEAR(rows[0].dy, vector.dy, kTolerance) << vector.vector;
-        EXPECT_FALSE(rows[0].used);
     }
 }
 
@@ -199,6 +198,19 @@ TEST(ChainRows, GivesNoVectorForAComponentAcrossTheAxisOfTheFirst) {
     ExpectFurther(table);
 }
 
+TEST(ChainRows, TakesAProductOfNumbersForOne) {
+    const FurtherRow table[] = {
+        {"v2", "", "15*9.8", 0, 147}, {"h4", "", "-2 * 3*0.5", -3, 0}, {"3,4", "X", "2*3", 6, 8},
+        {"3,4", "Y", "2*4", 6, 8},    {"3,4", "M", "-2*5", -6, -8},
+    };
+    ExpectFurther(table);
+    const auto rows = std::get<SegTable>(Rows("AB", "v15*9.8"));
+    EXPECT_NEAR(rows.at(0).dy, 147, kTolerance);
+    for (const char* value : {"*", "2*", "*2", "2**3", "2*F", "2*3a"})
+        EXPECT_EQ(std::get<ChainRefusal>(Rows("ABC", "h4", "", Texts{value})).field, ChainField::Value)
+            << value;
+}
+
 TEST(ChainRows, ReadsOneValueForEachFurtherPair) {
     const auto rows =
         std::get<SegTable>(Rows("GFEDCBA", "v1", "", Texts{"2", "3", "4", "5", "6", "not read"}));
@@ -214,7 +226,7 @@ TEST(ChainRows, ReadsOneValueForEachFurtherPair) {
 TEST(ChainRows, TellsWhichValueOrSeriesIsMissing) {
     for (const Texts& texts : {Texts{}, Texts{""}, Texts{" "}, Texts{"F"}, Texts{"1,5"}}) {
         const auto refusal = std::get<ChainRefusal>(Rows("ABC", "h4", "", texts));
-        EXPECT_EQ(refusal.text, "Error en el comando.");
+        EXPECT_FALSE(refusal.refusal);
         EXPECT_EQ(refusal.field, ChainField::Value);
         EXPECT_EQ(refusal.value, 0u);
     }
@@ -222,7 +234,7 @@ TEST(ChainRows, TellsWhichValueOrSeriesIsMissing) {
     for (const char* series : {"", "Z", "XY"})
         for (const char* vector : {"3,4", "s45x,2h"}) {
             const auto refusal = std::get<ChainRefusal>(Rows("ABC", vector, series, Texts{"6"}));
-            EXPECT_EQ(refusal.text, "Error en el comando.");
+            EXPECT_FALSE(refusal.refusal);
             EXPECT_EQ(refusal.field, ChainField::Series) << series;
         }
 }

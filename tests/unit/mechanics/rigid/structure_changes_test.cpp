@@ -19,7 +19,7 @@ TEST(Extended, BeginsAtTheFirstPointAndKeepsTheOriginInForce) {
     EXPECT_EQ(first.origin, "A");
     Structure seen_from_b = first;
     seen_from_b.origin = "B";
-    ASSERT_FALSE(MoveOrigin(seen_from_b.points, "B"));
+    seen_from_b.points = std::get<PointTable>(SeenFrom(seen_from_b.points, "B"));
     const Structure longer = With(seen_from_b, "AC", "v3");
     EXPECT_EQ(longer.origin, "B");
     EXPECT_EQ(FindPoint(longer.points, "A")->x, -4);
@@ -30,7 +30,7 @@ TEST(Extended, BeginsAtTheFirstPointAndKeepsTheOriginInForce) {
 TEST(Extended, RefusesPointsThatCoincideByTheVector) {
     const Structure first = With({}, "AB", "h4");
     const auto outcome = Extended(first, {"AC", "h4", "", {}}, kDecimals);
-    EXPECT_EQ(std::get<ChainRefusal>(outcome).text, "El punto C coincidiría con B");
+    EXPECT_EQ(std::get<ChainRefusal>(outcome).refusal, text::Refusal{"El punto C coincidiría con B"});
     EXPECT_EQ(std::get<ChainRefusal>(outcome).field, ChainField::Vector);
 }
 
@@ -42,7 +42,7 @@ TEST(Extended, FailsOnAPointPastTheRange) {
 TEST(Shortened, TakesTheLastVectorAndALostOriginWithIt) {
     Structure structure = With(With({}, "AB", "h4"), "BC", "v3");
     structure.origin = "C";
-    ASSERT_FALSE(MoveOrigin(structure.points, "C"));
+    structure.points = std::get<PointTable>(SeenFrom(structure.points, "C"));
     const Structure shorter = Shortened(structure);
     EXPECT_EQ(shorter.segments.size(), 1u);
     EXPECT_EQ(shorter.origin, "A");

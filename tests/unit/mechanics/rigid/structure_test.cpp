@@ -16,9 +16,11 @@ SegRow Seg(const std::string& pair, double dx, double dy) {
     return {pair.substr(0, 1), pair.substr(1), dx, dy};
 }
 
-PointTable CoordsOf(SegTable segments) { return std::get<PointTable>(ComputeCoords(segments)); }
+PointTable CoordsOf(const SegTable& segments) { return std::get<PointTable>(ComputeCoords(segments)); }
 
-std::string RefusalOf(SegTable segments) { return std::get<text::Refusal>(ComputeCoords(segments)).text; }
+std::string RefusalOf(const SegTable& segments) {
+    return std::get<text::Refusal>(ComputeCoords(segments)).text;
+}
 
 struct Expected {
     std::string name;
@@ -32,8 +34,6 @@ void ExpectPoints(const PointTable& points, const std::vector<Expected>& expecte
         EXPECT_EQ(points[i].name, expected[i].name) << i;
         EXPECT_NEAR(points[i].x, expected[i].x, kTolerance) << expected[i].name;
         EXPECT_NEAR(points[i].y, expected[i].y, kTolerance) << expected[i].name;
-        EXPECT_EQ(points[i].draw_x, 0) << i;
-        EXPECT_EQ(points[i].draw_y, 0) << i;
     }
 }
 
@@ -89,33 +89,21 @@ TEST(ComputeCoords, WalksThePointsInOrderAndTheVectorsForEach) {
 }
 
 TEST(ComputeCoords, PassesOverAVectorBetweenKnownPoints) {
-    SegTable segments = {Seg("AB", 4, 0), Seg("BC", 100, 100), Seg("AC", 4, 3)};
-    ExpectPoints(std::get<PointTable>(ComputeCoords(segments)), {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}});
-    EXPECT_TRUE(segments[0].used);
-    EXPECT_FALSE(segments[1].used);
-    EXPECT_TRUE(segments[2].used);
+    ExpectPoints(CoordsOf({Seg("AB", 4, 0), Seg("BC", 100, 100), Seg("AC", 4, 3)}),
+                 {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}});
 }
 
 TEST(ComputeCoords, FindsTheLastPointOfALoopFromTheFirstOne) {
     // C is reached backwards from A before the vector of B comes to its turn
-    SegTable segments = {Seg("AB", 4, 0), Seg("BC", 100, 100), Seg("CA", -4, -3)};
-    ExpectPoints(std::get<PointTable>(ComputeCoords(segments)), {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}});
-    EXPECT_FALSE(segments[1].used);
-    EXPECT_TRUE(segments[2].used);
+    ExpectPoints(CoordsOf({Seg("AB", 4, 0), Seg("BC", 100, 100), Seg("CA", -4, -3)}),
+                 {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}});
 }
 
 TEST(ComputeCoords, LeavesOutPointsThatNothingJoinsToTheFirst) {
-    SegTable segments = {Seg("AB", 4, 0), Seg("CD", 1, 0)};
-    ExpectPoints(std::get<PointTable>(ComputeCoords(segments)), {{"A", 0, 0}, {"B", 4, 0}});
-    EXPECT_FALSE(segments[1].used);
+    ExpectPoints(CoordsOf({Seg("AB", 4, 0), Seg("CD", 1, 0)}), {{"A", 0, 0}, {"B", 4, 0}});
 }
 
-TEST(ComputeCoords, BeginsAnewEachTime) {
-    SegTable segments = {Seg("AB", 4, 0), Seg("BC", 0, 3)};
-    ComputeCoords(segments);
-    ExpectPoints(std::get<PointTable>(ComputeCoords(segments)), {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}});
-    EXPECT_TRUE(segments[1].used);
-}
+TEST(ComputeCoords, GivesNoPointsWithoutVectors) { EXPECT_TRUE(CoordsOf({}).empty()); }
 
 TEST(ComputeCoords, RefusesAPointOnAnother) {
     EXPECT_EQ(RefusalOf({Seg("AB", 4, 0), Seg("BC", -4, 0)}), "El punto C coincidiría con A");
@@ -138,28 +126,25 @@ TEST(ComputeCoords, FailsPastTheRangeOfNumbers) {
     EXPECT_THROW(ComputeCoords(segments), numeric::RuntimeFailure);
 }
 
-TEST(MoveOrigin, KeepsTheFigure) {
-    PointTable points = CoordsOf({Seg("AB", 4, 0), Seg("BC", 0, 3)});
-    points[0].draw_x = 17;
-    EXPECT_FALSE(MoveOrigin(points, "C"));
-    EXPECT_EQ(points[0].draw_x, 17);
-    points[0].draw_x = 0;
-    ExpectPoints(points, {{"A", -4, -3}, {"B", 0, -3}, {"C", 0, 0}});
-    EXPECT_FALSE(MoveOrigin(points, "A"));
-    ExpectPoints(points, {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}});
+TEST(SeenFrom, KeepsTheFigure) {
+    const PointTable points = CoordsOf({Seg("AB", 4, 0), Seg("BC", 0, 3)});
+    const auto seen_from_c = std::get<PointTable>(SeenFrom(points, "C"));
+    ExpectPoints(seen_from_c, {{"A", -4, -3}, {"B", 0, -3}, {"C", 0, 0}});
+    ExpectPoints(std::get<PointTable>(SeenFrom(seen_from_c, "A")), {{"A", 0, 0}, {"B", 4, 0}, {"C", 4, 3}});
 }
 
-TEST(MoveOrigin, RefusesAPointWithoutCoordinatesAndMovesNothing) {
-    PointTable points = CoordsOf({Seg("AB", 4, 0)});
-    EXPECT_EQ(MoveOrigin(points, "Z"), text::Refusal{"No conozco las coordenadas del punto Z"});
-    EXPECT_EQ(MoveOrigin(points, ""), text::Refusal{"No conozco las coordenadas del punto "});
-    ExpectPoints(points, {{"A", 0, 0}, {"B", 4, 0}});
+TEST(SeenFrom, RefusesAPointWithoutCoordinates) {
+    const PointTable points = CoordsOf({Seg("AB", 4, 0)});
+    const auto refusal = [&](const char* origin) {
+        return std::get<text::Refusal>(SeenFrom(points, origin)).text;
+    };
+    EXPECT_EQ(refusal("Z"), "No conozco las coordenadas del punto Z");
+    EXPECT_EQ(refusal(""), "No conozco las coordenadas del punto ");
 }
 
-TEST(MoveOrigin, MovesNothingWhenANumberWouldPassTheRange) {
-    PointTable points = {{"A", 0, 0}, {"B", 1.7e308, 0}, {"C", -1.7e308, 0}};
-    EXPECT_THROW(MoveOrigin(points, "B"), numeric::RuntimeFailure);
-    EXPECT_EQ(points[0].x, 0);
+TEST(SeenFrom, FailsPastTheRangeOfNumbers) {
+    const PointTable points = {{"A", 0, 0}, {"B", 1.7e308, 0}, {"C", -1.7e308, 0}};
+    EXPECT_THROW(SeenFrom(points, "B"), numeric::RuntimeFailure);
 }
 
 TEST(CoordLines, ShowsEachLetterOnceKnownOrNot) {

@@ -32,7 +32,7 @@ struct Textbook {
             problem.Line(system, chain);
         for (const auto& [body, point, text] : forces) {
             problem.Force(body, point, text);
-            problem.shown[static_cast<std::size_t>(body) - 1] = true;
+            problem.view.Show(body, true);
         }
         return problem;
     }

@@ -10,7 +10,8 @@
 #include <vector>
 
 #include "seen_picture.h"
-#include "tools/rigid/structure_drawing.h"
+#include "tools/rigid/force_layout.h"
+#include "tools/rigid/structure_layout.h"
 
 namespace tavrelo::tools::rigid {
 namespace {
@@ -185,12 +186,14 @@ TEST(RigidPicture, LinesOfTheSystemsInView) {
     EXPECT_TRUE(frame.Show({4}).Draw().lines.empty());
 }
 
-TEST(RigidPicture, DrawLinesCountsItsRows) {
+TEST(RigidPicture, AddLinesCountsItsRows) {
     DrawnProblem frame;
     frame.At("A", 0, 0).At("B", 2, 2).Line(2, "AB").Line(3, "AB").Line(3, "BA").Show({3});
-    RigidSheet sheet(frame.picture);
-    EXPECT_EQ(DrawLines(sheet, frame.Scene()), 2u);
-    EXPECT_EQ(DrawLines(sheet, frame.Show({}).Scene()), 3u);
+    const CanvasSize size = {kWidth, kHeight};
+    const PointPlaces places = PlacesOf(frame.problem.structure.points, size);
+    DiagramLayout layout(size);
+    EXPECT_EQ(AddLines(layout, frame.Scene(), places), 2u);
+    EXPECT_EQ(AddLines(layout, frame.Show({}).Scene(), places), 3u);
 }
 
 // --- Forces
@@ -254,7 +257,7 @@ TEST(RigidPicture, TheArrowsOfATextAtAPoint) {
 
 TEST(RigidPicture, ANegativeMagnitudeTakesTheOppositeHour) {
     DrawnProblem beam = BeamWith("p30x,40");
-    beam.forces[0].force[mechanics::forces::Magnitude] = -40.0;
+    beam.problem.forces[0].force[mechanics::forces::Magnitude] = -40.0;
     const Seen seen = beam.Draw();
     EXPECT_NEAR(seen.forces.at(0).Degrees(), 210, 1e-6);
     EXPECT_EQ(seen.Text("40").text, "40");
@@ -262,10 +265,9 @@ TEST(RigidPicture, ANegativeMagnitudeTakesTheOppositeHour) {
 
 TEST(RigidPicture, SolvedForcesAreMagenta) {
     DrawnProblem beam = BeamWith("vB/MB");
-    beam.forces[0].force[mechanics::forces::Magnitude] = 12.3456;
-    beam.forces[0].force[mechanics::forces::Colour] = mechanics::forces::kSolved;
-    beam.forces[0].couple = -7.5;
-    beam.forces[0].couple_colour = mechanics::forces::kKnown;
+    beam.problem.forces[0].force[mechanics::forces::Magnitude] = 12.3456;
+    beam.problem.forces[0].force[mechanics::forces::Colour] = mechanics::forces::kSolved;
+    beam.problem.forces[0].couple->value = -7.5;
     const Seen seen = beam.Draw();
     EXPECT_EQ(seen.forces.at(0).color, kMagenta);
     EXPECT_EQ(seen.couples.at(0).arc.color, kBlack);
@@ -275,7 +277,7 @@ TEST(RigidPicture, SolvedForcesAreMagenta) {
 /// By has no value yet, but Bx has.
 TEST(RigidPicture, AFoundComponentBesideAnUnknownOne) {
     DrawnProblem beam = BeamWith("Bx,By");
-    beam.forces[0].force[mechanics::forces::XComponent] = -8.0;
+    beam.problem.forces[0].force[mechanics::forces::XComponent] = -8.0;
     const Seen seen = beam.Draw();
     ASSERT_EQ(seen.forces.size(), 2u);
     EXPECT_NEAR(seen.forces[0].Degrees(), 180, 1e-6);
@@ -284,33 +286,23 @@ TEST(RigidPicture, AFoundComponentBesideAnUnknownOne) {
     EXPECT_EQ(beam.picture.VisibleTexts(), (Strings{"X", "Y", "A", "B", "8", "BY"}));
 }
 
-/// 120 degrees is hour 11, 30 degrees from the y axis.
 TEST(RigidPicture, AnUnknownDirectionIsDrawnWhereTheUserWants) {
     DrawnProblem beam = BeamWith("20<q");
-    EXPECT_TRUE(mechanics::rigid::NeedsDrawDirection(beam.forces[0]));
-    mechanics::rigid::SetDrawDirection(beam.forces[0], 120);
-    EXPECT_FALSE(mechanics::rigid::NeedsDrawDirection(beam.forces[0]));
-    EXPECT_EQ(beam.forces[0].force[mechanics::forces::DrawDirection], text::Value(120));
-    EXPECT_EQ(beam.forces[0].force[mechanics::forces::Hour], text::Value(11));
-    EXPECT_NEAR(beam.forces[0].force[mechanics::forces::ClockAngle].Number(), 30, 1e-9);
+    beam.view.directions[0] = 120;
     EXPECT_NEAR(beam.Draw().forces.at(0).Degrees(), 120, 1e-6);
 }
 
 TEST(RigidPicture, OnlyUnknownDirectionsAreAskedFor) {
     for (const char* text : {"v-20", "Bx,By", "hB", "p30x,F", "250", "MB", "hLARGA"})
-        EXPECT_FALSE(mechanics::rigid::NeedsDrawDirection(BeamWith(text).forces[0])) << text;
+        EXPECT_FALSE(NeedsDrawDirection(BeamWith(text).problem.forces[0])) << text;
     for (const char* text : {"20<q", "F<q", "uq", "F<q:/30"})
-        EXPECT_TRUE(mechanics::rigid::NeedsDrawDirection(BeamWith(text).forces[0])) << text;
+        EXPECT_TRUE(NeedsDrawDirection(BeamWith(text).problem.forces[0])) << text;
 }
 
-TEST(RigidPicture, BodiesOutOfViewDrawNothingButKnowTheirPlaces) {
+TEST(RigidPicture, BodiesOutOfViewDrawNothing) {
     DrawnProblem frame;
     frame.At("A", 0, 0).At("B", 5, 1).System(2, "AB").Force(1, "A", "Ax,Ay/MA").Force(2, "B", "v-40/30");
     EXPECT_TRUE(frame.Draw().forces.empty());
-    for (const mechanics::rigid::BodyForce& force : frame.forces) {
-        EXPECT_EQ(force.draw_x, frame.Place(force.point.c_str()).x);
-        EXPECT_EQ(force.draw_y, frame.Place(force.point.c_str()).y);
-    }
     const Seen seen = frame.Show({2}).Draw();
     ASSERT_EQ(seen.forces.size(), 1u);
     EXPECT_EQ(seen.couples.size(), 1u);

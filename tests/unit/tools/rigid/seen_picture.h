@@ -12,6 +12,7 @@
 
 #include "text/font.h"
 #include "tools/rigid/rigid_picture.h"
+#include "tools/rigid/structure_layout.h"
 #include "window/surface.h"
 
 namespace tavrelo::tools::rigid {
@@ -126,46 +127,43 @@ struct Seen {
 
 /// A problem under construction and its picture.
 struct DrawnProblem {
-    mechanics::rigid::PointTable points;
-    mechanics::rigid::LineTable lines;
-    mechanics::rigid::SystemPoints systems;
-    mechanics::rigid::BodyForces forces;
-    mechanics::rigid::ShownDCL shown{};
+    mechanics::rigid::RigidProblem problem;
+    DiagramView view;
     window::Recorder picture{kWidth, kHeight};
 
     /// All points belong to system 1.
     DrawnProblem& At(const char* name, double x, double y) {
-        points.push_back({name, x, y, 0, 0});
-        systems[0] += name;
+        problem.structure.points.push_back({name, x, y});
+        problem.systems[0] += name;
         return *this;
     }
     DrawnProblem& System(int system, const char* letters) {
-        systems[static_cast<std::size_t>(system) - 1] = letters;
+        problem.systems[static_cast<std::size_t>(system) - 1] = letters;
         return *this;
     }
     DrawnProblem& Line(int system, const char* chain) {
-        lines.push_back({chain, system});
+        problem.lines.push_back({chain, system});
         return *this;
     }
     DrawnProblem& Force(int body, const char* point, const char* text) {
-        forces.push_back(std::get<mechanics::rigid::BodyForce>(
-            mechanics::rigid::ReadBodyForce(body, *mechanics::rigid::FindPoint(points, point), text, 3)));
+        problem.forces.push_back(std::get<mechanics::rigid::BodyForce>(mechanics::rigid::ReadBodyForce(
+            body, *mechanics::rigid::FindPoint(problem.structure.points, point), text, 3)));
+        view.directions.emplace_back();
         return *this;
     }
     DrawnProblem& Show(std::initializer_list<int> bodies) {
-        shown.fill(false);
+        view.shown.fill(false);
         for (const int body : bodies)
-            shown[static_cast<std::size_t>(body) - 1] = true;
+            view.Show(body, true);
         return *this;
     }
-    RigidScene Scene() { return {points, lines, systems, forces, shown, 3}; }
+    RigidScene Scene() const { return {problem, view, 3}; }
     Seen Draw() {
         RedrawAll(picture, Scene());
         return Seen(picture);
     }
     window::Point Place(const char* name) const {
-        const mechanics::rigid::PointRecord& point = *mechanics::rigid::FindPoint(points, name);
-        return {point.draw_x, point.draw_y};
+        return PlacesOf(problem.structure.points, {picture.Width(), picture.Height()}).Find(name).value();
     }
 };
 

@@ -1,4 +1,4 @@
-#include "mechanics/rigid/body_angle.h"
+#include "mechanics/rigid/unknown_angle.h"
 
 #include <algorithm>
 #include <array>
@@ -93,21 +93,20 @@ std::optional<std::string> MagnitudeAtAngle(const BodyEquations& equations) {
     std::optional<std::string> magnitude;
     for (const BodyEquation& equation : equations.equations)
         for (const BodyTerm& term : equation.terms) {
-            const mechanics::forces::UnknownTerm unknown = mechanics::forces::ReadUnknown(term.symbol);
-            if (!unknown.HasAngle())
+            if (!term.unknown.HasAngle())
                 continue;
-            if (magnitude && !text::SameSymbol(*magnitude, unknown.magnitude))
+            if (magnitude && !text::SameSymbol(*magnitude, term.unknown.magnitude))
                 return {};
-            magnitude = unknown.magnitude;
+            magnitude = term.unknown.magnitude;
         }
     return magnitude;
 }
 
-Column& ColumnOf(Rows& rows, const mechanics::forces::UnknownTerm& unknown, const std::string& first) {
+Column& ColumnOf(Rows& rows, const forces::UnknownTerm& unknown, const std::string& first) {
     switch (unknown.function) {
-        case mechanics::forces::AngleFunction::Cos:
+        case forces::AngleFunction::Cos:
             return rows.cosine;
-        case mechanics::forces::AngleFunction::Sen:
+        case forces::AngleFunction::Sen:
             return rows.sine;
         default:
             return text::SameSymbol(unknown.magnitude, first) ? rows.first : rows.second;
@@ -120,7 +119,7 @@ Rows RowsOf(const BodyEquations& equations, const std::string& first) {
         const BodyEquation& equation = equations.equations[i];
         rows.constant[i] = equation.constant;
         for (const BodyTerm& term : equation.terms) {
-            double& coefficient = ColumnOf(rows, mechanics::forces::ReadUnknown(term.symbol), first)[i];
+            double& coefficient = ColumnOf(rows, term.unknown, first)[i];
             coefficient = CheckedAdd(coefficient, term.coef);
         }
     }

@@ -1,8 +1,9 @@
-#include "tools/rigid/rigid_sheet.h"
+#include "tools/rigid/diagram_layout.h"
 
 #include <algorithm>
 #include <cmath>
 
+#include "drawing/draw_engine.h"
 #include "numeric/angles.h"
 
 namespace tavrelo::tools::rigid {
@@ -18,12 +19,11 @@ constexpr double kArrowLength = 1.375;                        // world units
 constexpr double kCoupleRadius = 0.5 * DrawEng::kPixPerUnit;  // pixels
 constexpr double kCoupleStep = 7;                             // pixels between couples of one point
 constexpr double kCoupleTurn = 270;                           // degrees
-constexpr int kWidth = 2;                                     // pixels, of all lines but the axes
-constexpr double kHeadLength = 2 * kWidth + 1;                // pixels
-constexpr double kHeadHalfWidth = kWidth + 1;                 // pixels
-constexpr double kDotRadius = 3;                              // pixels
-constexpr double kLabelMargin = 2;                            // pixels kept free around a label
-constexpr double kSideStep = 8;  // pixels between arrows that would cover each other
+constexpr int kWidth = kDiagramLineWidth;
+constexpr double kHeadLength = 2 * kWidth + 1;  // pixels
+constexpr double kHeadHalfWidth = kWidth + 1;   // pixels
+constexpr double kLabelMargin = 2;              // pixels kept free around a label
+constexpr double kSideStep = 8;                 // pixels between arrows that would cover each other
 constexpr double kFullTurn = 360;
 
 Point Plus(Point a, Point b) { return {a.x + b.x, a.y + b.y}; }
@@ -38,6 +38,13 @@ bool IsSame(Point a, Point b) { return a.x == b.x && a.y == b.y; }
 /// Unit vector of a direction in degrees counter-clockwise.
 Point Toward(double degrees) { return {CosD(degrees), -SinD(degrees)}; }
 
+/// Unit vector of a clock hour, `angle` degrees off the hour's axis.
+Point Toward(int hour, double angle) {
+    DrawEng engine;
+    engine.SetDirection(hour, angle);
+    return {engine.ArrowCos(), -engine.ArrowSin()};
+}
+
 /// At most 180 degrees.
 double AngleBetween(double a, double b) {
     const double turn = std::fmod(std::abs(a - b), kFullTurn);
@@ -46,50 +53,34 @@ double AngleBetween(double a, double b) {
 
 }  // namespace
 
-RigidSheet::RigidSheet(window::Surface& canvas) : m_canvas(canvas), m_placer(canvas, kLabelMargin) {}
+DiagramLayout::DiagramLayout(CanvasSize size)
+    : m_size(size), m_placer(size.width, size.height, kLabelMargin) {}
 
-void RigidSheet::AddAxis(Point from, int hour, double length, text::Color color) {
-    m_engine.MoveTo(m_canvas, from.x, from.y, 1);
-    m_engine.DrawArrow(m_canvas, {.length = length / DrawEng::kPixPerUnit, .hour = hour, .color = color});
-    const Point along{m_engine.ArrowCos(), -m_engine.ArrowSin()};
-    m_placer.AddFaintLine(from, Plus(from, Times(along, length)));
+void DiagramLayout::AddAxis(Point from, int hour, double length, text::Color color) {
+    m_diagram.axes.push_back(
+        {.tail = from, .hour = hour, .length = length / DrawEng::kPixPerUnit, .color = color});
+    m_placer.AddFaintLine(from, Plus(from, Times(Toward(hour, 0), length)));
 }
 
-void RigidSheet::AddLine(Point from, Point to, text::Color color) {
-    m_canvas.DrawWidth = kWidth;
-    m_canvas.Line(from.x, from.y, to.x, to.y, color);
-    m_canvas.DrawWidth = 1;
+void DiagramLayout::AddLine(Point from, Point to, text::Color color) {
+    m_diagram.lines.push_back({from, to, color});
     m_placer.AddLine(from, to);
 }
 
-LabelSpot RigidSheet::AddPoint(Point point, text::Color color) {
-    m_dots.push_back({point, color});
+LabelSpot DiagramLayout::AddPoint(Point point, text::Color color) {
+    m_diagram.dots.push_back({point, color});
     m_placer.AddLine({point.x - kDotRadius, point.y}, {point.x + kDotRadius, point.y});
     m_placer.AddLine({point.x, point.y - kDotRadius}, {point.x, point.y + kDotRadius});
     return {point, std::nullopt, kDotRadius};
 }
 
-void RigidSheet::DrawPoints() {
-    m_canvas.Filled = true;
-    for (const Dot& dot : m_dots) {
-        m_canvas.FillColor = dot.color;
-        m_canvas.Circle(dot.center.x, dot.center.y, kDotRadius, dot.color);
-    }
-    m_canvas.Filled = false;
-    m_dots.clear();
-}
-
-LabelSpot RigidSheet::AddForce(Point point, const ArrowSense& sense, text::Color color) {
-    m_engine.SetDirection(sense.hour, sense.angle);
-    const Point along{m_engine.ArrowCos(), -m_engine.ArrowSin()};
+LabelSpot DiagramLayout::AddForce(Point point, const ArrowSense& sense, text::Color color) {
+    const Point along = Toward(sense.hour, sense.angle);
     const Point step = Times(along, kArrowLength * DrawEng::kPixPerUnit);
     const Shaft straight = sense.leaves ? Shaft{point, Plus(point, step)} : Shaft{Minus(point, step), point};
     const Shaft shaft = Beside(straight);
-    m_engine.MoveTo(m_canvas, shaft.tail.x, shaft.tail.y, 1);
-    m_engine.DrawArrow(
-        m_canvas,
-        {.length = kArrowLength, .hour = sense.hour, .angle = sense.angle, .color = color, .width = kWidth});
-    m_forces.push_back(shaft);
+    m_diagram.forces.push_back({shaft.tail, sense.hour, sense.angle, kArrowLength, kWidth, color});
+    m_shafts.push_back(shaft);
     m_placer.AddLine(shaft.tail, shaft.tip);
     AvoidHead(shaft.tip, along);
     const Point free_end = sense.leaves ? shaft.tip : shaft.tail;
@@ -97,7 +88,7 @@ LabelSpot RigidSheet::AddForce(Point point, const ArrowSense& sense, text::Color
 }
 
 /// Whether the second arrow would lie on the first: nearly the same line, and a common part of it.
-bool RigidSheet::Covers(const Shaft& a, const Shaft& b) {
+bool DiagramLayout::Covers(const Shaft& a, const Shaft& b) {
     constexpr double kSameLine = 0.25;  // sine of the angle between them
     constexpr double kCommonPart = 5;   // pixels
     constexpr double kClear = 4;        // pixels between the middles of their common part
@@ -119,16 +110,16 @@ bool RigidSheet::Covers(const Shaft& a, const Shaft& b) {
 }
 
 /// The arrow where it covers no other one: where it is, or the nearest place beside it.
-RigidSheet::Shaft RigidSheet::Beside(const Shaft& shaft) const {
+DiagramLayout::Shaft DiagramLayout::Beside(const Shaft& shaft) const {
     const Point across = Across(Unit(Minus(shaft.tip, shaft.tail)));
     const auto moved = [&](double steps) {
         const Point shift = Times(across, steps * kSideStep);
         return Shaft{Plus(shaft.tail, shift), Plus(shaft.tip, shift)};
     };
     const auto is_free = [&](const Shaft& place) {
-        return std::ranges::none_of(m_forces, [&](const Shaft& other) { return Covers(other, place); });
+        return std::ranges::none_of(m_shafts, [&](const Shaft& other) { return Covers(other, place); });
     };
-    const double farthest = static_cast<double>(m_forces.size());
+    const double farthest = static_cast<double>(m_shafts.size());
     for (double steps = 0; steps <= farthest; ++steps)
         for (const double side : {1.0, -1.0})
             if (const Shaft place = moved(side * steps); is_free(place))
@@ -136,7 +127,7 @@ RigidSheet::Shaft RigidSheet::Beside(const Shaft& shaft) const {
     return shaft;
 }
 
-void RigidSheet::AvoidHead(Point tip, Point along) {
+void DiagramLayout::AvoidHead(Point tip, Point along) {
     const Point rear = Minus(tip, Times(along, kHeadLength));
     const Point side = Times(Across(along), kHeadHalfWidth);
     m_placer.AddLine(Minus(rear, side), Plus(rear, side));
@@ -144,19 +135,20 @@ void RigidSheet::AvoidHead(Point tip, Point along) {
     m_placer.AddLine(Plus(rear, side), tip);
 }
 
-void RigidSheet::AvoidArc(Point center, double radius, double from, double to) {
+void DiagramLayout::AvoidArc(const DiagramCouple& couple) {
     constexpr int kPieces = 18;
-    for (int i = 0; i < kPieces; ++i) {
-        const double step = (to - from) / kPieces;
-        m_placer.AddLine(Plus(center, Times(Toward(from + i * step), radius)),
-                         Plus(center, Times(Toward(from + (i + 1) * step), radius)));
-    }
+    const double step = (couple.end - couple.start) / kPieces;
+    const auto at = [&](int piece) {
+        return Plus(couple.center, Times(Toward(couple.start + piece * step), couple.radius));
+    };
+    for (int i = 0; i < kPieces; ++i)
+        m_placer.AddLine(at(i), at(i + 1));
 }
 
 /// Radius of the outermost couple of a point; 0 without one.
-double RigidSheet::OuterRadius(Point point) const {
+double DiagramLayout::OuterRadius(Point point) const {
     double outer = 0;
-    for (const Couple& couple : m_couples)
+    for (const DiagramCouple& couple : m_diagram.couples)
         if (IsSame(couple.center, point))
             outer = std::max(outer, couple.radius);
     return outer;
@@ -164,7 +156,7 @@ double RigidSheet::OuterRadius(Point point) const {
 
 /// Where the arc of a couple ends and its head begins, degrees. The opening looks down unless a line would
 /// run through the head.
-double RigidSheet::HeadOfCouple(Point point, double sense) const {
+double DiagramLayout::HeadOfCouple(Point point, double sense) const {
     constexpr double kUsual = 225;  // of a couple that turns counter-clockwise
     constexpr double kStep = 15;
     constexpr double kHalfHead = 12;  // degrees from the end of the arc to the middle of the head
@@ -185,40 +177,33 @@ double RigidSheet::HeadOfCouple(Point point, double sense) const {
     return best;
 }
 
-LabelSpot RigidSheet::AddCouple(Point point, bool is_counterclockwise, text::Color color) {
+LabelSpot DiagramLayout::AddCouple(Point point, bool is_counterclockwise, text::Color color) {
     const double sense = is_counterclockwise ? 1 : -1;
     const double outer = OuterRadius(point);
     const double radius = outer == 0 ? kCoupleRadius : outer + kCoupleStep;
     const double end = HeadOfCouple(point, sense);
     const double start = end - sense * kCoupleTurn;
     const auto [low, high] = std::minmax(start, end);
-    m_canvas.DrawWidth = kWidth;
-    m_canvas.Arc(point.x, point.y, radius, low, high, color);
-    m_canvas.DrawWidth = 1;
-
     const Point base = Plus(point, Times(Toward(end), radius));
     const double tangent = end + sense * 90;
     const numeric::ClockReading clock = numeric::ClockOf(CosD(tangent), SinD(tangent));
-    m_engine.MoveTo(m_canvas, base.x, base.y, 1);
-    m_engine.DrawArrow(m_canvas, {.length = kHeadLength / DrawEng::kPixPerUnit,
-                                  .hour = clock.hour,
-                                  .angle = clock.angle,
-                                  .color = color,
-                                  .width = kWidth});
-    AvoidArc(point, radius, low, high);
+    const DiagramArrow head = {base,   clock.hour, clock.angle, kHeadLength / DrawEng::kPixPerUnit,
+                               kWidth, color};
+    m_diagram.couples.push_back({point, radius, low, high, head});
+    AvoidArc(m_diagram.couples.back());
     AvoidHead(Plus(base, Times(Toward(tangent), kHeadLength)), Toward(tangent));
-    m_couples.push_back({point, radius});
     return {point, std::nullopt, radius};
 }
 
-void RigidSheet::PlaceLabels() {
-    for (const SheetLabel& label : m_labels) {
+Diagram DiagramLayout::Finished() {
+    for (const WantedLabel& label : m_labels) {
         const LabelSpot& spot = label.spot;
         const Point outward = spot.outward ? *spot.outward : m_placer.FreeSide(spot.anchor);
-        m_placer.Place(label.markup, spot.anchor, outward, label.color,
-                       std::max(spot.radius, OuterRadius(spot.anchor)));
+        m_diagram.labels.push_back(m_placer.Place(label.markup, spot.anchor, outward, label.color,
+                                                  std::max(spot.radius, OuterRadius(spot.anchor))));
     }
     m_labels.clear();
+    return std::move(m_diagram);
 }
 
 }  // namespace tavrelo::tools::rigid

@@ -1,4 +1,4 @@
-#include "mechanics/rigid/rigid_lines.h"
+#include "mechanics/rigid/line_command.h"
 
 #include <algorithm>
 
@@ -15,7 +15,8 @@ bool Holds(std::string_view letters, std::string_view letter) {
 }
 
 std::u32string WithoutClosing(const std::u32string& chain) {
-    return chain.front() == chain.back() ? chain.substr(0, chain.size() - 1) : chain;
+    const bool closes = chain.size() > 1 && chain.front() == chain.back();
+    return closes ? chain.substr(0, chain.size() - 1) : chain;
 }
 
 std::optional<text::Refusal> CheckLine(const std::u32string& chain, int system, std::string_view letters,
@@ -39,9 +40,9 @@ std::variant<text::Refusal, LineCommand> ReadChain(const std::u32string& chain, 
     const std::string& letters = systems[static_cast<std::size_t>(system) - 1];
     if (text::CharacterCount(letters) == 1)
         return text::Refusal{"El presente sistema es una partícula."};
-    const bool cancels = chain.back() == U'-';
-    const std::u32string capitals =
-        text::ToCodePoints(text::ToUpper(text::ToUtf8(cancels ? chain.substr(0, chain.size() - 1) : chain)));
+    const bool cancels = chain.ends_with(U'-');
+    const std::u32string letters_typed = cancels ? chain.substr(0, chain.size() - 1) : chain;
+    const std::u32string capitals = text::ToCodePoints(text::ToUpper(text::ToUtf8(letters_typed)));
     const LineRow line{text::ToUtf8(capitals), system};
     if (cancels)
         return LineCommand{LineCommand::Action::Cancel, line};

@@ -2,14 +2,18 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "drawing/draw_engine.h"
 #include "drawing/label_placer.h"
-#include "window/surface.h"
+#include "tools/rigid/diagram.h"
 
 namespace tavrelo::tools::rigid {
+
+/// Pixels.
+struct CanvasSize {
+    double width;
+    double height;
+};
 
 /// Sense of a force: a clock hour and the degrees from its axis.
 struct ArrowSense {
@@ -25,64 +29,53 @@ struct LabelSpot {
     double radius = 0;
 };
 
-struct SheetLabel {
+struct WantedLabel {
     std::string markup;
     LabelSpot spot;
     text::Color color;
 };
 
-/// The picture of a structure while it is being drawn, in pixels from the top left. Lines and arrows are
-/// drawn at once; labels wait until all of these are known.
-class RigidSheet {
+/// Finds the places of a diagram while it grows, in pixels from the top left, and draws nothing: an arrow
+/// moves aside where it would cover another one, and labels wait until all lines and arrows are known.
+class DiagramLayout {
   public:
-    explicit RigidSheet(window::Surface& canvas);
+    explicit DiagramLayout(CanvasSize size);
 
-    const window::Surface& Canvas() const { return m_canvas; }
+    const CanvasSize& Size() const { return m_size; }
 
     /// A thin arrow along a clock hour without an angle; `length` in pixels. Labels cross it if they must.
     void AddAxis(window::Point from, int hour, double length, text::Color color);
     void AddLine(window::Point from, window::Point to, text::Color color);
-    /// The dot of a point; it waits for DrawPoints. Returns where its letter belongs.
+    /// The dot of a point; returns where its letter belongs.
     LabelSpot AddPoint(window::Point point, text::Color color);
-    /// Draws the dots, above the lines and below the arrows that follow.
-    void DrawPoints();
     /// The arrow of a force, moved sideways where it would cover one that stands there already; returns where
     /// its label belongs.
     LabelSpot AddForce(window::Point point, const ArrowSense& sense, text::Color color);
     /// The round arrow of a couple, outside of those that stand there already, its head off the lines that
-    /// have been drawn; returns where its label belongs.
+    /// are known; returns where its label belongs.
     LabelSpot AddCouple(window::Point point, bool is_counterclockwise, text::Color color);
+    /// Labels find their places in the order in which they were added.
+    void AddLabel(WantedLabel label) { m_labels.push_back(std::move(label)); }
 
-    /// Labels are printed in the order in which they were added.
-    void AddLabel(SheetLabel label) { m_labels.push_back(std::move(label)); }
-    void PlaceLabels();
+    /// All that was added, labels included, each at its place.
+    Diagram Finished();
 
   private:
     struct Shaft {
         window::Point tail, tip;
     };
-    struct Dot {
-        window::Point center;
-        text::Color color;
-    };
-    struct Couple {
-        window::Point center;
-        double radius;
-    };
     static bool Covers(const Shaft& a, const Shaft& b);
     Shaft Beside(const Shaft& shaft) const;
     void AvoidHead(window::Point tip, window::Point along);
-    void AvoidArc(window::Point center, double radius, double from, double to);
+    void AvoidArc(const DiagramCouple& couple);
     double OuterRadius(window::Point point) const;
     double HeadOfCouple(window::Point point, double sense) const;
 
-    window::Surface& m_canvas;
-    drawing::DrawEng m_engine;
+    CanvasSize m_size;
     drawing::LabelPlacer m_placer;
-    std::vector<Shaft> m_forces;
-    std::vector<Couple> m_couples;
-    std::vector<Dot> m_dots;
-    std::vector<SheetLabel> m_labels;
+    Diagram m_diagram;
+    std::vector<Shaft> m_shafts;  // of the forces
+    std::vector<WantedLabel> m_labels;
 };
 
 }  // namespace tavrelo::tools::rigid

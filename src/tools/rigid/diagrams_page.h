@@ -4,17 +4,19 @@
 #include <string>
 #include <vector>
 
-#include "tools/rigid/rigid_board.h"
+#include "tools/rigid/problem_in_view.h"
 
 namespace tavrelo::tools::rigid {
 
 /// The page "DCL": the forces and couples on the points of each body.
-class DclTab {
+class DiagramsPage {
   public:
-    explicit DclTab(RigidBoard& board);
+    explicit DiagramsPage(ProblemInView& view);
 
     /// The page comes to the front: the systems that exist can be chosen.
     void Enter();
+    /// The focus goes to the points, their text selected.
+    void FocusAndSelect();
     /// The page as it is at the start; the table of forces stays.
     void RestoreDCLCtrls();
 
@@ -34,23 +36,22 @@ class DclTab {
 
     void AddForces();  // cmdOK1
     void AddReference(int row, bool negated);
-    void AddGlobalForces();  // cmdAddForce
-    void RunCommand(int index);
+    void CopyForcesOfTheWhole();  // cmdAddForce
+    void RunCommand(int index);   // cmdDCL
 
     bool ShowBody(int system);
     int Body() const;
     bool HasBody();
+    text::Refusal BodyNotDefined() const;
     std::string PointsText() const;
     std::vector<std::string> Points() const;
-    std::optional<text::Refusal> CheckPoint(const std::string& point) const;
-    std::optional<text::Refusal> CheckPoints() const;
-    std::string ForceText(std::size_t place) const;
-    std::optional<text::Refusal> ReadForce(std::size_t place, const std::string& point,
-                                           mechanics::rigid::BodyForces& added) const;
+    std::vector<std::string> Values() const;
 
-    RigidBoard& m_board;
+    const mechanics::rigid::RigidProblem& Problem() const { return m_view.Problem(); }
+
+    ProblemInView& m_view;
     window::Form1& m_form;
-    mechanics::rigid::RigidProblem& m_problem;
+    DiagramControls m_controls;
 };
 
 }  // namespace tavrelo::tools::rigid

@@ -5,16 +5,19 @@
 #include <string>
 #include <vector>
 
-#include "mechanics/rigid/chain_vectors.h"
-#include "tools/rigid/rigid_board.h"
+#include "mechanics/rigid/structure_steps.h"
+#include "tools/rigid/problem_in_view.h"
 
 namespace tavrelo::tools::rigid {
 
 /// The page "Configuración": chains of points and separation vectors, origin, systems and lines.
-class ConfigTab {
+class ConfigurationPage {
   public:
-    explicit ConfigTab(RigidBoard& board);
+    explicit ConfigurationPage(ProblemInView& view);
 
+    /// The focus goes to the chain of points.
+    void Focus();
+    void FocusAndSelect();
     /// Empties the boxes in which vectors are entered.
     void RestoreConfigCtrls();
     /// Empties the page: boxes, lists and systems, the selector at 1.
@@ -26,38 +29,38 @@ class ConfigTab {
 
   private:
     void Wire();
-    void WireChain();
-    void WireSystems();
 
     bool ArrowKey(int index, const window::KeyStroke& stroke);
     void EnterChain();               // Enter in txtSegm(0)
     void EnterVector();              // Enter in txtSegm(1)
     void EnterMagnitude(int index);  // Enter in txtSegm(2) and up
-    void EnterSeries();              // Enter in txtRepeat
     void CloseMagnitudes();
     void GoBehind(int index);
     void SetSeriesEnabled(bool enabled);
 
     void AddVectors();        // cmdOK
     void CancelLastVector();  // cmdConfig(0)
-    std::vector<std::string> Magnitudes() const;
-    void BeginAt(const std::string& point);
-    std::optional<text::Refusal> TakeStructure(mechanics::rigid::Structure structure);
-    window::TextBox& BoxOf(const mechanics::rigid::ChainRefusal& refusal) const;
-    void ForgetLostLetters();
     void EraseStructure();
     void ChangeOrigin();  // cmdUpdate, Enter in txtOrigin
+    std::vector<std::string> Magnitudes() const;
+    std::string Origin() const;
+    void BeginAt(const std::string& point);
+    void TakeStructure(mechanics::rigid::StructureStep step);
+    void Refuse(const mechanics::rigid::ChainRefusal& refusal);
+    window::TextBox& BoxOf(const mechanics::rigid::ChainRefusal& refusal) const;
     void ShowCoords();
     void ShowSeps();
+    void ShowSystems();
 
-    void SetSystem(int system, std::string letters);
     void ChooseSystemPoints();  // lstSysts
     void ShowSystemChoice();    // spnColor
     void EnterLine();           // Enter in txtPoints
 
-    RigidBoard& m_board;
+    const mechanics::rigid::RigidProblem& Problem() const { return m_view.Problem(); }
+
+    ProblemInView& m_view;
     window::Form1& m_form;
-    mechanics::rigid::RigidProblem& m_problem;
+    ConfigurationControls m_controls;
 };
 
 }  // namespace tavrelo::tools::rigid

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "tools/rigid/structure_layout.h"
+
+namespace tavrelo::tools::rigid {
+
+/// Whether the force is to be drawn in a direction that only the user knows.
+bool NeedsDrawDirection(const mechanics::rigid::BodyForce& force);
+
+/// Adds the arrows and round arrows of the bodies in view, and their labels.
+void AddForces(DiagramLayout& layout, const RigidScene& scene, const PointPlaces& places);
+
+}  // namespace tavrelo::tools::rigid

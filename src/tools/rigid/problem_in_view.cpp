@@ -1,0 +1,120 @@
+#include "tools/rigid/problem_in_view.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "text/number_text.h"
+#include "tools/rigid/force_grid.h"
+#include "tools/rigid/force_layout.h"
+#include "tools/rigid/rigid_picture.h"
+
+namespace tavrelo::tools::rigid {
+namespace {
+
+using mechanics::rigid::RigidProblem;
+
+constexpr const char* kDirectionQuestion = "¿A qué ángulo deseas trazar esta fuerza en el DCL?";
+
+/// The direction that the user answered with; the default one for an answer that is no number.
+double DirectionOf(const std::optional<std::string>& answer) {
+    if (!answer || !text::IsNum(*answer))
+        return mechanics::forces::kDefaultDrawDirection;
+    const text::LiteralReading reading = text::ReadLiteral(*answer);
+    return reading.failure ? mechanics::forces::kDefaultDrawDirection : reading.value;
+}
+
+}  // namespace
+
+ProblemInView::ProblemInView(window::Form1& form) : m_form(form), m_controls(form) {
+    ArrangeForces(m_controls.gd1);
+}
+
+void ProblemInView::Take(RigidProblem problem) {
+    const std::size_t before = m_problem.forces.size();
+    m_problem = std::move(problem);
+    m_view.directions.resize(m_problem.forces.size());
+    m_view.backup_directions.resize(m_problem.backup.size());
+    if (m_problem.forces.empty())
+        ArrangeForces(m_controls.gd1);
+    for (std::size_t row = before; row < m_problem.forces.size(); ++row)
+        AddForceRow(m_controls.gd1, m_problem.forces[row]);
+}
+
+void ProblemInView::CopyForces(std::span<const std::size_t> rows, int body) {
+    Take(mechanics::rigid::WithCopies(m_problem, rows, body));
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        m_view.directions[m_view.directions.size() - rows.size() + i] = m_view.DirectionOf(rows[i]);
+}
+
+void ProblemInView::RemoveForce(std::size_t row) {
+    if (row >= m_problem.forces.size())
+        return;
+    m_problem = mechanics::rigid::WithoutForce(std::move(m_problem), row);
+    m_view.directions.erase(m_view.directions.begin() + static_cast<std::ptrdiff_t>(row));
+    m_controls.gd1.RemoveNumberedRow(static_cast<int>(row) + 1);
+}
+
+void ProblemInView::Backup() {
+    m_problem = mechanics::rigid::WithBackup(std::move(m_problem));
+    m_view.backup_directions = m_view.directions;
+}
+
+void ProblemInView::Restore() {
+    if (m_problem.backup.empty())
+        return;
+    m_problem = mechanics::rigid::Restored(std::move(m_problem));
+    m_view.directions = m_view.backup_directions;
+    ArrangeForces(m_controls.gd1);
+    for (const mechanics::rigid::BodyForce& force : m_problem.forces)
+        AddForceRow(m_controls.gd1, force);
+    Redraw();
+}
+
+void ProblemInView::ShowAlone(int system) {
+    m_controls.optDCL[system - 1].Choose();
+    m_view.shown.fill(false);
+    m_view.Show(system, true);
+}
+
+void ProblemInView::Hide(int system) {
+    m_view.Show(system, false);
+    m_controls.optDCL[system - 1].Uncheck();
+    m_controls.optShowDCL[system - 1].Uncheck();
+    const std::vector<std::string>& bodies = m_controls.lstDCL.Items();
+    const auto row = std::ranges::find(bodies, std::to_string(system)) - bodies.begin();
+    if (row < std::ssize(bodies))
+        m_controls.lstDCL.RemoveItem(static_cast<int>(row));
+}
+
+void ProblemInView::HideAll() {
+    for (int system = 1; system <= mechanics::rigid::kSystems; ++system)
+        Hide(system);
+}
+
+void ProblemInView::Redraw() {
+    AskDrawDirections();
+    Draw();
+}
+
+void ProblemInView::AskDrawDirections() {
+    for (std::size_t row = 0; row < m_problem.forces.size(); ++row) {
+        const mechanics::rigid::BodyForce& force = m_problem.forces[row];
+        std::optional<double>& direction = m_view.directions[row];
+        if (!direction && m_view.IsShown(force.body) && NeedsDrawDirection(force))
+            direction = DirectionOf(m_form.boxes.AskText(kDirectionQuestion, window::kProgramTitle));
+    }
+}
+
+void ProblemInView::Draw() { RedrawAll(m_controls.pic1.Canvas(), {m_problem, m_view, Decimals()}); }
+
+void ProblemInView::DrawOver(const mechanics::rigid::LineRow& line) {
+    rigid::DrawOver(m_controls.pic1.Canvas(), m_problem.structure.points, line);
+}
+
+void ProblemInView::Refuse(const text::Refusal& refusal, window::TextBox& at_fault) {
+    m_form.boxes.Tell(refusal.text);
+    m_form.SetFocus(at_fault);
+    at_fault.SelectAll();
+}
+
+}  // namespace tavrelo::tools::rigid
