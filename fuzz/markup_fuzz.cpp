@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "drawing/print_markup.h"
-#include "frame/help_files.h"
+#include "text/code_page.h"
 #include "text/markup.h"
 #include "text/utf8.h"
 
@@ -37,6 +37,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             text::RenderMarkup(text::kTextFont, 10, text::EscapeMarks(line)).PlainText();
         Require(shown == line);
     }
-    frame::ToCodePage(frame::FromCodePage(text));
+    text::ToCodePage(text::FromCodePage(text));
     return 0;
 }

@@ -40,6 +40,7 @@ void Program::NameGlobals() {
         {"InfixNotation", [&publics] { return Truth(publics.InfixNotation); }},
         {"DegreesMode", [&publics] { return Truth(publics.DegreesMode); }},
         {"GridCopyMode", [&publics] { return Truth(publics.GridCopyMode); }},
+        {"GridColsShown", [this] { return std::to_string(m_tools->calculator.GridColsShown()); }},
         {"ForceCount", [this] { return std::to_string(m_tools->particle.ForceCount()); }},
         {"BackupCount", [this] { return std::to_string(m_tools->particle.BackupCount()); }},
         {"SegCount", [this] { return std::to_string(m_tools->rigid_body.Problem().structure.segments.size()); }},

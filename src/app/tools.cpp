@@ -1,16 +1,13 @@
 #include "app/tools.h"
 
-#include "tools/calculator/argument_prompt.h"
-#include "tools/calculator/catalogue.h"
+#include "tools/calculator/routine_table.h"
 #include "tools/motion/motion_help.h"
 #include "tools/motion/motion_panels.h"
-#include "window/guard.h"
+#include "window/guarded.h"
 
 namespace tavrelo::app {
 namespace {
 
-using text::kCommandFailed;
-using window::Guard;
 using window::Tool;
 
 constexpr int kPointColumnWidth = 960;  // of the motion table, twips
@@ -25,16 +22,15 @@ constexpr std::string_view kEstcrTags[] = {"CONFIG", "SYSTS", "DCL", "SOLVE"};
 
 Program::Tools::Tools(window::Form1& window)
     : form(window),
-      menu(window),
+      menu(window, tools::calculator::RoutineMenu()),
       tool_switch(window, menu),
       help(window),
       preferences(window),
       expression(window.publics.AngleFactor),
       expression_box(window, expression),
       option_strip(window),
-      grid(window),
-      calculator(window, expression, grid),
       clock(window),
+      calculator(window, expression, clock),
       particle(window, clock),
       rigid_body(window),
       kinematics(window) {
@@ -45,8 +41,6 @@ Program::Tools::Tools(window::Form1& window)
 }
 
 void Program::Tools::Load() {
-    grid.ArrangeGd();
-    form.picClock.Canvas().BackColor = text::Rgb(245, 245, 245);
     clock.Reset();
     help.LoadCalcHelp();
     option_strip.FillTeclas();
@@ -59,12 +53,8 @@ void Program::Tools::Load() {
 }
 
 void Program::Tools::WireMenu() {
-    menu.OnRoutine = [this](int routine) { tools::calculator::ShowArgs(form, routine); };
+    menu.OnRoutine = [this](int routine) { calculator.ShowArgs(routine); };
     menu.OnHelp = [this](int index) { help.ShowArgHelp(index); };
-    menu.RoutineTitle = [](int number) {
-        const tools::calculator::Routine* routine = tools::calculator::FindRoutine(number);
-        return routine ? std::string(routine->title) : std::string();
-    };
     menu.OnWay = [this](int way) { kinematics.ShowWay(way); };
 }
 
@@ -74,41 +64,26 @@ void Program::Tools::WireHelp() {
     particle.OnExample = [this](int index) {
         help.ShowShortTopic(kStatPartFile, std::to_string(index + 1) + "EXAMPLE");
     };
-    form.imgProcs.OnMouseDown = [this](const window::MouseStroke& stroke) {
-        Guard(form.boxes, kCommandFailed, [&] { tools::motion::ChooseProcedureRow(form, stroke.y); });
-    };
-    for (const auto& [index, button] : form.cmdHelpTable.Items())
-        button->OnClick = [this, index = index] {
-            Guard(form.boxes, kCommandFailed, [&] {
-                const auto topic = tools::motion::HelpOfButton(
-                    index, form.publics.HelpTool, tools::motion::ProcedureRow(form), form.cboProcs.Index());
-                if (topic)
-                    help.ShowShortTopic(topic->file, topic->tag);
-            });
-        };
-    for (const auto& [index, button] : form.cmdHelpEstcr.Items())
-        button->OnClick = [this, index = index] {
-            Guard(form.boxes, kCommandFailed, [&] { help.ShowShortTopic(kEstcrFile, kEstcrTags[index]); });
-        };
+    window::On(form, form.imgProcs.OnMouseDown, [this](const window::MouseStroke& stroke) {
+        tools::motion::ChooseProcedureRow(form, stroke.y);
+    });
+    window::OnClick(form, form.cmdHelpTable, [this](int index) {
+        const auto topic = tools::motion::HelpOfButton(
+            index, form.publics.HelpTool, tools::motion::ProcedureRow(form), form.cboProcs.Index());
+        if (topic)
+            help.ShowShortTopic(topic->file, topic->tag);
+    });
+    window::OnClick(form, form.cmdHelpEstcr,
+                    [this](int index) { help.ShowShortTopic(kEstcrFile, kEstcrTags[index]); });
 }
 
 void Program::Tools::WireTools() {
-    form.txtVector.OnKeyPress = [this](char32_t character) {
-        if (character != window::kEnterCharacter)
-            return false;
-        Guard(form.boxes, kCommandFailed, [this] { EnterVector(); });
-        return true;
-    };
+    clock.GiveVectorTo(Tool::Particle, [this] { particle.EnterForce(); });
     calculator.SolveParticle = [this](std::span<const std::string> texts) {
         if (particle.LoadForces(texts))
             particle.SolveAndReport();
     };
-    tool_switch.SetHooks(Tool::Calculator, {.on_entry = [this] {
-                             form.lblVorF.SetCaption("Vector:");
-                             form.fraDirec.SetEnabled(true);
-                             clock.Draw();
-                             form.SetFocus(form.gd);
-                         }});
+    tool_switch.SetHooks(Tool::Calculator, calculator.Hooks());
     tool_switch.SetHooks(Tool::Particle, particle.Hooks());
     tool_switch.SetHooks(Tool::RigidBody, rigid_body.Hooks());
     for (const Tool tool : {Tool::Motion, Tool::Projectile})
@@ -121,16 +96,6 @@ void Program::Tools::WireTools() {
                                  form.SetFocus(form.cmdTable[0]);
                              }});
     tool_switch.SetHooks(Tool::Kinematics, kinematics.Hooks());
-}
-
-/// Enter in the vector box: a force in the particle tool, an argument of the table in the calculator.
-void Program::Tools::EnterVector() {
-    if (form.publics.CurrentTool == Tool::Particle) {
-        particle.EnterForce();
-    } else if (!form.txtVector.Text().empty()) {
-        grid.PutInCurrentCell(form.txtVector.Text());
-        form.txtVector.SetText("");
-    }
 }
 
 }  // namespace tavrelo::app

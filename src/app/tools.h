@@ -9,8 +9,7 @@
 #include "frame/preferences.h"
 #include "frame/shared_expression.h"
 #include "frame/tool_switch.h"
-#include "tools/calculator/argument_grid.h"
-#include "tools/calculator/calculator.h"
+#include "tools/calculator/calculator_tool.h"
 #include "tools/kinematics/kinematics_tool.h"
 #include "tools/particle/particle_tool.h"
 #include "tools/rigid/rigid_tool.h"
@@ -29,9 +28,8 @@ struct Program::Tools {
     frame::SharedExpression expression;
     frame::ExpressionBox expression_box;
     frame::OptionStrip option_strip;
-    tools::calculator::ArgumentGrid grid;
-    tools::calculator::Calculator calculator;
     frame::DirectionClock clock;
+    tools::calculator::CalculatorTool calculator;
     tools::particle::Parts particle;
     tools::rigid::RigidTool rigid_body;
     tools::kinematics::KinematicsTool kinematics;
@@ -41,7 +39,6 @@ struct Program::Tools {
     void WireMenu();
     void WireHelp();
     void WireTools();
-    void EnterVector();
 };
 
 }  // namespace tavrelo::app

@@ -4,7 +4,7 @@
 #include "expr/expression.h"
 #include "notation/clock_direction.h"
 #include "text/number_text.h"
-#include "window/guard.h"
+#include "window/guarded.h"
 
 namespace tavrelo::frame {
 namespace {
@@ -12,25 +12,19 @@ namespace {
 constexpr std::string_view kRotationPrefix = "Q = ";
 constexpr std::string_view kDegreeSign = "°";
 constexpr std::string_view kTipPrefix = "Clic aquí pone ángulo = ";
+constexpr double kStep = 5;         // degrees, as the caption of cmdInc says
 constexpr double kAngleLimit = 90;  // degrees, which a stepped angle never reaches
-
-/// Wires a text box so that Enter runs a handler under the guard.
-void OnEnter(window::Form1& form, window::TextBox& box, std::function<void()> handler) {
-    box.OnKeyPress = [&form, handler = std::move(handler)](char32_t character) {
-        if (character != window::kEnterCharacter)
-            return false;
-        window::Guard(form.boxes, text::kCommandFailed, handler);
-        return true;
-    };
-}
+constexpr text::Color kFaceColor = text::Rgb(245, 245, 245);
 
 }  // namespace
 
 double GetRotAngle(const window::Form1& form) {
-    std::string_view caption = form.cmdRotangle.Caption();
+    std::string_view caption = form.Get<window::Button>("cmdRotangle").Caption();
+    if (!caption.starts_with(kRotationPrefix) || !caption.ends_with(kDegreeSign))
+        return 0;
     caption.remove_prefix(kRotationPrefix.size());
     caption.remove_suffix(kDegreeSign.size());
-    return text::ToNumber(caption);
+    return text::IsNum(caption) ? text::ToNumber(caption) : 0;
 }
 
 std::string RotationCaption(double degrees) {
@@ -40,17 +34,23 @@ std::string RotationCaption(double degrees) {
 std::string AngleTip(double degrees) { return std::string(kTipPrefix) + text::NumberToText(degrees); }
 
 DirectionClock::DirectionClock(window::Form1& form) : m_form(form), m_hour(notation::kHourRight) {
-    m_form.picClock.OnMouseDown = [this](const window::MouseStroke& stroke) {
-        window::Guard(m_form.boxes, text::kCommandFailed, [&] { FaceMouseDown(stroke); });
-    };
-    OnEnter(m_form, m_form.txtAngle, [this] { EnterAngle(); });
-    OnEnter(m_form, m_form.txtAtan, [this] { EnterSlope(); });
-    m_form.cmdInc.OnClick = [this] {
-        window::Guard(m_form.boxes, text::kCommandFailed, [this] { AddStep(); });
-    };
-    m_form.lbltxtAngle.OnClick = [this] {
-        window::Guard(m_form.boxes, text::kCommandFailed, [this] { TakeTipAngle(); });
-    };
+    m_controls.picClock.Canvas().BackColor = kFaceColor;
+    window::On(form, m_controls.picClock.OnMouseDown,
+               [this](const window::MouseStroke& stroke) { FaceMouseDown(stroke); });
+    window::OnEnter(form, m_controls.txtVector, [this] { EnterVector(); });
+    window::OnEnter(form, m_controls.txtAngle, [this] { EnterAngle(); });
+    window::OnEnter(form, m_controls.txtAtan, [this] { EnterSlope(); });
+    window::OnClick(form, m_controls.cmdInc, [this] { AddStep(); });
+    window::OnClick(form, m_controls.lbltxtAngle, [this] { TakeTipAngle(); });
+}
+
+void DirectionClock::GiveVectorTo(window::Tool tool, window::Event taker) {
+    m_takers[static_cast<std::size_t>(tool)] = std::move(taker);
+}
+
+void DirectionClock::EnterVector() {
+    if (const window::Event& taker = m_takers[static_cast<std::size_t>(m_form.publics.CurrentTool)])
+        taker();
 }
 
 double DirectionClock::Rotation() const {
@@ -59,14 +59,14 @@ double DirectionClock::Rotation() const {
 
 void DirectionClock::Reset() {
     m_hour = notation::kHourRight;
-    m_form.txtAngle.SetText("0");
+    m_controls.txtAngle.SetText("0");
     Draw();
 }
 
 void DirectionClock::Draw() {
-    const std::string& angle = m_form.txtAngle.Text();
-    drawing::DrawClockFace(m_form.picClock.Canvas(), m_hour, text::IsNum(angle) ? text::ToNumber(angle) : 0,
-                           Rotation());
+    const std::string& angle = m_controls.txtAngle.Text();
+    drawing::DrawClockFace(m_controls.picClock.Canvas(), m_hour,
+                           text::IsNum(angle) ? text::ToNumber(angle) : 0, Rotation());
 }
 
 void DirectionClock::FaceMouseDown(const window::MouseStroke& stroke) {
@@ -75,13 +75,13 @@ void DirectionClock::FaceMouseDown(const window::MouseStroke& stroke) {
         return;
     m_hour = *hour;
     Draw();
-    Offer(text::ToNumber(m_form.txtAngle.Text()));
+    Offer(text::ToNumber(m_controls.txtAngle.Text()));
 }
 
-void DirectionClock::EnterAngle() { OfferWithAngle(text::ToNumber(m_form.txtAngle.Text())); }
+void DirectionClock::EnterAngle() { OfferWithAngle(text::ToNumber(m_controls.txtAngle.Text())); }
 
 void DirectionClock::EnterSlope() {
-    const std::string& text = m_form.txtAtan.Text();
+    const std::string& text = m_controls.txtAtan.Text();
     expr::CExpression expression(m_form.publics.AngleFactor);
     try {
         expression.SetExpression(text);
@@ -96,19 +96,18 @@ void DirectionClock::EnterSlope() {
 }
 
 void DirectionClock::AddStep() {
-    const double step = text::ToNumber(m_form.cmdInc.Caption());
-    double angle = text::ToNumber(m_form.txtAngle.Text());
-    if (angle + step < kAngleLimit) {
-        angle += step;
-        m_form.txtAngle.SetText(text::NumberToText(angle));
+    double angle = text::ToNumber(m_controls.txtAngle.Text());
+    if (angle + kStep < kAngleLimit) {
+        angle += kStep;
+        m_controls.txtAngle.SetText(text::NumberToText(angle));
     }
     Offer(angle);
 }
 
 void DirectionClock::TakeTipAngle() {
-    const std::string angle = m_form.lbltxtAngle.Tooltip().substr(kTipPrefix.size());
-    m_form.txtAngle.SetText(angle);
-    Offer(text::ToNumber(angle));
+    const double angle = GetRotAngle(m_form);
+    m_controls.txtAngle.SetText(text::NumberToText(angle));
+    Offer(angle);
 }
 
 void DirectionClock::OfferWithAngle(double angle) {
@@ -120,8 +119,8 @@ void DirectionClock::OfferWithAngle(double angle) {
 
 void DirectionClock::Offer(double angle) {
     Draw();
-    m_form.txtVector.SetText(notation::ClockText(m_hour, angle));
-    m_form.SetFocus(m_form.txtVector);
+    m_controls.txtVector.SetText(notation::ClockText(m_hour, angle));
+    m_form.SetFocus(m_controls.txtVector);
 }
 
 }  // namespace tavrelo::frame

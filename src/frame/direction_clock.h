@@ -1,18 +1,31 @@
 #pragma once
 
-#include <functional>
+#include <array>
 #include <string>
 
 #include "window/form1.h"
 
 namespace tavrelo::frame {
 
+struct DirectionClockControls {
+    window::Form1& form;
+    window::Picture& picClock = form.Get<window::Picture>("picClock");
+    window::TextBox& txtVector = form.Get<window::TextBox>("txtVector");
+    window::TextBox& txtAngle = form.Get<window::TextBox>("txtAngle");
+    window::TextBox& txtAtan = form.Get<window::TextBox>("txtAtan");
+    window::Button& cmdInc = form.Get<window::Button>("cmdInc");
+    window::Label& lbltxtAngle = form.Get<window::Label>("lbltxtAngle");
+};
+
 /// The panel in which a direction is picked instead of typed: the clock `picClock` for the hour, `txtAngle`,
 /// `txtAtan` and `cmdInc` for the acute angle. It writes the start of a vector's text into `txtVector`, ready
-/// for the magnitude.
+/// for the magnitude. Enter in `txtVector` goes to the tool in use.
 class DirectionClock {
   public:
     explicit DirectionClock(window::Form1& form);
+
+    /// Enter in `txtVector` runs this while that tool is in use.
+    void GiveVectorTo(window::Tool tool, window::Event taker);
 
     int ClockSel() const { return m_hour; }
     /// The rotation of the axes in degrees, as the caption of `cmdRotangle` tells it; 0 outside the particle
@@ -24,6 +37,7 @@ class DirectionClock {
     void Draw();
 
   private:
+    void EnterVector();
     void FaceMouseDown(const window::MouseStroke& stroke);
     void EnterAngle();
     void EnterSlope();
@@ -34,6 +48,8 @@ class DirectionClock {
     void Offer(double angle);
 
     window::Form1& m_form;
+    DirectionClockControls m_controls{m_form};
+    std::array<window::Event, window::kToolCount> m_takers;
     int m_hour;
 };
 

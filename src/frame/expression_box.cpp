@@ -5,7 +5,7 @@
 #include "frame/writer.h"
 #include "text/number_text.h"
 #include "text/utf8.h"
-#include "window/guard.h"
+#include "window/guarded.h"
 
 namespace tavrelo::frame {
 namespace {
@@ -46,39 +46,36 @@ bool IsConstant(const std::string& line) {
 
 ExpressionBox::ExpressionBox(window::Form1& form, SharedExpression& expression)
     : m_form(form), m_expression(expression) {
-    m_form.rtbExpr.OnKeyDown = [this](const KeyStroke& stroke) {
-        bool consumed = false;
-        window::Guard(m_form.boxes, text::kCommandFailed, [&] { consumed = KeyDown(stroke); });
-        return consumed;
-    };
-    m_form.rtbExpr.OnKeyPress = [this](char32_t character) { return KeyPress(character); };
-    m_form.rtbExpr.OnKeyUp = [this](const KeyStroke&) { KeyUp(); };
+    window::RichTextBox& box = m_controls.rtbExpr;
+    window::On(form, box.OnKeyDown, [this](const KeyStroke& stroke) { return KeyDown(stroke); });
+    window::On(form, box.OnKeyPress, [this](char32_t character) { return KeyPress(character); });
+    window::On(form, box.OnKeyUp, [this](const KeyStroke&) { KeyUp(); });
 }
 
 bool ExpressionBox::KeyDown(const KeyStroke& stroke) {
     if (stroke.key == Key::F10)
         return InsertResult();
     if (stroke.key == Key::F11) {
-        m_form.rtbExpr.Insert(m_form.txtExpr.Text());
+        m_controls.rtbExpr.Insert(m_controls.txtExpr.Text());
         return true;
     }
     if (stroke.key == Key::Insert)
         return true;
     if (IsLetter(stroke, U'b', U'B')) {
         if (IsPlain(stroke))
-            m_form.rtbExpr.SetText("");
+            m_controls.rtbExpr.SetText("");
         else if (IsCtrlAlone(stroke))
-            m_form.rtbExpr.Insert("b");
+            m_controls.rtbExpr.Insert("b");
         return true;
     }
     return m_form.publics.QuickKeys && QuickKey(stroke);
 }
 
 bool ExpressionBox::InsertResult() {
-    const std::string& result = m_form.txtExpr.Text();
+    const std::string& result = m_controls.txtExpr.Text();
     if (!text::IsNum(result))
         return false;
-    m_form.rtbExpr.Insert(text::RoundedText(text::ToNumber(result), kInsertedDecimals));
+    m_controls.rtbExpr.Insert(text::RoundedText(text::ToNumber(result), kInsertedDecimals));
     return true;
 }
 
@@ -87,11 +84,11 @@ bool ExpressionBox::QuickKey(const KeyStroke& stroke) {
         if (!IsLetter(stroke, row.letter, row.capital))
             continue;
         if (IsCtrlAlone(stroke))
-            m_form.rtbExpr.Insert(text::ToUtf8(row.letter));
+            m_controls.rtbExpr.Insert(text::ToUtf8(row.letter));
         else if (IsPlain(stroke) && row.caret_step != 0)
             MoveCaret(row.caret_step);
         else if (IsPlain(stroke))
-            m_form.rtbExpr.Insert(row.alone);
+            m_controls.rtbExpr.Insert(row.alone);
         return true;
     }
     const bool types = stroke.key == Key::Character && !stroke.ctrl && !stroke.alt;
@@ -101,7 +98,7 @@ bool ExpressionBox::QuickKey(const KeyStroke& stroke) {
 /// "|" gives a pair of parentheses with the caret inside, "{" and "[" give the closers, "(" wraps what is
 /// selected.
 bool ExpressionBox::BracketKey(char32_t character) {
-    window::RichTextBox& box = m_form.rtbExpr;
+    window::RichTextBox& box = m_controls.rtbExpr;
     switch (character) {
         case U'|':
             box.Insert("(");
@@ -127,21 +124,21 @@ bool ExpressionBox::BracketKey(char32_t character) {
 }
 
 void ExpressionBox::MoveCaret(int step) {
-    const window::TextSelection& chosen = m_form.rtbExpr.Selection();
+    const window::TextSelection& chosen = m_controls.rtbExpr.Selection();
     const std::size_t caret = chosen.start + chosen.length;
     if (step < 0)
-        m_form.rtbExpr.Select({caret == 0 ? 0 : caret - 1, 0});
+        m_controls.rtbExpr.Select({caret == 0 ? 0 : caret - 1, 0});
     else
-        m_form.rtbExpr.Select({caret + 1, 0});
+        m_controls.rtbExpr.Select({caret + 1, 0});
 }
 
 void ExpressionBox::KeyUp() {
     if (!m_closer_due)
         return;
     m_closer_due = false;
-    const std::size_t caret = m_form.rtbExpr.Selection().start;
-    m_form.rtbExpr.Insert(")");
-    m_form.rtbExpr.Select({caret, 0});
+    const std::size_t caret = m_controls.rtbExpr.Selection().start;
+    m_controls.rtbExpr.Insert(")");
+    m_controls.rtbExpr.Select({caret, 0});
 }
 
 bool ExpressionBox::KeyPress(char32_t character) {
@@ -151,26 +148,26 @@ bool ExpressionBox::KeyPress(char32_t character) {
         Enter();
     } catch (const std::exception&) {
         // The failure stands where the result would, so that typing is not interrupted by a box.
-        m_form.txtExpr.SetText(std::string(kExpressionFailed));
+        m_controls.txtExpr.SetText(std::string(kExpressionFailed));
     }
     return true;
 }
 
 void ExpressionBox::Enter() {
-    const std::string line = text::Trim(m_form.rtbExpr.Text());
+    const std::string line = text::Trim(m_controls.rtbExpr.Text());
     if (!IsConstant(line))
         return;
     const auto result = m_form.publics.InfixNotation ? EvaluateFormula(line) : EvaluatePostfix(line);
     if (!result)
         return;
-    m_form.txtExpr.SetText(*result);
+    m_controls.txtExpr.SetText(*result);
     frame::AppendToLog(m_form, line + " = " + *result + "\r\n-------\r\n");
 }
 
 std::optional<std::string> ExpressionBox::EvaluateFormula(const std::string& line) {
     const auto balanced = expr::CheckParentheses(line);
     if (!balanced) {
-        m_form.txtExpr.SetText(std::string(expr::kParenthesesDisagree));
+        m_controls.txtExpr.SetText(std::string(expr::kParenthesesDisagree));
         return std::nullopt;
     }
     try {
@@ -178,9 +175,9 @@ std::optional<std::string> ExpressionBox::EvaluateFormula(const std::string& lin
         expression.SetExpression(*balanced);
         if (expression.ErrorCode() == 0)
             return expression.Value().Text();
-        m_form.txtExpr.SetText(expression.ErrorDescription());
+        m_controls.txtExpr.SetText(expression.ErrorDescription());
     } catch (const numeric::RuntimeFailure&) {
-        m_form.txtExpr.SetText(std::string(kExpressionFailed));
+        m_controls.txtExpr.SetText(std::string(kExpressionFailed));
     }
     m_expression.Renew();
     return std::nullopt;
@@ -192,7 +189,7 @@ std::optional<std::string> ExpressionBox::EvaluatePostfix(const std::string& lin
         return text::NumberToText(*result.value);
     if (result.box)
         m_form.boxes.ShowMessage(result.box->text, result.box->title, window::Buttons::Ok);
-    m_form.txtExpr.SetText(result.message);
+    m_controls.txtExpr.SetText(result.message);
     return std::nullopt;
 }
 

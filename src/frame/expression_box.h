@@ -8,6 +8,12 @@
 
 namespace tavrelo::frame {
 
+struct ExpressionControls {
+    window::Form1& form;
+    window::RichTextBox& rtbExpr = form.Get<window::RichTextBox>("rtbExpr");
+    window::TextBox& txtExpr = form.Get<window::TextBox>("txtExpr");
+};
+
 /// The command line of the calculator, `rtbExpr`: its quick keys, and the evaluation of a line ended by Enter
 /// as a formula or in reverse Polish notation. The result stands in `txtExpr`, the record in the log.
 class ExpressionBox {
@@ -30,6 +36,7 @@ class ExpressionBox {
     std::optional<std::string> EvaluatePostfix(const std::string& line);
 
     window::Form1& m_form;
+    ExpressionControls m_controls{m_form};
     SharedExpression& m_expression;
     bool m_closer_due = false;  // the key that opened a pair of parentheses is still down
 };

@@ -1,33 +1,14 @@
 #include "frame/help_files.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "frame/writer.h"
-#include "text/utf8.h"
+#include "text/code_page.h"
 
 namespace tavrelo::frame {
 namespace {
 
-// The characters of the bytes 128 to 159; all other bytes are the character of the same number.
-constexpr std::u32string_view kUpperControls = U"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008DŽ\u008F\u0090‘’“”•–—˜™š›œ\u009DžŸ";
-constexpr unsigned char kFirstUpperControl = 128;
-constexpr std::size_t kCodePageSize = 256;
 constexpr std::string_view kTopicEnd = "[STOP]";
-
-static_assert(kUpperControls.size() == 32);
-
-char32_t CharacterOf(unsigned char byte) {
-    const std::size_t index = static_cast<std::size_t>(byte) - kFirstUpperControl;
-    return byte >= kFirstUpperControl && index < kUpperControls.size() ? kUpperControls[index] : byte;
-}
-
-char ByteOf(char32_t character) {
-    const std::size_t index = kUpperControls.find(character);
-    if (index != std::u32string_view::npos)
-        return static_cast<char>(kFirstUpperControl + index);
-    return character < kCodePageSize ? static_cast<char>(character) : '?';
-}
 
 /// Cuts the next line off the front of a text, without its line end (LF or CR LF); nothing behind the last
 /// one.
@@ -51,23 +32,8 @@ std::string_view MustHaveLine(std::string_view& rest) {
 
 }  // namespace
 
-std::string FromCodePage(std::string_view bytes) {
-    std::u32string text;
-    text.reserve(bytes.size());
-    for (const char byte : bytes)
-        text += CharacterOf(static_cast<unsigned char>(byte));
-    return text::ToUtf8(text);
-}
-
-std::string ToCodePage(std::string_view text) {
-    std::string bytes;
-    for (const char32_t character : text::ToCodePoints(text))
-        bytes += ByteOf(character);
-    return bytes;
-}
-
 std::string ReadTextFile(const window::Files& files, std::string_view path) {
-    return FromCodePage(files.Read(path));
+    return text::FromCodePage(files.Read(path));
 }
 
 std::string ReadTopic(const window::Files& files, std::string_view path, std::string_view tag) {
@@ -90,13 +56,12 @@ std::string ReadTopic(const window::Files& files, std::string_view path, std::st
 bool LoadTopic(window::Form1& form, window::RichTextBox& target, std::string_view font_name, double font_size,
                std::string_view path, std::string_view tag) {
     try {
-        WriteMarkup(form, font_name, font_size, ReadTopic(form.files, path, tag));
+        target.SetContent(WriteMarkup(form, font_name, font_size, ReadTopic(form.files, path, tag)));
+        return true;
     } catch (const numeric::RuntimeFailure&) {
         form.boxes.Tell("No pude cargar el archivo.");
         return false;
     }
-    target.SetContent(form.rtbHold.Content());
-    return true;
 }
 
 }  // namespace tavrelo::frame

@@ -8,11 +8,6 @@
 
 namespace tavrelo::frame {
 
-/// UTF-8 text of bytes in the single-byte code page Windows-1252 of the help files, and back; a character
-/// that the code page lacks becomes "?".
-std::string FromCodePage(std::string_view bytes);
-std::string ToCodePage(std::string_view text);
-
 /// The whole of a file beside the program as UTF-8; fails with FileNotFound.
 std::string ReadTextFile(const window::Files& files, std::string_view path);
 

@@ -4,7 +4,7 @@
 #include "frame/help_topics.h"
 #include "frame/writer.h"
 #include "text/utf8.h"
-#include "window/guard.h"
+#include "window/guarded.h"
 
 namespace tavrelo::frame {
 namespace {
@@ -12,10 +12,16 @@ namespace {
 // Indexes of cmdHelpCtrl.
 enum HelpButton { kGeneralPage, kFontSize, kEnlarge, kClose };
 
-constexpr std::string_view kSmallSize = "8";
-constexpr std::string_view kLargeSize = "10";
-constexpr std::string_view kSmallSizeTip = "Cambiar el tamaño de fuente a 10 puntos";
-constexpr std::string_view kLargeSizeTip = "Cambiar el tamaño de fuente a 8 puntos";
+/// A size of print, and what its button says while it is in use.
+struct PrintSize {
+    double points;
+    std::string_view caption;
+    std::string_view tooltip;
+};
+constexpr PrintSize kPrintSizes[] = {
+    {8, "8", "Cambiar el tamaño de fuente a 10 puntos"},
+    {10, "10", "Cambiar el tamaño de fuente a 8 puntos"},
+};
 constexpr std::string_view kEnlargeCaption = "▼";
 constexpr std::string_view kReduceCaption = "▲";
 constexpr int kPanelHeight = 385;  // pixels
@@ -34,13 +40,9 @@ void SetHeight(window::Control& control, int height) {
 }  // namespace
 
 HelpPanel::HelpPanel(window::Form1& form) : m_form(form) {
-    m_form.cboHelp.OnClick = [this] {
-        window::Guard(m_form.boxes, "No pude cargar el archivo de ayuda.", [this] { PickTopic(); });
-    };
-    for (const auto& [index, button] : m_form.cmdHelpCtrl.Items())
-        button->OnClick = [this, index = index] {
-            window::Guard(m_form.boxes, text::kCommandFailed, [&] { Press(index); });
-        };
+    window::OnClick(
+        form, m_controls.cboHelp, [this] { PickTopic(); }, "No pude cargar el archivo de ayuda.");
+    window::OnClick(form, m_controls.cmdHelpCtrl, [this](int index) { Press(index); });
 }
 
 void HelpPanel::FillHelpCbo(int help_tool) {
@@ -48,16 +50,16 @@ void HelpPanel::FillHelpCbo(int help_tool) {
     std::vector<std::string> titles;
     for (const HelpTopic& topic : HelpTopics(help_tool))
         titles.emplace_back(topic.title);
-    m_form.cboHelp.SetItems(std::move(titles));
-    m_form.cboHelp.SetIndex(0);
+    m_controls.cboHelp.SetItems(std::move(titles));
+    m_controls.cboHelp.SetIndex(0);
     // A closed panel loads nothing: a program without help files would else open a box at every tool.
-    if (m_form.fraHelp.IsShown())
+    if (m_controls.fraHelp.IsShown())
         PickTopic();
 }
 
 void HelpPanel::PickTopic() {
     const auto topics = HelpTopics(m_help_tool);
-    const int row = m_form.cboHelp.Index();
+    const int row = m_controls.cboHelp.Index();
     if (row < 0 || row >= static_cast<int>(topics.size()))
         return;
     const HelpTopic& topic = topics[static_cast<std::size_t>(row)];
@@ -67,8 +69,8 @@ void HelpPanel::PickTopic() {
 void HelpPanel::ShowGeneralPage() { Show({"\\hilfe1.txt", "GRAL0"}); }
 
 void HelpPanel::Show(const Page& page) {
-    const double size = text::ToNumber(m_form.cmdHelpCtrl[kFontSize].Caption());
-    if (LoadTopic(m_form, m_form.rtbHelp, text::kTextFont, size, page.file, page.tag))
+    if (LoadTopic(m_form, m_controls.rtbHelp, text::kTextFont, kPrintSizes[m_is_large_print].points,
+                  page.file, page.tag))
         m_page = page;
 }
 
@@ -81,25 +83,25 @@ void HelpPanel::Press(int index) {
         case kEnlarge:
             return ToggleHeight();
         default:
-            m_form.fraHelp.SetVisible(false);
+            m_controls.fraHelp.SetVisible(false);
     }
 }
 
 void HelpPanel::ToggleFontSize() {
-    window::Button& button = m_form.cmdHelpCtrl[kFontSize];
-    const bool enlarge = button.Caption() == kSmallSize;
-    button.SetCaption(std::string(enlarge ? kLargeSize : kSmallSize));
-    button.SetTooltip(std::string(enlarge ? kLargeSizeTip : kSmallSizeTip));
-    if (m_page && !m_form.rtbHelp.Text().empty())
+    m_is_large_print = !m_is_large_print;
+    const PrintSize& size = kPrintSizes[m_is_large_print];
+    window::Button& button = m_controls.cmdHelpCtrl[kFontSize];
+    button.SetCaption(std::string(size.caption));
+    button.SetTooltip(std::string(size.tooltip));
+    if (m_page && !m_controls.rtbHelp.Text().empty())
         Show(*m_page);
 }
 
 void HelpPanel::ToggleHeight() {
-    window::Button& button = m_form.cmdHelpCtrl[kEnlarge];
-    const bool enlarge = button.Caption() == kEnlargeCaption;
-    button.SetCaption(std::string(enlarge ? kReduceCaption : kEnlargeCaption));
-    SetHeight(m_form.fraHelp, enlarge ? kPanelLargeHeight : kPanelHeight);
-    SetHeight(m_form.rtbHelp, enlarge ? kBoxLargeHeight : kBoxHeight);
+    m_is_high = !m_is_high;
+    m_controls.cmdHelpCtrl[kEnlarge].SetCaption(std::string(m_is_high ? kReduceCaption : kEnlargeCaption));
+    SetHeight(m_controls.fraHelp, m_is_high ? kPanelLargeHeight : kPanelHeight);
+    SetHeight(m_controls.rtbHelp, m_is_high ? kBoxLargeHeight : kBoxHeight);
 }
 
 void HelpPanel::LoadCalcHelp() {
@@ -125,13 +127,13 @@ void HelpPanel::ShowArgHelp(int index) {
     if (index < 0 || index >= static_cast<int>(m_arg_help.size()))
         return;
     const std::string& text = m_arg_help[static_cast<std::size_t>(index)];
-    WriteLines(m_form, m_form.txtArgHelp, {text::ReplaceAll(text, "\n", "\r\n")});
-    m_form.tabCalc.SetCurrent(kHelpTab);
+    WriteLines(m_form, m_controls.txtArgHelp, {text::ReplaceAll(text, "\n", "\r\n")});
+    m_controls.tabCalc.SetCurrent(kHelpTab);
 }
 
 void HelpPanel::ShowShortTopic(std::string_view file, std::string_view tag) {
-    if (LoadTopic(m_form, m_form.txtArgHelp, text::kTextFont, kShortHelpFontSize, file, tag))
-        m_form.tabCalc.SetCurrent(kHelpTab);
+    if (LoadTopic(m_form, m_controls.txtArgHelp, text::kTextFont, kShortHelpFontSize, file, tag))
+        m_controls.tabCalc.SetCurrent(kHelpTab);
 }
 
 }  // namespace tavrelo::frame

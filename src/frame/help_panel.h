@@ -10,6 +10,16 @@ namespace tavrelo::frame {
 
 inline constexpr double kShortHelpFontSize = 10;  // of topics in `txtArgHelp`, points
 
+struct HelpControls {
+    window::Form1& form;
+    window::Frame& fraHelp = form.Get<window::Frame>("fraHelp");
+    window::ComboBox& cboHelp = form.Get<window::ComboBox>("cboHelp");
+    window::ControlArray<window::Button> cmdHelpCtrl = form.GetArray<window::Button>("cmdHelpCtrl");
+    window::RichTextBox& rtbHelp = form.Get<window::RichTextBox>("rtbHelp");
+    window::RichTextBox& txtArgHelp = form.Get<window::RichTextBox>("txtArgHelp");
+    window::TabStrip& tabCalc = form.Get<window::TabStrip>("tabCalc");
+};
+
 /// The help panel `fraHelp` with its list and buttons, and the short help in `txtArgHelp`.
 class HelpPanel {
   public:
@@ -41,7 +51,10 @@ class HelpPanel {
     void Show(const Page& page);
 
     window::Form1& m_form;
+    HelpControls m_controls{m_form};
     int m_help_tool = 0;
+    bool m_is_large_print = false;
+    bool m_is_high = false;
     std::optional<Page> m_page;  // the one on view
     std::vector<std::string> m_arg_help;
 };

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "expr/polynomial_text.h"
-#include "window/guard.h"
+#include "window/guarded.h"
 
 namespace tavrelo::frame {
 namespace {
@@ -28,10 +28,7 @@ constexpr std::array<std::string_view, kCells> kTooltips = {
 };
 
 /// The cell under a place, 1 to 4, or 0.
-int CellAt(double x) {
-    const int cell = x < 0 ? 0 : static_cast<int>(x / kCellWidth) + 1;
-    return cell <= kCells ? cell : 0;
-}
+int CellAt(double x) { return window::CellAt(x, kCellWidth, kCells) + 1; }
 
 void PaintCell(window::Surface& surface, int cell, std::string_view label, bool active) {
     const double left = (cell - 1) * kCellWidth;
@@ -58,14 +55,15 @@ std::vector<std::string> SplitAtCommas(const std::string& text) {
 }  // namespace
 
 OptionStrip::OptionStrip(window::Form1& form) : m_form(form) {
-    m_form.picOpt.OnMouseDown = [this](const window::MouseStroke& stroke) {
-        window::Guard(m_form.boxes, "Error.", [&] { MouseDown(stroke); });
-    };
-    m_form.picOpt.OnMouseMove = [this](const window::MouseStroke& stroke) { MouseMove(stroke); };
+    window::On(
+        form, m_controls.picOpt.OnMouseDown, [this](const window::MouseStroke& stroke) { MouseDown(stroke); },
+        "Error.");
+    window::On(form, m_controls.picOpt.OnMouseMove,
+               [this](const window::MouseStroke& stroke) { MouseMove(stroke); });
 }
 
 void OptionStrip::FillTeclas() {
-    window::Surface& surface = m_form.picOpt.Canvas();
+    window::Surface& surface = m_controls.picOpt.Canvas();
     const window::Publics& publics = m_form.publics;
     surface.Cls();
     PaintCell(surface, kPolynomial, "P", false);
@@ -109,15 +107,15 @@ void OptionStrip::InsertPolynomial() {
         return;
     const auto polynomial = expr::GetPolynomial(SplitAtCommas(*answer));
     if (polynomial)
-        m_form.rtbExpr.Insert(*polynomial);
+        m_controls.rtbExpr.Insert(*polynomial);
     else
         m_form.boxes.Tell(expr::kCoefficientNoNumber);
 }
 
 void OptionStrip::MouseMove(const window::MouseStroke& stroke) {
     const int cell = CellAt(stroke.x);
-    m_form.picOpt.SetTooltip(cell == 0 ? std::string()
-                                       : std::string(kTooltips[static_cast<std::size_t>(cell - 1)]));
+    m_controls.picOpt.SetTooltip(cell == 0 ? std::string()
+                                           : std::string(kTooltips[static_cast<std::size_t>(cell - 1)]));
 }
 
 }  // namespace tavrelo::frame

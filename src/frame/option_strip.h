@@ -4,6 +4,12 @@
 
 namespace tavrelo::frame {
 
+struct OptionStripControls {
+    window::Form1& form;
+    window::Picture& picOpt = form.Get<window::Picture>("picOpt");
+    window::RichTextBox& rtbExpr = form.Get<window::RichTextBox>("rtbExpr");
+};
+
 /// The strip `picOpt` beside the expression box: insert a polynomial, quick keys, notation, unit of angles.
 class OptionStrip {
   public:
@@ -19,6 +25,7 @@ class OptionStrip {
     void SwitchDegrees();
 
     window::Form1& m_form;
+    OptionStripControls m_controls{m_form};
 };
 
 }  // namespace tavrelo::frame

@@ -1,6 +1,7 @@
 #include "frame/preferences.h"
 
-#include "window/guard.h"
+#include "window/guarded.h"
+#include "window/questions.h"
 
 namespace tavrelo::frame {
 namespace {
@@ -19,29 +20,26 @@ constexpr std::string_view kAboutText =
 }  // namespace
 
 Preferences::Preferences(window::Form1& form) : m_form(form) {
-    m_form.UpDown1.SetRange(0, kMostDecimals);
-    m_form.UpDown1.SetValue(m_form.publics.Decimals);
-    m_form.UpDown1.OnChange = [this] {
-        m_form.publics.Decimals = static_cast<std::int16_t>(m_form.UpDown1.Value());
-    };
-    m_form.cmdPrintRes.OnClick = [this] {
-        window::Guard(m_form.boxes, text::kCommandFailed, [this] { PrintChosen(); });
-    };
-    m_form.cmdCopyToClipboard.OnClick = [this] {
-        window::Guard(m_form.boxes, text::kCommandFailed,
-                      [this] { m_form.clipboard.SetPicture(m_form.pic1.Canvas()); });
-    };
-    m_form.cmdCloseForm2.OnClick = [this] { m_form.Form2.SetVisible(false); };
-    m_form.cmdAbout.OnClick = [this] { m_form.boxes.Tell(kAboutText); };
+    m_controls.UpDown1.buddy = &m_controls.txtNCD;
+    m_controls.UpDown1.SetRange(0, kMostDecimals);
+    m_controls.UpDown1.SetValue(form.publics.Decimals);
+    window::On(form, m_controls.UpDown1.OnChange,
+               [this] { m_form.publics.Decimals = static_cast<std::int16_t>(m_controls.UpDown1.Value()); });
+    window::OnClick(form, m_controls.cmdPrintRes, [this] { PrintChosen(); });
+    window::OnClick(form, m_controls.cmdCopyToClipboard,
+                    [this] { m_form.clipboard.SetPicture(m_controls.pic1.Canvas()); });
+    window::OnClick(form, m_controls.cmdCloseForm2, [this] { m_controls.Form2.SetVisible(false); });
+    window::On(form, m_controls.Form2.OnClose, [this] { m_controls.Form2.SetVisible(false); });
+    window::OnClick(form, m_controls.cmdAbout, [this] { m_form.boxes.Tell(kAboutText); });
 }
 
 void Preferences::PrintChosen() {
-    if (m_form.optPrint[kLog].Checked())
-        ImprimirResultados(m_form.rtbReg, "Imprimir el contenido del cuadro de registro.");
-    else if (m_form.optPrint[kHelpPanelText].Checked())
-        ImprimirResultados(m_form.rtbHelp, "Imprimir el contenido del panel de ayuda.");
-    else if (m_form.optPrint[kShortHelpText].Checked())
-        ImprimirResultados(m_form.txtArgHelp, "Imprimir el contenido de la ficha Ayuda.");
+    if (m_controls.optPrint[kLog].Checked())
+        ImprimirResultados(m_controls.rtbReg, "Imprimir el contenido del cuadro de registro.");
+    else if (m_controls.optPrint[kHelpPanelText].Checked())
+        ImprimirResultados(m_controls.rtbHelp, "Imprimir el contenido del panel de ayuda.");
+    else if (m_controls.optPrint[kShortHelpText].Checked())
+        ImprimirResultados(m_controls.txtArgHelp, "Imprimir el contenido de la ficha Ayuda.");
     else
         m_form.boxes.Tell("Selecciona algo qué imprimir.");
 }
@@ -51,8 +49,7 @@ void Preferences::ImprimirResultados(const window::RichTextBox& box, std::string
         m_form.boxes.Tell("No hay texto qué imprimir");
         return;
     }
-    if (m_form.boxes.ShowMessage(question, window::kProgramTitle, window::Buttons::OkCancel) !=
-        window::Answer::Ok)
+    if (!window::Confirm(m_form.boxes, question, window::Buttons::OkCancel))
         return;
     window::Guard(m_form.boxes, "Error en la impresión.", [&] {
         const window::CMousePtr busy(m_form);

@@ -1,7 +1,10 @@
 #include "frame/tool_switch.h"
 
+#include <algorithm>
+#include <initializer_list>
+
 #include "frame/welcome.h"
-#include "window/guard.h"
+#include "window/guarded.h"
 
 namespace tavrelo::frame {
 namespace {
@@ -26,17 +29,21 @@ constexpr ToolButton kButtons[] = {
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
 constexpr int kButtonWidth = 555;  // twips
 
-constexpr text::Color kResultColors[window::kToolCount] = {text::Rgb(0, 128, 0),   text::Rgb(128, 128, 0),
-                                                           text::Rgb(128, 0, 128), text::Rgb(0, 0, 192),
-                                                           text::Rgb(128, 64, 0),  text::Rgb(0, 0, 128)};
-// A light tint of each tool's colour behind the expression line.
-constexpr text::Color kExpressionColors[window::kToolCount] = {
-    text::Rgb(226, 242, 226), text::Rgb(244, 243, 214), text::Rgb(243, 228, 243),
-    text::Rgb(222, 236, 250), text::Rgb(250, 235, 218), text::Rgb(228, 228, 248)};
-
-constexpr window::Arrangement kArrangements[window::kToolCount] = {
-    window::Arrangement::Calculator, window::Arrangement::Particle,   window::Arrangement::RigidBody,
-    window::Arrangement::Motion,     window::Arrangement::Projectile, window::Arrangement::Kinematics};
+/// What the window looks like around a tool.
+struct ToolLook {
+    window::Arrangement arrangement;
+    text::Color results;     // of the strip with the results
+    text::Color expression;  // a light tint of the tool's colour behind the expression line
+    bool reports_in_solve_box;
+};
+constexpr ToolLook kLooks[window::kToolCount] = {
+    {window::Arrangement::Calculator, text::Rgb(0, 128, 0), text::Rgb(226, 242, 226), false},
+    {window::Arrangement::Particle, text::Rgb(128, 128, 0), text::Rgb(244, 243, 214), false},
+    {window::Arrangement::RigidBody, text::Rgb(128, 0, 128), text::Rgb(243, 228, 243), true},
+    {window::Arrangement::Motion, text::Rgb(0, 0, 192), text::Rgb(222, 236, 250), true},
+    {window::Arrangement::Projectile, text::Rgb(128, 64, 0), text::Rgb(250, 235, 218), true},
+    {window::Arrangement::Kinematics, text::Rgb(0, 0, 128), text::Rgb(228, 228, 248), false},
+};
 
 constexpr text::Color kArgumentColor = text::Rgb(255, 255, 224);
 constexpr int kHoldParkedLeft = -200;
@@ -44,24 +51,18 @@ constexpr int kHoldParkedLeft = -200;
 std::size_t IndexOf(window::Tool tool) { return static_cast<std::size_t>(tool); }
 
 /// The button under a place of the toolbar, 1 to 9, or 0.
-int ButtonAt(double x) {
-    const int button = x < 0 ? 0 : static_cast<int>(x / kButtonWidth) + 1;
-    return button <= kButtonCount ? button : 0;
-}
-
-bool IsMotionTool(window::Tool tool) {
-    return tool == window::Tool::Motion || tool == window::Tool::Projectile;
-}
-
-bool ReportsInSolveBox(window::Tool tool) { return tool == window::Tool::RigidBody || IsMotionTool(tool); }
+int ButtonAt(double x) { return window::CellAt(x, kButtonWidth, kButtonCount) + 1; }
 
 }  // namespace
 
 ToolSwitch::ToolSwitch(window::Form1& form, MenuBar& menu) : m_form(form), m_menu(menu) {
-    m_form.Image1.OnMouseDown = [this](const window::MouseStroke& stroke) { ImageMouseDown(stroke); };
-    m_form.Image1.OnMouseMove = [this](const window::MouseStroke& stroke) { ImageMouseMove(stroke); };
-    m_form.ThisWindow.OnClose = [this] { m_form.End(); };
-    m_form.Form2.OnClose = [this] { m_form.Form2.SetVisible(false); };
+    // The switcher traps its failures and then only stops.
+    window::On(
+        form, m_controls.Image1.OnMouseDown,
+        [this](const window::MouseStroke& stroke) { ImageMouseDown(stroke); }, "");
+    window::On(form, m_controls.Image1.OnMouseMove,
+               [this](const window::MouseStroke& stroke) { ImageMouseMove(stroke); });
+    window::On(form, m_controls.ThisWindow.OnClose, [this] { m_form.End(); });
 }
 
 void ToolSwitch::SetHooks(window::Tool tool, ToolHooks hooks) {
@@ -70,20 +71,20 @@ void ToolSwitch::SetHooks(window::Tool tool, ToolHooks hooks) {
 }
 
 void ToolSwitch::Load() {
-    m_form.Image1.Canvas().Image("toolbar", 0, 0, m_form.Image1.Bounds().width, m_form.Image1.Bounds().height,
-                                 0, 0);
-    for (window::Picture* picture : {&m_form.picArgs, &m_form.picArgs1, &m_form.picArgs2}) {
+    m_controls.Image1.Canvas().Image("toolbar", 0, 0, m_controls.Image1.Bounds().width,
+                                     m_controls.Image1.Bounds().height, 0, 0);
+    for (window::Picture* picture : {&m_controls.picArgs, &m_controls.picArgs1, &m_controls.picArgs2}) {
         picture->SetBackColor(kArgumentColor);
         picture->Canvas().BackColor = kArgumentColor;
         picture->Canvas().Cls();
     }
-    m_form.tabCalc.SetTabs({"Resultados", "Ayuda", "Registro"});
-    m_form.tabStat.SetTabs({"Configuración", "DCL", "Resolver"});
-    m_form.tabMrua.SetTabs({"Configurar tabla", "Aplicar ecuaciones", "Otros procedimentos"});
-    window::Rect parked = m_form.rtbHold.Bounds();
+    m_controls.tabCalc.SetTabs({"Resultados", "Ayuda", "Registro"});
+    m_controls.tabStat.SetTabs({"Configuración", "DCL", "Resolver"});
+    m_controls.tabMrua.SetTabs({"Configurar tabla", "Aplicar ecuaciones", "Otros procedimentos"});
+    window::Rect parked = m_controls.rtbHold.Bounds();
     parked.left = kHoldParkedLeft;
-    m_form.rtbHold.SetBounds(parked);
-    ShowWelcome(m_form.pic.Canvas());
+    m_controls.rtbHold.SetBounds(parked);
+    ShowWelcome(m_controls.pic.Canvas());
     m_form.publics.ShowingWelcome = true;
 }
 
@@ -91,25 +92,22 @@ void ToolSwitch::ImageMouseDown(const window::MouseStroke& stroke) {
     const int button = stroke.button == window::MouseButton::Left ? ButtonAt(stroke.x) : 0;
     if (button == 0)
         return;
-    // The switcher traps its failures and then only stops.
-    window::Guard(m_form.boxes, "", [&] {
-        if (button <= window::kToolCount)
-            MoveMarker(button);
-        SelectTool(button - 1);
-    });
+    if (button <= window::kToolCount)
+        MoveMarker(button);
+    SelectTool(button - 1);
 }
 
 void ToolSwitch::ImageMouseMove(const window::MouseStroke& stroke) {
     const int button = ButtonAt(stroke.x);
-    m_form.Image1.SetTooltip(button ? std::string(kButtons[button - 1].tooltip) : std::string());
+    m_controls.Image1.SetTooltip(button ? std::string(kButtons[button - 1].tooltip) : std::string());
 }
 
 void ToolSwitch::MoveMarker(int button) {
     const ToolButton& chosen = kButtons[button - 1];
-    window::Rect place = m_form.linMarker.Bounds();
-    place.left = m_form.Image1.Bounds().left + chosen.marker_offset;
-    m_form.linMarker.SetBounds(place);
-    m_form.linMarker.SetBackColor(chosen.marker_color);
+    window::Rect place = m_controls.linMarker.Bounds();
+    place.left = m_controls.Image1.Bounds().left + chosen.marker_offset;
+    m_controls.linMarker.SetBounds(place);
+    m_controls.linMarker.SetBackColor(chosen.marker_color);
 }
 
 void ToolSwitch::SelectTool(int index) {
@@ -119,13 +117,13 @@ void ToolSwitch::SelectTool(int index) {
         return;
     }
     if (m_form.publics.ShowingWelcome) {
-        m_form.pic.Canvas().Cls();
+        m_controls.pic.Canvas().Cls();
         m_form.publics.ShowingWelcome = false;
     }
     if (tool == window::Tool::Preferences) {
-        m_form.Form2.SetVisible(true);
+        m_controls.Form2.SetVisible(true);
         if (m_form.OnRaise)
-            m_form.OnRaise(m_form.Form2);
+            m_form.OnRaise(m_controls.Form2);
         return;
     }
     if (tool == window::Tool::Help)
@@ -135,12 +133,12 @@ void ToolSwitch::SelectTool(int index) {
 }
 
 void ToolSwitch::OpenHelp() {
-    m_form.fraHelp.SetVisible(true);
+    m_controls.fraHelp.SetVisible(true);
     if (m_form.publics.HelpTool == 0) {
-        m_form.SetFocus(m_form.cmdHelpCtrl[0]);
+        m_form.SetFocus(m_controls.cmdHelpCtrl[0]);
         if (OnGeneralHelp)
             OnGeneralHelp();
-        m_form.rtbHelp.SetContent({});
+        m_controls.rtbHelp.SetContent({});
         return;
     }
     Enter(m_form.publics.CurrentTool);
@@ -153,8 +151,8 @@ void ToolSwitch::Enter(window::Tool tool) {
     m_form.publics.HelpTool = static_cast<int>(tool) + 1;
     if (OnFillTopics)
         OnFillTopics(m_form.publics.HelpTool);
-    m_form.txtArgHelp.SetContent({});
-    m_form.rtbCalc.SetContent({});
+    m_controls.txtArgHelp.SetContent({});
+    m_controls.rtbCalc.SetContent({});
     ShowPanels(tool);
     BringPictures(tool);
     if (tool == window::Tool::Calculator)
@@ -172,42 +170,50 @@ void ToolSwitch::Enter(window::Tool tool) {
 }
 
 void ToolSwitch::ShowPanels(window::Tool tool) {
-    const auto is = [tool](window::Tool other) { return tool == other; };
-    m_form.Arrange(kArrangements[IndexOf(tool)]);
-    m_form.picBar.SetVisible(is(window::Tool::Calculator) || is(window::Tool::Kinematics));
-    m_form.picArgs.SetVisible(is(window::Tool::Calculator) || IsMotionTool(tool));
-    m_form.fraExpr.SetVisible(true);
-    m_form.fraCalc.SetVisible(is(window::Tool::Calculator));
-    m_form.fraDirec.SetVisible(is(window::Tool::Particle));
-    m_form.fraEstp.SetVisible(is(window::Tool::Particle));
-    m_form.tabStat.SetVisible(is(window::Tool::RigidBody));
-    m_form.fraTable.SetVisible(IsMotionTool(tool));
-    m_form.tabMrua.SetVisible(IsMotionTool(tool));
-    m_form.fraKinem.SetVisible(is(window::Tool::Kinematics));
-    m_form.tabCalc.SetVisible(true);
-    m_form.tabCalc.SetCurrent(0);
-    m_form.tabCalc.SetForeColor(kResultColors[IndexOf(tool)]);
-    m_form.fraExpr.SetBackColor(kExpressionColors[IndexOf(tool)]);
-    m_form.rtbCalc.SetVisible(!ReportsInSolveBox(tool));
-    m_form.rtbSolve.SetVisible(ReportsInSolveBox(tool));
+    using enum window::Tool;
+    const struct {
+        window::Control& panel;
+        std::initializer_list<window::Tool> tools;
+    } kPanels[] = {
+        {m_controls.picBar, {Calculator, Kinematics}},
+        {m_controls.picArgs, {Calculator, Motion, Projectile}},
+        {m_controls.fraCalc, {Calculator}},
+        {m_controls.fraDirec, {Particle}},
+        {m_controls.fraEstp, {Particle}},
+        {m_controls.tabStat, {RigidBody}},
+        {m_controls.fraTable, {Motion, Projectile}},
+        {m_controls.tabMrua, {Motion, Projectile}},
+        {m_controls.fraKinem, {Kinematics}},
+    };
+    const ToolLook& look = kLooks[IndexOf(tool)];
+    m_form.Arrange(look.arrangement);
+    for (const auto& [panel, tools] : kPanels)
+        panel.SetVisible(std::ranges::find(tools, tool) != tools.end());
+    m_controls.fraExpr.SetVisible(true);
+    m_controls.fraExpr.SetBackColor(look.expression);
+    m_controls.tabCalc.SetVisible(true);
+    m_controls.tabCalc.SetCurrent(0);
+    m_controls.tabCalc.SetForeColor(look.results);
+    m_controls.rtbCalc.SetVisible(!look.reports_in_solve_box);
+    m_controls.rtbSolve.SetVisible(look.reports_in_solve_box);
 }
 
 void ToolSwitch::ShowPic1(bool pic1) {
     m_pictures[IndexOf(m_form.publics.CurrentTool)].shows_pic1 = pic1;
-    m_form.pic.SetVisible(!pic1);
-    m_form.pic1.SetVisible(pic1);
+    m_controls.pic.SetVisible(!pic1);
+    m_controls.pic1.SetVisible(pic1);
 }
 
 void ToolSwitch::KeepPictures() {
     Pictures& kept = m_pictures[IndexOf(m_form.publics.CurrentTool)];
-    kept.pic = m_form.pic.Canvas().Operations();
-    kept.pic1 = m_form.pic1.Canvas().Operations();
+    kept.pic = m_controls.pic.Canvas().Operations();
+    kept.pic1 = m_controls.pic1.Canvas().Operations();
 }
 
 void ToolSwitch::BringPictures(window::Tool tool) {
     const Pictures& kept = m_pictures[IndexOf(tool)];
-    m_form.pic.Canvas().Restore(kept.pic);
-    m_form.pic1.Canvas().Restore(kept.pic1);
+    m_controls.pic.Canvas().Restore(kept.pic);
+    m_controls.pic1.Canvas().Restore(kept.pic1);
     ShowPic1(kept.shows_pic1);
 }
 

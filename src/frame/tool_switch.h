@@ -2,13 +2,44 @@
 
 #include <array>
 #include <functional>
-#include <map>
 #include <vector>
 
 #include "frame/menu_bar.h"
 #include "window/form1.h"
 
 namespace tavrelo::frame {
+
+struct ToolSwitchControls {
+    window::Form1& form;
+    window::Window& ThisWindow = form.Get<window::Window>("Form1");
+    window::Window& Form2 = form.Get<window::Window>("Form2");
+    window::Picture& Image1 = form.Get<window::Picture>("Image1");
+    window::Shape& linMarker = form.Get<window::Shape>("linMarker");
+    // The panels of the tools.
+    window::Picture& picBar = form.Get<window::Picture>("picBar");
+    window::Picture& picArgs = form.Get<window::Picture>("picArgs");
+    window::Picture& picArgs1 = form.Get<window::Picture>("picArgs1");
+    window::Picture& picArgs2 = form.Get<window::Picture>("picArgs2");
+    window::Frame& fraExpr = form.Get<window::Frame>("fraExpr");
+    window::Frame& fraCalc = form.Get<window::Frame>("fraCalc");
+    window::Frame& fraDirec = form.Get<window::Frame>("fraDirec");
+    window::Frame& fraEstp = form.Get<window::Frame>("fraEstp");
+    window::Frame& fraTable = form.Get<window::Frame>("fraTable");
+    window::Frame& fraKinem = form.Get<window::Frame>("fraKinem");
+    window::TabStrip& tabCalc = form.Get<window::TabStrip>("tabCalc");
+    window::TabStrip& tabStat = form.Get<window::TabStrip>("tabStat");
+    window::TabStrip& tabMrua = form.Get<window::TabStrip>("tabMrua");
+    window::Frame& fraHelp = form.Get<window::Frame>("fraHelp");
+    window::ControlArray<window::Button> cmdHelpCtrl = form.GetArray<window::Button>("cmdHelpCtrl");
+    window::RichTextBox& rtbHelp = form.Get<window::RichTextBox>("rtbHelp");
+    // What the tools show their results on.
+    window::Picture& pic = form.Get<window::Picture>("pic");
+    window::Picture& pic1 = form.Get<window::Picture>("pic1");
+    window::RichTextBox& rtbHold = form.Get<window::RichTextBox>("rtbHold");
+    window::RichTextBox& rtbCalc = form.Get<window::RichTextBox>("rtbCalc");
+    window::RichTextBox& rtbSolve = form.Get<window::RichTextBox>("rtbSolve");
+    window::RichTextBox& txtArgHelp = form.Get<window::RichTextBox>("txtArgHelp");
+};
 
 /// What a tool does when the shell brings it into use; every member may be empty.
 struct ToolHooks {
@@ -55,6 +86,7 @@ class ToolSwitch {
     void BringPictures(window::Tool tool);
 
     window::Form1& m_form;
+    ToolSwitchControls m_controls{m_form};
     MenuBar& m_menu;
     std::array<ToolHooks, window::kToolCount> m_hooks;
     std::array<Pictures, window::kToolCount> m_pictures;

@@ -31,25 +31,28 @@ std::vector<Lines> Divided(const Lines& paragraph) {
 
 }  // namespace
 
-void WriteMarkup(window::Form1& form, std::string_view font_name, double font_size, std::string_view text) {
-    form.rtbHold.SetContent(text::RenderMarkup(font_name, font_size, text));
+const text::RichText& WriteMarkup(window::Form1& form, std::string_view font_name, double font_size,
+                                  std::string_view text) {
+    auto& hold = form.Get<window::RichTextBox>("rtbHold");
+    hold.SetContent(text::RenderMarkup(font_name, font_size, text));
+    return hold.Content();
 }
 
 void WriteLines(window::Form1& form, window::RichTextBox& target, std::span<const std::string> lines) {
     std::string text;
     for (const std::string& line : lines)
         text.append(line).append(kLineEnd);
-    WriteMarkup(form, text::kTextFont, kReportFontSize, text);
-    const bool is_report = &target == &form.rtbSolve || &target == &form.rtbCalc;
-    if (&target == &form.rtbSolve)
-        target.AppendContent(form.rtbHold.Content());
+    const text::RichText& report = WriteMarkup(form, text::kTextFont, kReportFontSize, text);
+    const ReportControls controls{form};
+    if (&target == &controls.rtbSolve)
+        target.AppendContent(report);
     else
-        target.SetContent(form.rtbHold.Content());
-    if (!is_report)
+        target.SetContent(report);
+    if (&target != &controls.rtbSolve && &target != &controls.rtbCalc)
         return;
-    form.tabCalc.SetCurrent(kResultsTab);
-    form.rtbHold.AppendContent(text::PlainRichText(kRecordEnd, text::kTextFont, kReportFontSize));
-    form.rtbReg.AppendContent(form.rtbHold.Content());
+    controls.tabCalc.SetCurrent(kResultsTab);
+    controls.rtbHold.AppendContent(text::PlainRichText(kRecordEnd, text::kTextFont, kReportFontSize));
+    controls.rtbReg.AppendContent(controls.rtbHold.Content());
 }
 
 void WriteLines(window::Form1& form, window::RichTextBox& target, std::initializer_list<std::string> lines) {
@@ -72,13 +75,14 @@ std::vector<Lines> Portions(std::span<const Lines> paragraphs) {
 
 void WritePortions(window::Form1& form, window::RichTextBox& target, std::span<const Lines> paragraphs) {
     const window::ChangeBatch target_batch(target);
-    const window::ChangeBatch log_batch(form.rtbReg);
+    const window::ChangeBatch log_batch(form.Get<window::RichTextBox>("rtbReg"));
     for (const Lines& portion : Portions(paragraphs))
         WriteLines(form, target, portion);
 }
 
 void AppendToLog(window::Form1& form, std::string_view text) {
-    form.rtbReg.AppendContent(text::PlainRichText(text, text::kTextFont, kReportFontSize));
+    form.Get<window::RichTextBox>("rtbReg").AppendContent(
+        text::PlainRichText(text, text::kTextFont, kReportFontSize));
 }
 
 }  // namespace tavrelo::frame

@@ -9,10 +9,21 @@
 
 namespace tavrelo::frame {
 
+/// Where reports are made and go to.
+struct ReportControls {
+    window::Form1& form;
+    window::RichTextBox& rtbHold = form.Get<window::RichTextBox>("rtbHold");
+    window::RichTextBox& rtbCalc = form.Get<window::RichTextBox>("rtbCalc");
+    window::RichTextBox& rtbSolve = form.Get<window::RichTextBox>("rtbSolve");
+    window::RichTextBox& rtbReg = form.Get<window::RichTextBox>("rtbReg");
+    window::TabStrip& tabCalc = form.Get<window::TabStrip>("tabCalc");
+};
+
 inline constexpr double kReportFontSize = 10;  // points
 
-/// Renders a markup text into the box rtbHold, out of sight.
-void WriteMarkup(window::Form1& form, std::string_view font_name, double font_size, std::string_view text);
+/// Renders a markup text into the box rtbHold, out of sight, and gives what stands there.
+const text::RichText& WriteMarkup(window::Form1& form, std::string_view font_name, double font_size,
+                                  std::string_view text);
 
 /// The normal way to report: each line ends in a line end. rtbSolve and rtbCalc come to the front on their
 /// tab and the text goes to the log too, behind it "-----"; rtbSolve appends, every other box is replaced.

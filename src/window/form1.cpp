@@ -109,12 +109,12 @@ void Form1::MakeControl(const ControlRow& row) {
     m_controls.emplace(row.name, std::move(control));
 }
 
-Control* Form1::Find(std::string_view name) {
+Control* Form1::Find(std::string_view name) const {
     const auto found = m_controls.find(name);
     return found == m_controls.end() ? nullptr : found->second.get();
 }
 
-Control* Form1::MustFind(std::string_view name) {
+Control* Form1::MustFind(std::string_view name) const {
     Control* control = Find(name);
     if (!control)
         FailOn(name);
@@ -125,7 +125,7 @@ void Form1::FailOn(std::string_view name) {
     throw numeric::RuntimeFailure(numeric::FailureCode::Internal, std::string(name));
 }
 
-std::vector<std::pair<int, Control*>> Form1::FindArray(std::string_view name) {
+std::vector<std::pair<int, Control*>> Form1::FindArray(std::string_view name) const {
     std::vector<std::pair<int, Control*>> items;
     for (Control* control : m_order) {
         const ArrayName split = SplitName(control->Name());
@@ -140,7 +140,6 @@ void Form1::LinkControls() {
         for (const auto& [index, option] : options->Items())
             for (const auto& [other_index, other] : options->Items())
                 option->group.push_back(other);
-    UpDown1.buddy = &txtNCD;
 }
 
 void Form1::Arrange(Arrangement arrangement) {

@@ -49,11 +49,11 @@ class Form1 {
     Form1& operator=(const Form1&) = delete;
 
     /// The control of that name ("rtbCalc", "cmdParts(0)", "Form2"), or null.
-    Control* Find(std::string_view name);
+    Control* Find(std::string_view name) const;
     /// The control of that name and kind, for the parts of the program that bind what they need once, when
     /// they are made. Fails with Internal when there is none.
     template <class ControlType>
-    ControlType& Get(std::string_view name) {
+    ControlType& Get(std::string_view name) const {
         auto* control = dynamic_cast<ControlType*>(Find(name));
         if (!control)
             FailOn(name);
@@ -61,7 +61,7 @@ class Form1 {
     }
     /// All controls "name(0)", "name(1)", ..., in the order of the table; fails as Get.
     template <class ControlType>
-    ControlArray<ControlType> GetArray(std::string_view name) {
+    ControlArray<ControlType> GetArray(std::string_view name) const {
         std::vector<std::pair<int, ControlType*>> items;
         for (const auto& [index, control] : FindArray(name)) {
             items.emplace_back(index, dynamic_cast<ControlType*>(control));
@@ -110,9 +110,9 @@ class Form1 {
 
   private:
     void MakeControl(const ControlRow& row);
-    Control* MustFind(std::string_view name);
+    Control* MustFind(std::string_view name) const;
     [[noreturn]] static void FailOn(std::string_view name);
-    std::vector<std::pair<int, Control*>> FindArray(std::string_view name);
+    std::vector<std::pair<int, Control*>> FindArray(std::string_view name) const;
     /// Makes all controls; runs before the members below are bound to them.
     bool MakeControls();
     void MoveFocus(Control& control);

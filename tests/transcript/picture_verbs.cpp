@@ -6,6 +6,7 @@
 #include "frame/direction_clock.h"
 #include "frame/menu_bar.h"
 #include "notation/clock_direction.h"
+#include "tools/calculator/routine_table.h"
 #include "verbs.h"
 
 namespace tavrelo::transcript {
@@ -63,7 +64,7 @@ struct RoutinePlace {
 
 /// The first place of the menu where a routine stands.
 RoutinePlace FindRoutine(int routine) {
-    const auto groups = frame::RoutineGroups();
+    const auto groups = tools::calculator::RoutineMenu();
     for (std::size_t group = 0; group < groups.size(); ++group)
         for (std::size_t icon = 0; icon < groups[group].icons.size(); ++icon)
             if (groups[group].icons[icon].routine == routine)

@@ -1,7 +1,7 @@
 #include <algorithm>
 
-#include "frame/help_files.h"
 #include "frame/writer.h"
+#include "text/code_page.h"
 #include "text/utf8.h"
 #include "verbs.h"
 
@@ -57,7 +57,7 @@ void RemoveFiles(Session& session, Arguments& arguments) {
 
 void PutFile(Session& session, Arguments& arguments) {
     const std::string_view name = arguments.Word();
-    session.driver.World().files.Put(name, frame::ToCodePage(WithLineEnds(arguments.Rest())));
+    session.driver.World().files.Put(name, text::ToCodePage(WithLineEnds(arguments.Rest())));
 }
 
 void RenderMarkup(Session& session, Arguments& arguments) {

@@ -5,13 +5,12 @@
 
 #include "text/number_text.h"
 #include "text/utf8.h"
-#include "window/guard.h"
+#include "window/guarded.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
 
 using window::CellBlock;
-using window::Guard;
 using window::Key;
 
 // Indexes of cmdGrid.
@@ -42,12 +41,6 @@ std::vector<std::vector<std::string>> TextsOf(const window::Grid& grid, const Ce
     return texts;
 }
 
-void EmptyCells(window::Grid& grid, const CellBlock& block) {
-    for (int row = block.first_row; row <= block.last_row; ++row)
-        for (int col = block.first_col; col <= block.last_col; ++col)
-            grid.SetCell(row, col, "");
-}
-
 void SwapCells(window::Grid& grid, int row1, int col1, int row2, int col2) {
     std::string kept = grid.Cell(row1, col1);
     grid.SetCell(row1, col1, grid.Cell(row2, col2));
@@ -56,31 +49,27 @@ void SwapCells(window::Grid& grid, int row1, int col1, int row2, int col2) {
 
 }  // namespace
 
-ArgumentGrid::ArgumentGrid(window::Form1& form) : m_form(form) {
-    for (const auto& [index, button] : m_form.cmdGrid.Items()) {
+ArgumentGrid::ArgumentGrid(window::Form1& form, const CalculatorControls& controls)
+    : m_form(form), m_controls(controls) {
+    for (const auto& [index, button] : m_controls.cmdGrid.Items()) {
         window::Rect source = kIconSize;
         source.left = index * kIconSize.width;
         button->SetPicture({"grid_buttons", source});
         button->SetBackColor(kButtonColor);
-        button->OnClick = [this, index = index] {
-            Guard(m_form.boxes, text::kCommandFailed, [&] { PressButton(index); });
-        };
     }
-    window::Grid& grid = m_form.gd;
-    grid.OnMouseDown = [this](int row, int col) {
-        Guard(m_form.boxes, text::kCommandFailed, [&] { Paste(row, col); });
-    };
-    grid.OnSelChange = [this] { Guard(m_form.boxes, text::kCommandFailed, [this] { SelectionChanged(); }); };
-    grid.OnKeyDown = [this](const window::KeyStroke& stroke) {
-        bool consumed = false;
-        Guard(m_form.boxes, text::kCommandFailed, [&] { consumed = KeyDown(stroke); });
-        return consumed;
-    };
-    grid.OnKeyPress = [this](char32_t character) { return KeyPress(character); };
+    window::Grid& grid = m_controls.gd;
+    window::OnClick(form, m_controls.cmdGrid, [this](int index) { PressButton(index); });
+    window::On(form, grid.OnMouseDown, [this](int row, int col) { Paste(row, col); });
+    window::On(form, grid.OnSelChange, [this] { SelectionChanged(); });
+    window::On(form, grid.OnKeyDown, [this](const window::KeyStroke& stroke) { return KeyDown(stroke); });
+    window::On(form, grid.OnKeyPress,
+               [&grid](char32_t character) { return window::TypeIntoCell(grid, {}, character); });
+    ArrangeGd();
 }
 
 void ArgumentGrid::ArrangeGd() {
-    window::Grid& grid = m_form.gd;
+    window::Grid& grid = m_controls.gd;
+    const window::ChangeBatch batch(grid);
     grid.Arrange(kGridRows + 1, kGridCols + 1, 1, 1);
     for (int row = 1; row <= kGridRows; ++row)
         grid.SetCell(row, 0, Heading(row));
@@ -116,7 +105,7 @@ void ArgumentGrid::PressButton(int index) {
 }
 
 void ArgumentGrid::SetColsShown(int shown) {
-    const int grid_width = m_form.gd.Bounds().width * window::kTwipsPerPixel;
+    const int grid_width = m_controls.gd.Bounds().width * window::kTwipsPerPixel;
     const int usable = (grid_width - kBorderWidth - kHeaderColumnWidth - kScrollBarWidth) /
                        window::kTwipsPerPixel * window::kTwipsPerPixel;
     ShowColumns(shown, usable / shown);
@@ -125,22 +114,22 @@ void ArgumentGrid::SetColsShown(int shown) {
 void ArgumentGrid::ShowColumns(int shown, int width) {
     m_cols_shown = shown;
     for (int col = 1; col <= kGridCols; ++col)
-        m_form.gd.SetColWidth(col, width);
+        m_controls.gd.SetColWidth(col, width);
 }
 
 void ArgumentGrid::StartCopyMode(int index) {
     EndCopyMode();
     m_copy_button = index;
-    m_copy_source = m_form.gd.Selection();
+    m_copy_source = m_controls.gd.Selection();
     m_form.publics.GridCopyMode = true;
-    m_form.cmdGrid[index].SetBackColor(kMarkedColor);
+    m_controls.cmdGrid[index].SetBackColor(kMarkedColor);
     m_form.SetPointer(window::kPointerUpArrow);
 }
 
 void ArgumentGrid::EndCopyMode() {
     if (!m_copy_button)
         return;
-    m_form.cmdGrid[*m_copy_button].SetBackColor(kButtonColor);
+    m_controls.cmdGrid[*m_copy_button].SetBackColor(kButtonColor);
     m_copy_button.reset();
     m_form.publics.GridCopyMode = false;
     m_form.SetPointer(window::kPointerDefault);
@@ -152,13 +141,14 @@ void ArgumentGrid::Paste(int row, int col) {
         return;
     const bool moves = *m_copy_button == kMove;
     EndCopyMode();
-    window::Grid& grid = m_form.gd;
+    window::Grid& grid = m_controls.gd;
     const CellBlock target{row, col, row + m_copy_source.Rows() - 1, col + m_copy_source.Cols() - 1};
     if (!grid.HasCell(target.last_row, target.last_col))
         throw numeric::RuntimeFailure(numeric::FailureCode::SubscriptRange, "block past the edge");
     const auto texts = TextsOf(grid, m_copy_source);
+    const window::ChangeBatch batch(grid);
     if (moves)
-        EmptyCells(grid, m_copy_source);
+        window::EmptyCells(grid, m_copy_source);
     for (int r = 0; r < target.Rows(); ++r)
         for (int c = 0; c < target.Cols(); ++c)
             grid.SetCell(row + r, col + c, texts[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)]);
@@ -167,13 +157,14 @@ void ArgumentGrid::Paste(int row, int col) {
 }
 
 void ArgumentGrid::InsertSeries() {
-    window::Grid& grid = m_form.gd;
+    window::Grid& grid = m_controls.gd;
     const CellBlock block = grid.Selection();
     if (block.Cols() != 1 || block.Rows() < kLeastSeriesRows)
         return;
     const int col = block.first_col;
     const double first = text::ToNumber(grid.Cell(block.first_row, col));
     const double step = numeric::CheckedSubtract(text::ToNumber(grid.Cell(block.first_row + 1, col)), first);
+    const window::ChangeBatch batch(grid);
     // The last value is the farthest: when it exists, all do, and nothing is half written.
     numeric::CheckedAdd(first, numeric::CheckedMultiply(block.Rows() - 1, step));
     for (int k = 2; k < block.Rows(); ++k)
@@ -183,7 +174,7 @@ void ArgumentGrid::InsertSeries() {
 }
 
 void ArgumentGrid::Exchange() {
-    const CellBlock block = m_form.gd.Selection();
+    const CellBlock block = m_controls.gd.Selection();
     constexpr int kPair = 2;
     if (block.Rows() != kPair)
         return ExchangeColumns(block);
@@ -200,13 +191,15 @@ void ArgumentGrid::Exchange() {
 }
 
 void ArgumentGrid::ExchangeRows(const CellBlock& block) {
+    const window::ChangeBatch batch(m_controls.gd);
     for (int col = block.first_col; col <= block.last_col; ++col)
-        SwapCells(m_form.gd, block.first_row, col, block.last_row, col);
+        SwapCells(m_controls.gd, block.first_row, col, block.last_row, col);
 }
 
 void ArgumentGrid::ExchangeColumns(const CellBlock& block) {
+    const window::ChangeBatch batch(m_controls.gd);
     for (int row = block.first_row; row <= block.last_row; ++row)
-        SwapCells(m_form.gd, row, block.first_col, row, block.last_col);
+        SwapCells(m_controls.gd, row, block.first_col, row, block.last_col);
 }
 
 bool ArgumentGrid::KeyDown(const window::KeyStroke& stroke) {
@@ -214,7 +207,7 @@ bool ArgumentGrid::KeyDown(const window::KeyStroke& stroke) {
     if (calculates && OnCalculate)
         OnCalculate();
     else if (stroke.key == Key::Delete)
-        EmptySelection();
+        window::EmptyCells(m_controls.gd, m_controls.gd.Selection());
     else if (stroke.key == Key::Insert)
         InsertResult();
     else
@@ -222,27 +215,9 @@ bool ArgumentGrid::KeyDown(const window::KeyStroke& stroke) {
     return true;
 }
 
-bool ArgumentGrid::KeyPress(char32_t character) {
-    constexpr char32_t kFirstPrintable = 32;
-    window::Grid& grid = m_form.gd;
-    if (grid.Row() < 0)
-        return false;
-    std::u32string text = text::ToCodePoints(grid.Cell(grid.Row(), grid.Col()));
-    if (character == window::kBackspaceCharacter && !text.empty())
-        text.pop_back();
-    else if (character >= kFirstPrintable)
-        text += character;
-    else
-        return false;
-    grid.SetCell(grid.Row(), grid.Col(), text::ToUtf8(text));
-    return true;
-}
-
-void ArgumentGrid::EmptySelection() { EmptyCells(m_form.gd, m_form.gd.Selection()); }
-
 void ArgumentGrid::InsertResult() {
-    window::Grid& grid = m_form.gd;
-    const std::string& result = m_form.txtExpr.Text();
+    window::Grid& grid = m_controls.gd;
+    const std::string& result = m_controls.txtExpr.Text();
     grid.SetCell(
         grid.Row(), grid.Col(),
         text::IsNum(result) ? text::RoundedText(text::ToNumber(result), m_form.publics.Decimals) : result);
@@ -250,18 +225,18 @@ void ArgumentGrid::InsertResult() {
 
 /// A block must be dragged from its upper left to its lower right cell.
 void ArgumentGrid::SelectionChanged() {
-    window::Grid& grid = m_form.gd;
+    window::Grid& grid = m_controls.gd;
     const CellBlock dragged = grid.DraggedBlock();
     if (dragged.last_row < dragged.first_row || dragged.last_col < dragged.first_col) {
         grid.SetCurrent(dragged.first_row, dragged.first_col);
         m_form.boxes.Tell("Debes seleccionar de arriba abajo y de derecha a izquierda.");
     }
     const CellBlock& block = grid.Selection();
-    m_form.lblRC.SetCaption(std::to_string(block.Rows()) + " x " + std::to_string(block.Cols()));
+    m_controls.lblRC.SetCaption(std::to_string(block.Rows()) + " x " + std::to_string(block.Cols()));
 }
 
 void ArgumentGrid::PutInCurrentCell(const std::string& text) {
-    window::Grid& grid = m_form.gd;
+    window::Grid& grid = m_controls.gd;
     grid.SetCell(grid.Row(), grid.Col(), text);
     if (grid.Col() < kGridCols)
         grid.SetCurrent(grid.Row(), grid.Col() + 1);

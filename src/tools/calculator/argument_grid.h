@@ -4,7 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "window/form1.h"
+#include "tools/calculator/calculator_controls.h"
+#include "window/cell_typing.h"
 
 namespace tavrelo::tools::calculator {
 
@@ -15,7 +16,7 @@ inline constexpr int kGridCols = 21;   // twenty unknowns and their right-hand s
 /// blocks, widths.
 class ArgumentGrid {
   public:
-    explicit ArgumentGrid(window::Form1& form);
+    ArgumentGrid(window::Form1& form, const CalculatorControls& controls);
 
     /// The first layout: empty cells under numbered headings, four columns in view, the first cell current.
     void ArrangeGd();
@@ -40,12 +41,11 @@ class ArgumentGrid {
     void ShowColumns(int shown, int width);
 
     bool KeyDown(const window::KeyStroke& stroke);
-    bool KeyPress(char32_t character);
-    void EmptySelection();
     void InsertResult();
     void SelectionChanged();
 
     window::Form1& m_form;
+    const CalculatorControls& m_controls;
     int m_cols_shown = 4;
     std::optional<int> m_copy_button;  // the button whose copy or move waits
     window::CellBlock m_copy_source;

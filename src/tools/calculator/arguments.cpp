@@ -14,61 +14,7 @@ using text::Value;
 constexpr std::string_view kCorrect = "Corrige la expresión ";
 constexpr std::string_view kUnknown = "x";
 
-enum class CountTest { None, Square, SquareAndColumn, Within, Even, MultipleOfThree };
-enum class NumberTest { All, WholeBlock, Within };
-
-struct Range {
-    int least = 0;
-    int most = 0;
-    bool Holds(int count) const { return count >= least && count <= most; }
-};
-
-constexpr std::string_view kNotNumeric = "Algún argumento no es numérico.";
-constexpr std::string_view kThree = "Deben ser 3 argumentos.";
-constexpr std::string_view kTwo = "Deben ser 2 argumentos.";
-constexpr std::string_view kSix = "Deben ser 6 argumentos.";
-constexpr std::string_view kEven = "Debe ser un número par de argumentos.";
-
-struct Check {
-    int routine;
-    CountTest count_test;
-    Range count;
-    std::string_view count_message;
-    NumberTest number_test = NumberTest::All;
-    Range numbers = {};
-    std::string_view number_message = kNotNumeric;
-};
-
-// clang-format off
-constexpr Check kChecks[] = {
-    {1, CountTest::Square, {}, "La región a seleccionar debe ser n x n.", NumberTest::WholeBlock},
-    {2, CountTest::SquareAndColumn, {}, "La región a seleccionar debe ser n x n+1.", NumberTest::WholeBlock},
-    {5, CountTest::Within, {3, 3}, kThree},
-    {6, CountTest::Within, {5, 5}, "Deben ser 5 argumentos."},
-    {7, CountTest::Within, {4, 4}, "Deben ser 4 argumentos."},
-    {8, CountTest::Within, {3, 3}, kThree},
-    {9, CountTest::Within, {2, 2}, kTwo},
-    {10, CountTest::Within, {6, 6}, kSix, NumberTest::Within, {3, 3},
-     "Tres de los argumentos deben ser numéricos y los restantes iguales a \"x\"."},
-    {11, CountTest::Within, {6, 6}, kSix},
-    {12, CountTest::Even, {}, kEven},
-    {13, CountTest::None, {}, {}},
-    {14, CountTest::Even, {}, kEven},
-    {15, CountTest::MultipleOfThree, {}, "El número de argumentos debe ser un múltiplo de 3"},
-    {16, CountTest::Within, {3, 3}, kThree},
-    {17, CountTest::None, {}, {}},
-    {19, CountTest::Within, {2, 4}, "Número de argumentos incorrecto (deben ser 2, 3 ó 4)."},
-    {20, CountTest::Within, {2, 2}, kTwo},
-    {22, CountTest::Within, {2, 3}, "Número de argumentos incorrecto (deben ser 2 ó 3).",
-     NumberTest::Within, {2, 3}, "Los argumentos deben ser todos numéricos"},
-    {23, CountTest::Even, {}, kEven},
-    {24, CountTest::Even, {}, kEven},
-    {25, CountTest::Even, {}, kEven},
-    {26, CountTest::None, {}, {}},
-};
-// clang-format on
-
-bool CountIsRight(const Check& check, const Arguments& arguments) {
+bool CountIsRight(const ArgumentCheck& check, const Arguments& arguments) {
     switch (check.count_test) {
         case CountTest::None:
             return true;
@@ -86,8 +32,10 @@ bool CountIsRight(const Check& check, const Arguments& arguments) {
     return true;
 }
 
-bool NumbersAreRight(const Check& check, const Arguments& arguments) {
+bool NumbersAreRight(const ArgumentCheck& check, const Arguments& arguments) {
     switch (check.number_test) {
+        case NumberTest::None:
+            return true;
         case NumberTest::All:
             return arguments.Numbers() == arguments.Count();
         case NumberTest::WholeBlock:
@@ -162,14 +110,11 @@ std::variant<text::Refusal, Arguments> GetCells(const window::Grid& grid, CellRe
     return arguments;
 }
 
-std::optional<text::Refusal> CheckArgs(int routine, const Arguments& arguments) {
-    const auto check = std::ranges::find(kChecks, routine, &Check::routine);
-    if (check == std::end(kChecks))
-        return std::nullopt;
-    if (!CountIsRight(*check, arguments))
-        return text::Refusal{std::string(check->count_message)};
-    if (!NumbersAreRight(*check, arguments))
-        return text::Refusal{std::string(check->number_message)};
+std::optional<text::Refusal> CheckArgs(const ArgumentCheck& check, const Arguments& arguments) {
+    if (!CountIsRight(check, arguments))
+        return text::Refusal{std::string(check.count_message)};
+    if (!NumbersAreRight(check, arguments))
+        return text::Refusal{std::string(check.number_message)};
     return std::nullopt;
 }
 

@@ -21,6 +21,7 @@ enum class CellReading {
 /// The arguments of a routine: the selected block of the table as numbers and texts.
 class Arguments {
   public:
+    Arguments() = default;
     Arguments(int rows, int cols) : m_rows(rows), m_cols(cols) {}
 
     void Add(text::Value cell);
@@ -41,8 +42,8 @@ class Arguments {
     std::vector<double> AllNumbers() const;
 
   private:
-    int m_rows;
-    int m_cols;
+    int m_rows = 0;
+    int m_cols = 0;
     int m_numbers = 0;
     std::vector<text::Value> m_list;
 };
@@ -52,9 +53,25 @@ class Arguments {
 std::variant<text::Refusal, Arguments> GetCells(const window::Grid& grid, CellReading reading,
                                                 frame::SharedExpression& expression);
 
-/// Tests count and kind of the arguments of a routine. Routines without a row of their own test theirs
-/// further on.
-std::optional<text::Refusal> CheckArgs(int routine, const Arguments& arguments);
+enum class CountTest { None, Square, SquareAndColumn, Within, Even, MultipleOfThree };
+enum class NumberTest { None, All, WholeBlock, Within };
+
+struct CountRange {
+    int least = 0;
+    int most = 0;
+    constexpr bool Holds(int count) const { return count >= least && count <= most; }
+};
+
+/// What a routine asks of the count and of the kind of its arguments before it looks at them.
+struct ArgumentCheck {
+    CountTest count_test = CountTest::None;
+    CountRange count = {};
+    std::string_view count_message = {};
+    NumberTest number_test = NumberTest::None;
+    CountRange numbers = {};
+    std::string_view number_message = "Algún argumento no es numérico.";
+};
+std::optional<text::Refusal> CheckArgs(const ArgumentCheck& check, const Arguments& arguments);
 
 /// What is said of a formula that the parser refused.
 text::Refusal WrongFormula(const std::string& typed, const std::string& description);

@@ -32,8 +32,8 @@ double ArrowScale(std::span<const DrawnVector> vectors) {
 /// One drawing of arrows: draws the shafts first and places the labels when all lines are known.
 class ArrowDrawing {
   public:
-    explicit ArrowDrawing(Task& task)
-        : m_engine(task.engine), m_surface(task.form.pic.Canvas()), m_labels(m_surface) {
+    explicit ArrowDrawing(RoutineRun& run)
+        : m_engine(run.engine), m_surface(run.Picture()), m_labels(m_surface) {
         m_surface.Cls();
         m_engine.Begin();
     }
@@ -173,35 +173,35 @@ void AddCenterAxes(ArrowDrawing& drawing, Point center, const AxesTurn& turn) {
 
 }  // namespace
 
-void DrawFromCenter(Task& task, const std::vector<DrawnVector>& vectors, AxesTurn turn) {
+void DrawFromCenter(RoutineRun& run, const std::vector<DrawnVector>& vectors, AxesTurn turn) {
     const double arrow_scale = ArrowScale(vectors);
-    ArrowDrawing drawing(task);
+    ArrowDrawing drawing(run);
     const Point center{drawing.Surface().Width() / 2, drawing.Surface().Height() / 2};
     AddCenterAxes(drawing, center, turn);
     AddVectors(drawing, {1, center}, vectors, arrow_scale);
     drawing.PlaceLabels();
 }
 
-void DrawAtPoints(Task& task, const std::vector<DrawnVector>& vectors) {
+void DrawAtPoints(RoutineRun& run, const std::vector<DrawnVector>& vectors) {
     const double arrow_scale = ArrowScale(vectors);
-    ArrowDrawing drawing(task);
+    ArrowDrawing drawing(run);
     const Placing placing = PlaceAll(drawing.Surface(), vectors, arrow_scale * DrawEng::kPixPerUnit);
     const Point origin = placing.origin;
-    task.engine.DrawAxes(drawing.Surface(), origin.x, origin.y);
+    run.engine.DrawAxes(drawing.Surface(), origin.x, origin.y);
     drawing.Avoid(origin, {drawing.Surface().Width(), origin.y});
     drawing.Avoid(origin, {origin.x, 0});
     AddVectors(drawing, placing, vectors, arrow_scale);
     drawing.PlaceLabels();
 }
 
-void DrawVerticalForces(Task& task, const std::vector<DrawnVector>& forces) {
+void DrawVerticalForces(RoutineRun& run, const std::vector<DrawnVector>& forces) {
     constexpr double kDepthX = 0.4;  // of a length along y, seen from aside
     constexpr double kDepthY = 0.3;
     std::vector<DrawnVector> seen = forces;
     for (DrawnVector& force : seen)
         force.from = {force.from.x + kDepthX * force.from.y, kDepthY * force.from.y};
     const double arrow_scale = ArrowScale(seen);
-    ArrowDrawing drawing(task);
+    ArrowDrawing drawing(run);
     const Placing placing = PlaceAll(drawing.Surface(), seen, arrow_scale * DrawEng::kPixPerUnit);
     drawing.AddArrow(placing.origin, 1, 0, kAxisLength, "X", kAxisColor);
     drawing.AddArrow(placing.origin, kDepthX, kDepthY, kAxisLength, "Y", kAxisColor);

@@ -5,7 +5,7 @@
 
 #include "mechanics/forces/resultants.h"
 #include "numeric/point.h"
-#include "tools/calculator/task.h"
+#include "tools/calculator/routine_run.h"
 
 namespace tavrelo::tools::calculator {
 
@@ -27,13 +27,13 @@ struct AxesTurn {
     double degrees = 0;
     bool turned = false;  // named X', Y'; the axes at rest stand behind them
 };
-void DrawFromCenter(Task& task, const std::vector<DrawnVector>& vectors, AxesTurn turn = {});
+void DrawFromCenter(RoutineRun& run, const std::vector<DrawnVector>& vectors, AxesTurn turn = {});
 
 /// Arrows from their points on `pic`, in the largest scale in which all of it has place; axes from the
 /// origin.
-void DrawAtPoints(Task& task, const std::vector<DrawnVector>& vectors);
+void DrawAtPoints(RoutineRun& run, const std::vector<DrawnVector>& vectors);
 
 /// Forces along z at points of the plane xy, seen from aside: x to the right, y into the depth, z upward.
-void DrawVerticalForces(Task& task, const std::vector<DrawnVector>& forces);
+void DrawVerticalForces(RoutineRun& run, const std::vector<DrawnVector>& forces);
 
 }  // namespace tavrelo::tools::calculator

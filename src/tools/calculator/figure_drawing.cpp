@@ -54,8 +54,8 @@ window::Point AwayFrom(window::Point inside, window::Point from, window::Point t
 
 }  // namespace
 
-void DrawFigure(Task& task, const Figure& figure) {
-    window::Surface& surface = task.form.pic.Canvas();
+void DrawFigure(RoutineRun& run, const Figure& figure) {
+    window::Surface& surface = run.Picture();
     const Pixels points = Fit(surface, figure.vertices);
     const std::size_t count = points.size();
     if (count == 0)
@@ -63,7 +63,7 @@ void DrawFigure(Task& task, const Figure& figure) {
     const auto color = [&](std::size_t side) { return figure.colors[side % figure.colors.size()]; };
     drawing::LabelPlacer labels(surface);
     surface.Cls();
-    task.engine.Begin();
+    run.engine.Begin();
     surface.DrawWidth = kLineWidth;
     for (std::size_t i = 0; i < count; ++i) {
         const window::Point from = points[i];

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "numeric/point.h"
-#include "tools/calculator/task.h"
+#include "tools/calculator/routine_run.h"
 
 namespace tavrelo::tools::calculator {
 
@@ -18,6 +18,6 @@ struct Figure {
 
 /// Draws the figure on `pic`, centred, its larger extent 0.7 of the picture's smaller one, its labels
 /// outside.
-void DrawFigure(Task& task, const Figure& figure);
+void DrawFigure(RoutineRun& run, const Figure& figure);
 
 }  // namespace tavrelo::tools::calculator

@@ -6,7 +6,7 @@
 #include "expr/polynomial_text.h"
 #include "numeric/fits.h"
 #include "text/number_text.h"
-#include "tools/calculator/report.h"
+#include "tools/calculator/result_text.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -33,14 +33,14 @@ Data DataOf(const Arguments& arguments, int count) {
     return data;
 }
 
-void DrawFit(Task& task, const Data& data, const Numbers& coefs) {
+void DrawFit(RoutineRun& run, const Data& data, const Numbers& coefs) {
     constexpr int kSamples = static_cast<int>(drawing::DrawEng::kGraphSize);
     const numeric::CurveSamples curve = numeric::SamplePolynomial(coefs, data.xs, kSamples);
-    window::Surface& surface = task.form.pic.Canvas();
+    window::Surface& surface = run.Picture();
     surface.Cls();
-    task.engine.Begin();
-    task.engine.DrawGraph(surface, curve.xs, curve.ys, kCurveColor, task.decimals);
-    task.engine.DrawGraphPoints(surface, {curve.xs, curve.ys}, {data.xs, data.ys}, kPointColor);
+    run.engine.Begin();
+    run.engine.DrawGraph(surface, curve.xs, curve.ys, kCurveColor, run.decimals);
+    run.engine.DrawGraphPoints(surface, {curve.xs, curve.ys}, {data.xs, data.ys}, kPointColor);
 }
 
 /// The polynomial in the language of the formula box.
@@ -50,18 +50,18 @@ std::string PolynomialText(const Numbers& coefs) {
     return expr::GetPolynomial(highest_first).value_or(std::string());
 }
 
-Lines LineReport(const Task& task, const Data& data, const Numbers& coefs) {
+Lines LineReport(const RoutineRun& run, const Data& data, const Numbers& coefs) {
     const double correlation = numeric::Correlation(data.xs, data.ys);
     const numeric::LineSums sums = numeric::SumsOf(data.xs, data.ys);
     return {
         "Recta de mínimos cuadrados: y = ax + b",
         "a = " + text::NumberToText(coefs[1]),
         "b = " + text::NumberToText(coefs[0]),
-        "Coeficiente de correlación:   r = " + task.Bare(correlation),
-        ";S x = " + task.Shown(sums.x) + ", ;S y = " + task.Shown(sums.y),
-        "<x> = " + task.Shown(sums.mean_x) + ", <y> = " + task.Shown(sums.mean_y),
-        ";S x¡2 = " + task.Shown(sums.xx) + ", ;S y¡2 = " + task.Shown(sums.yy),
-        ";S xy = " + task.Shown(sums.xy),
+        "Coeficiente de correlación:   r = " + run.Bare(correlation),
+        ";S x = " + run.Shown(sums.x) + ", ;S y = " + run.Shown(sums.y),
+        "<x> = " + run.Shown(sums.mean_x) + ", <y> = " + run.Shown(sums.mean_y),
+        ";S x¡2 = " + run.Shown(sums.xx) + ", ;S y¡2 = " + run.Shown(sums.yy),
+        ";S xy = " + run.Shown(sums.xy),
     };
 }
 
@@ -73,44 +73,44 @@ Lines PolynomialReport(int degree, const Numbers& coefs) {
     return lines;
 }
 
-Outcome Fit(Task& task, int degree, const Data& data) {
+Outcome Fit(RoutineRun& run, int degree, const Data& data) {
     const auto coefs = numeric::PolyFit(degree, data.xs, data.ys);
     if (!coefs)
         return text::Refusal{std::string(numeric::kFitNotSolved)};
-    DrawFit(task, data, *coefs);
-    Lines lines = degree == kLine ? LineReport(task, data, *coefs) : PolynomialReport(degree, *coefs);
+    DrawFit(run, data, *coefs);
+    Lines lines = degree == kLine ? LineReport(run, data, *coefs) : PolynomialReport(degree, *coefs);
     lines.push_back(PolynomialText(*coefs));
-    task.Report(lines);
+    run.Report(lines);
     return std::nullopt;
 }
 
 }  // namespace
 
-Outcome LineFit(Task& task) { return Fit(task, kLine, DataOf(task.arguments, task.arguments.Count())); }
+Outcome LineFit(RoutineRun& run) { return Fit(run, kLine, DataOf(run.arguments, run.arguments.Count())); }
 
-Outcome ExponentialFit(Task& task) {
-    Data data = DataOf(task.arguments, task.arguments.Count());
+Outcome ExponentialFit(RoutineRun& run) {
+    Data data = DataOf(run.arguments, run.arguments.Count());
     const auto logarithms = numeric::LogarithmsOf(data.ys);
     if (!logarithms)
         return text::Refusal{std::string(numeric::kNotPositive)};
-    return Fit(task, kLine, {data.xs, *logarithms});
+    return Fit(run, kLine, {data.xs, *logarithms});
 }
 
-Outcome PowerFit(Task& task) {
-    Data data = DataOf(task.arguments, task.arguments.Count());
+Outcome PowerFit(RoutineRun& run) {
+    Data data = DataOf(run.arguments, run.arguments.Count());
     const auto xs = numeric::LogarithmsOf(data.xs);
     const auto ys = numeric::LogarithmsOf(data.ys);
     if (!xs || !ys)
         return text::Refusal{std::string(numeric::kNotPositive)};
-    return Fit(task, kLine, {*xs, *ys});
+    return Fit(run, kLine, {*xs, *ys});
 }
 
-Outcome PolynomialFit(Task& task) {
-    const int count = task.arguments.Count();
+Outcome PolynomialFit(RoutineRun& run) {
+    const int count = run.arguments.Count();
     if (count % 2 == 0)
         return text::Refusal{"Da el orden del polinomio como último argumento."};
-    const int degree = numeric::RoundToInteger(task.arguments.Number(count - 1));
-    return Fit(task, degree, DataOf(task.arguments, count - 1));
+    const int degree = numeric::RoundToInteger(run.arguments.Number(count - 1));
+    return Fit(run, degree, DataOf(run.arguments, count - 1));
 }
 
 }  // namespace tavrelo::tools::calculator

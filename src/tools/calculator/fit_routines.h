@@ -1,17 +1,17 @@
 #pragma once
 
-#include "tools/calculator/task.h"
+#include "tools/calculator/routine_run.h"
 
 namespace tavrelo::tools::calculator {
 
 // Curves of least squares through the points x1, y1, x2, y2, ...: report, and graph on `pic`.
 
-Outcome LineFit(Task& task);
+Outcome LineFit(RoutineRun& run);
 /// y = b e^(a x), as the line through the points (x, ln y).
-Outcome ExponentialFit(Task& task);
+Outcome ExponentialFit(RoutineRun& run);
 /// y = b x^a, as the line through the points (ln x, ln y).
-Outcome PowerFit(Task& task);
+Outcome PowerFit(RoutineRun& run);
 /// Of the order that is the last argument.
-Outcome PolynomialFit(Task& task);
+Outcome PolynomialFit(RoutineRun& run);
 
 }  // namespace tavrelo::tools::calculator

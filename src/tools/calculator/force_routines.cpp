@@ -6,7 +6,7 @@
 #include "text/number_text.h"
 #include "tools/calculator/arrow_drawing.h"
 #include "tools/calculator/graph_routines.h"
-#include "tools/calculator/report.h"
+#include "tools/calculator/result_text.h"
 #include "tools/calculator/vector_arguments.h"
 
 namespace tavrelo::tools::calculator {
@@ -32,105 +32,105 @@ std::string ForceName(std::size_t index) { return Subscripted("F", index + 1); }
 
 // --- Parallel forces along a line --------------------------------------------------------------------------
 
-Lines LineReport(const Task& task, const mechanics::forces::LineResultant& result) {
+Lines LineReport(const RoutineRun& run, const mechanics::forces::LineResultant& result) {
     if (result.kind == ResultantKind::Null)
         return {std::string(kNullSystem)};
     if (result.kind == ResultantKind::Couple)
-        return {std::string(kCouple) + task.Bare(result.moment)};
-    Lines lines = {"La resultante vale " + task.Bare(result.force),
-                   "y se localiza en R = " + task.Bare(result.force) + ", x!R = " + task.Bare(result.x)};
-    if (const int count = task.arguments.Count(); HasChosenPoint(count)) {
-        const double x = task.arguments.Number(count - 1);
-        lines.push_back("La resultante localizada en x = " + task.Bare(x));
+        return {std::string(kCouple) + run.Bare(result.moment)};
+    Lines lines = {"La resultante vale " + run.Bare(result.force),
+                   "y se localiza en R = " + run.Bare(result.force) + ", x!R = " + run.Bare(result.x)};
+    if (const int count = run.arguments.Count(); HasChosenPoint(count)) {
+        const double x = run.arguments.Number(count - 1);
+        lines.push_back("La resultante localizada en x = " + run.Bare(x));
         lines.emplace_back("consta de la fuerza R dada arriba");
-        lines.push_back("y un par de momento " + task.Bare(mechanics::forces::MomentAt(result, x)));
+        lines.push_back("y un par de momento " + run.Bare(mechanics::forces::MomentAt(result, x)));
     }
     return lines;
 }
 
-void DrawLineForces(Task& task, const std::vector<mechanics::forces::LineForce>& forces,
+void DrawLineForces(RoutineRun& run, const std::vector<mechanics::forces::LineForce>& forces,
                     const mechanics::forces::LineResultant& result) {
     std::vector<DrawnVector> drawn;
     for (const auto& [x, force] : forces)
         drawn.push_back({0, force, ForceName(drawn.size()), kGivenColor, {x, 0}});
     if (result.kind == ResultantKind::Force)
         drawn.push_back({0, result.force, "R", kResultColor, {result.x, 0}});
-    DrawAtPoints(task, drawn);
+    DrawAtPoints(run, drawn);
 }
 
 // --- Parallel forces in space ------------------------------------------------------------------------------
 
-Lines SpaceReport(const Task& task, const mechanics::forces::SpaceResultant& result,
+Lines SpaceReport(const RoutineRun& run, const mechanics::forces::SpaceResultant& result,
                   const PlaneVector* chosen) {
-    const std::string moment = PointText(task, result.moment_x, result.moment_y);
-    Lines lines = {";SF!z = " + task.Bare(result.force) + ",  ;S$M!O = " + moment};
+    const std::string moment = PointText(run, result.moment_x, result.moment_y);
+    Lines lines = {";SF!z = " + run.Bare(result.force) + ",  ;S$M!O = " + moment};
     if (result.kind == ResultantKind::Null) {
         lines.push_back(std::string(kNullSystem) + ".");
     } else if (result.kind == ResultantKind::Couple) {
         lines.emplace_back("La suma de fuerzas es cero. La resultante es");
         lines.push_back("un par de momento $M = ;S$M!O = " + moment);
     } else {
-        lines.push_back("Resultante: R!z = " + task.Bare(result.force) + ", ubicada en");
-        lines.push_back("x!R = " + task.Bare(result.position.x) + ",  y!R = " + task.Bare(result.position.y));
+        lines.push_back("Resultante: R!z = " + run.Bare(result.force) + ", ubicada en");
+        lines.push_back("x!R = " + run.Bare(result.position.x) + ",  y!R = " + run.Bare(result.position.y));
         if (chosen) {
             const numeric::Point couple = mechanics::forces::MomentAt(result, {chosen->x, chosen->y});
-            lines.push_back("Localizada en " + PointText(task, *chosen) + " es  R!z = " +
-                            task.Bare(result.force) + "  y  $M = " + PointText(task, couple.x, couple.y));
+            lines.push_back("Localizada en " + PointText(run, *chosen) + " es  R!z = " +
+                            run.Bare(result.force) + "  y  $M = " + PointText(run, couple.x, couple.y));
         }
     }
     return lines;
 }
 
-void DrawSpaceForces(Task& task, const std::vector<mechanics::forces::VerticalForce>& forces,
+void DrawSpaceForces(RoutineRun& run, const std::vector<mechanics::forces::VerticalForce>& forces,
                      const mechanics::forces::SpaceResultant& result) {
     std::vector<DrawnVector> drawn;
     for (const auto& [position, force] : forces)
         drawn.push_back({0, force, ForceName(drawn.size()), kGivenColor, position});
     if (result.kind == ResultantKind::Force)
         drawn.push_back({0, result.force, "R", kResultColor, result.position});
-    DrawVerticalForces(task, drawn);
+    DrawVerticalForces(run, drawn);
 }
 
 // --- Coplanar forces ---------------------------------------------------------------------------------------
 
-std::string ActionLineText(const Task& task, const mechanics::forces::PlaneResultant& result) {
+std::string ActionLineText(const RoutineRun& run, const mechanics::forces::PlaneResultant& result) {
     const std::string title = "Línea de acción:  ";
     switch (result.line) {
         case mechanics::forces::ActionLine::Horizontal:
-            return title + "y = " + task.Bare(result.y_intercept);
+            return title + "y = " + run.Bare(result.y_intercept);
         case mechanics::forces::ActionLine::Vertical:
-            return title + "x = " + task.Bare(result.x_intercept);
+            return title + "x = " + run.Bare(result.x_intercept);
         case mechanics::forces::ActionLine::Oblique:
             break;
     }
-    const double x_coef = text::RoundTo(result.force.y, task.decimals);
-    const double y_coef = text::RoundTo(-result.force.x, task.decimals);
+    const double x_coef = text::RoundTo(result.force.y, run.decimals);
+    const double y_coef = text::RoundTo(-result.force.x, run.decimals);
     const std::string x_term = text::TermText(false, false, x_coef, "x");
     return title + x_term + text::TermText(!x_term.empty(), false, y_coef, "y") + " = " +
-           task.Bare(result.moment);
+           run.Bare(result.moment);
 }
 
-Lines PlaneReport(const Task& task, const mechanics::forces::PlaneResultant& result,
+Lines PlaneReport(const RoutineRun& run, const mechanics::forces::PlaneResultant& result,
                   const PlaneVector* chosen) {
-    Lines lines = {";SF!x = " + task.Bare(result.force.x) + ",  ;SF!y = " + task.Bare(result.force.y) +
-                   ",  ;SM!O = " + task.Bare(result.moment)};
+    Lines lines = {";SF!x = " + run.Bare(result.force.x) + ",  ;SF!y = " + run.Bare(result.force.y) +
+                   ",  ;SM!O = " + run.Bare(result.moment)};
     if (result.kind == ResultantKind::Null) {
         lines.emplace_back(kNullSystem);
         return lines;
     }
     if (result.kind == ResultantKind::Couple) {
-        lines.push_back(std::string(kCouple) + task.Bare(result.moment));
+        lines.push_back(std::string(kCouple) + run.Bare(result.moment));
         return lines;
     }
-    lines.push_back("Resultante: $R = " + VectorText(task, result.force));
-    lines.push_back(ActionLineText(task, result));
+    lines.push_back("Resultante: $R = " + VectorText(run, result.force));
+    lines.push_back(ActionLineText(run, result));
     if (result.line == mechanics::forces::ActionLine::Oblique)
-        lines.push_back("Intersecciones: x!R = " + task.Bare(result.x_intercept) +
-                        ", y!R = " + task.Bare(result.y_intercept));
+        lines.push_back("Intersecciones: x!R = " + run.Bare(result.x_intercept) +
+                        ", y!R = " + run.Bare(result.y_intercept));
     if (chosen) {
-        lines.push_back("La resultante localizada en " + PointText(task, *chosen));
+        lines.push_back("La resultante localizada en " + PointText(run, *chosen));
         lines.push_back("es la fuerza $R y un par de momento " +
-                        task.Bare(mechanics::forces::MomentAt(result, {chosen->x, chosen->y})));
+                        run.Bare(mechanics::forces::MomentAt(result, {chosen->x, chosen->y})));
     }
     return lines;
 }
@@ -148,14 +148,14 @@ numeric::Point ResultantPoint(const std::vector<mechanics::forces::PlacedForce>&
     return {middle.x + shift * result.force.y, middle.y - shift * result.force.x};
 }
 
-void DrawPlaneForces(Task& task, const std::vector<mechanics::forces::PlacedForce>& forces,
+void DrawPlaneForces(RoutineRun& run, const std::vector<mechanics::forces::PlacedForce>& forces,
                      const mechanics::forces::PlaneResultant& result) {
     std::vector<DrawnVector> drawn;
     for (const auto& [position, force] : forces)
         drawn.push_back({force.x, force.y, ForceName(drawn.size()), kGivenColor, {position.x, position.y}});
     if (result.kind == ResultantKind::Force)
         drawn.push_back({result.force.x, result.force.y, "R", kResultColor, ResultantPoint(forces, result)});
-    DrawAtPoints(task, drawn);
+    DrawAtPoints(run, drawn);
 }
 
 /// Numbers are couples; the vectors keep their order.
@@ -177,33 +177,33 @@ PlaneArguments SortPlaneArguments(const Arguments& arguments) {
 
 // --- Distributed load --------------------------------------------------------------------------------------
 
-Lines LoadReport(const Task& task, const mechanics::forces::LineResultant& result) {
-    Lines lines = {"Distribución de densidad f(x) = " + task.ShownFormula(),
-                   "entre x!1 = " + task.Bare(task.arguments.Number(0)) +
-                       " y x!2 = " + task.Bare(task.arguments.Number(1))};
+Lines LoadReport(const RoutineRun& run, const mechanics::forces::LineResultant& result) {
+    Lines lines = {
+        "Distribución de densidad f(x) = " + run.ShownFormula(),
+        "entre x!1 = " + run.Bare(run.arguments.Number(0)) + " y x!2 = " + run.Bare(run.arguments.Number(1))};
     if (result.kind == ResultantKind::Null) {
         lines.emplace_back("La resultante es nula.");
     } else if (result.kind == ResultantKind::Couple) {
         lines.emplace_back("La fuerza total es cero. La resultante es un par");
-        lines.push_back("de momento M!0 = " + task.Bare(result.moment));
+        lines.push_back("de momento M!0 = " + run.Bare(result.moment));
     } else {
-        lines.push_back("Momento c//r al origen: M!0 = " + task.Bare(result.moment));
-        lines.push_back("Resultante: R = " + task.Bare(result.force) +
-                        ", ubicada en x!R = " + task.Bare(result.x));
+        lines.push_back("Momento c//r al origen: M!0 = " + run.Bare(result.moment));
+        lines.push_back("Resultante: R = " + run.Bare(result.force) +
+                        ", ubicada en x!R = " + run.Bare(result.x));
     }
     return lines;
 }
 
 /// The resultant over the graph of its density, at its place on the x axis; left out where that lies off the
 /// picture.
-void DrawLoadResultant(Task& task, const mechanics::forces::LineResultant& result, double first,
+void DrawLoadResultant(RoutineRun& run, const mechanics::forces::LineResultant& result, double first,
                        double last) {
     constexpr double kLength = 5.5;  // world units
     constexpr int kWidth = 2;        // pixels
     using drawing::DrawEng;
     if (result.kind != ResultantKind::Force)
         return;
-    window::Surface& surface = task.form.pic.Canvas();
+    window::Surface& surface = run.Picture();
     const auto [low, high] = std::minmax(first, last);
     const double part = numeric::CheckedDivide(result.x - low, high - low);
     const double x = DrawEng::kGraphLeft + part * DrawEng::kGraphSize;
@@ -212,32 +212,32 @@ void DrawLoadResultant(Task& task, const mechanics::forces::LineResultant& resul
     const bool is_upward = result.force > 0;
     const double half_length = kLength * DrawEng::kPixPerUnit / 2;
     const double middle = surface.FromBottom(DrawEng::kGraphBottom + DrawEng::kGraphSize / 2);
-    task.engine.MoveTo(surface, x, middle + (is_upward ? half_length : -half_length), 1);
-    task.engine.DrawArrow(surface, {.length = kLength,
-                                    .hour = is_upward ? notation::kHourUp : notation::kHourDown,
-                                    .color = kResultColor,
-                                    .label = "R",
-                                    .width = kWidth});
+    run.engine.MoveTo(surface, x, middle + (is_upward ? half_length : -half_length), 1);
+    run.engine.DrawArrow(surface, {.length = kLength,
+                                   .hour = is_upward ? notation::kHourUp : notation::kHourDown,
+                                   .color = kResultColor,
+                                   .label = "R",
+                                   .width = kWidth});
 }
 
 }  // namespace
 
-Outcome ParallelLine(Task& task) {
-    const int count = task.arguments.Count();
+Outcome ParallelLine(RoutineRun& run) {
+    const int count = run.arguments.Count();
     RequirePair(count);
     std::vector<mechanics::forces::LineForce> forces;
     for (int k = 0; k + 1 < count; k += 2)
-        forces.push_back({task.arguments.Number(k), task.arguments.Number(k + 1)});
+        forces.push_back({run.arguments.Number(k), run.arguments.Number(k + 1)});
     const mechanics::forces::LineResultant result = mechanics::forces::ParallelLine(forces);
-    const Lines lines = LineReport(task, result);
-    DrawLineForces(task, forces, result);
-    task.Report(lines);
+    const Lines lines = LineReport(run, result);
+    DrawLineForces(run, forces, result);
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome ParallelSpace(Task& task) {
-    const int count = task.arguments.Count();
-    const ReadVectors read = VectorsFrom(task.arguments, 0, 2, count);
+Outcome ParallelSpace(RoutineRun& run) {
+    const int count = run.arguments.Count();
+    const ReadVectors read = VectorsFrom(run.arguments, 0, 2, count);
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     RequirePair(count);
@@ -245,18 +245,18 @@ Outcome ParallelSpace(Task& task) {
     std::vector<mechanics::forces::VerticalForce> forces;
     for (int k = 0; k + 1 < count; k += 2) {
         const PlaneVector& point = points[forces.size()];
-        forces.push_back({{point.x, point.y}, task.arguments.Number(k + 1)});
+        forces.push_back({{point.x, point.y}, run.arguments.Number(k + 1)});
     }
     const mechanics::forces::SpaceResultant result = mechanics::forces::ParallelSpace(forces);
-    const Lines lines = SpaceReport(task, result, HasChosenPoint(count) ? &points.back() : nullptr);
-    DrawSpaceForces(task, forces, result);
-    task.Report(lines);
+    const Lines lines = SpaceReport(run, result, HasChosenPoint(count) ? &points.back() : nullptr);
+    DrawSpaceForces(run, forces, result);
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome PlaneForces(Task& task) {
-    const auto [couples, positions] = SortPlaneArguments(task.arguments);
-    const ReadVectors read = VectorsAt(task.arguments, positions);
+Outcome PlaneForces(RoutineRun& run) {
+    const auto [couples, positions] = SortPlaneArguments(run.arguments);
+    const ReadVectors read = VectorsAt(run.arguments, positions);
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     const auto& given = std::get<Vectors>(read);
@@ -267,36 +267,36 @@ Outcome PlaneForces(Task& task) {
         RequirePair(0);
     const bool has_chosen = given.size() % 2 != 0;
     const mechanics::forces::PlaneResultant result = mechanics::forces::PlaneForces(forces, couples);
-    const Lines lines = PlaneReport(task, result, has_chosen ? &given.back() : nullptr);
-    DrawPlaneForces(task, forces, result);
-    task.Report(lines);
+    const Lines lines = PlaneReport(run, result, has_chosen ? &given.back() : nullptr);
+    DrawPlaneForces(run, forces, result);
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome DistributedLoad(Task& task) {
-    const double first = task.arguments.Number(0);
-    const double last = task.arguments.Number(1);
-    const auto density = [&](std::span<const double> at) { return task.At(at[0]); };
+Outcome DistributedLoad(RoutineRun& run) {
+    const double first = run.arguments.Number(0);
+    const double last = run.arguments.Number(1);
+    const auto density = [&](std::span<const double> at) { return run.At(at[0]); };
     const auto moment_density = [&](std::span<const double> at) {
-        return numeric::CheckedMultiply(at[0], task.At(at[0]));
+        return numeric::CheckedMultiply(at[0], run.At(at[0]));
     };
     const auto result = mechanics::forces::DistributedLoad(density, moment_density, first, last);
     if (!result) {
-        task.TellTooManySteps();
+        run.TellTooManySteps();
         return std::nullopt;
     }
-    DrawFormula(task, first, last);
-    DrawLoadResultant(task, *result, first, last);
-    task.Report(LoadReport(task, *result));
+    DrawFormula(run, first, last);
+    DrawLoadResultant(run, *result, first, last);
+    run.Report(LoadReport(run, *result));
     return std::nullopt;
 }
 
-Outcome ParticleEquilibrium(Task& task) {
+Outcome ParticleEquilibrium(RoutineRun& run) {
     std::vector<std::string> texts;
-    for (int k = 0; k < task.arguments.Count(); ++k)
-        texts.push_back(task.arguments.Text(k));
-    if (task.solve_particle)
-        task.solve_particle(texts);
+    for (int k = 0; k < run.arguments.Count(); ++k)
+        texts.push_back(run.arguments.Text(k));
+    if (run.solve_particle)
+        run.solve_particle(texts);
     return std::nullopt;
 }
 

@@ -29,69 +29,69 @@ struct Points {
 
 text::Refusal TooManyValues() { return {"Calculo máximo " + std::to_string(kMostValues) + " valores."}; }
 
-std::string ValueLine(Task& task, std::span<const double> point) {
+std::string ValueLine(RoutineRun& run, std::span<const double> point) {
     std::string list;
     for (const double coordinate : point)
-        list += (list.empty() ? "" : ", ") + task.Shown(coordinate);
-    return "f(" + list + ") = " + task.Shown(task.Evaluate(point));
+        list += (list.empty() ? "" : ", ") + run.Shown(coordinate);
+    return "f(" + list + ") = " + run.Shown(run.Evaluate(point));
 }
 
-Outcome CalcTable(Task& task, const Points& points) {
+Outcome CalcTable(RoutineRun& run, const Points& points) {
     if (points.Count() > kMostValues)
         return TooManyValues();
-    std::vector<std::string> lines = {"Función: " + task.ShownFormula()};
+    std::vector<std::string> lines = {"Función: " + run.ShownFormula()};
     for (std::size_t k = 0; k < points.Count(); ++k)
-        lines.push_back(ValueLine(task, points.At(k)));
-    task.Report(lines);
+        lines.push_back(ValueLine(run, points.At(k)));
+    run.Report(lines);
     return std::nullopt;
 }
 
 /// A formula that is one number keeps the sign of the limits' order; every other one loses it.
-Outcome SimpsonIntegral(Task& task) {
-    const double first = task.arguments.Number(0);
-    const double last = task.arguments.Number(1);
-    const double value = text::IsNum(task.formula)
-                             ? numeric::IntegrateConstant(text::ToNumber(task.formula), first, last)
-                             : numeric::Integrate([&](double x) { return task.At(x); }, first, last);
-    task.Report(
-        {"La integral de la función " + task.ShownFormula(),
-         "entre x!1 = " + task.Shown(first) + " y x!2 = " + task.Shown(last) + " es:" + task.Shown(value)});
+Outcome SimpsonIntegral(RoutineRun& run) {
+    const double first = run.arguments.Number(0);
+    const double last = run.arguments.Number(1);
+    const double value = text::IsNum(run.formula)
+                             ? numeric::IntegrateConstant(text::ToNumber(run.formula), first, last)
+                             : numeric::Integrate([&](double x) { return run.At(x); }, first, last);
+    run.Report(
+        {"La integral de la función " + run.ShownFormula(),
+         "entre x!1 = " + run.Shown(first) + " y x!2 = " + run.Shown(last) + " es:" + run.Shown(value)});
     return std::nullopt;
 }
 
-Outcome AdaptiveIntegral(Task& task) {
+Outcome AdaptiveIntegral(RoutineRun& run) {
     constexpr int kAccuracyArgument = 3;
-    const double first = task.arguments.Number(0);
-    const double last = task.arguments.Number(1);
-    const bool has_accuracy = task.arguments.Count() > kAccuracyArgument;
+    const double first = run.arguments.Number(0);
+    const double last = run.arguments.Number(1);
+    const bool has_accuracy = run.arguments.Count() > kAccuracyArgument;
     const double accuracy =
-        has_accuracy ? task.arguments.Number(kAccuracyArgument) : numeric::kOdeIntegralAccuracy;
+        has_accuracy ? run.arguments.Number(kAccuracyArgument) : numeric::kOdeIntegralAccuracy;
     if (accuracy > kCoarsestAccuracy)
         return text::Refusal{"No tomes el argumento \"épsilon\" mayor que 0.001."};
-    const auto integral = numeric::IntegrateOde([&](std::span<const double> at) { return task.At(at[0]); },
+    const auto integral = numeric::IntegrateOde([&](std::span<const double> at) { return run.At(at[0]); },
                                                 first, last, accuracy);
     if (integral.outcome == numeric::OdeOutcome::TooManySteps) {
-        task.TellTooManySteps();
+        run.TellTooManySteps();
         return std::nullopt;
     }
-    task.Report({"La integral de la función f(x) = " + task.ShownFormula(),
-                 "en el intervalo [" + task.Shown(first) + ", " + task.Shown(last) + "]",
-                 "es " + task.Shown(integral.value)});
+    run.Report({"La integral de la función f(x) = " + run.ShownFormula(),
+                "en el intervalo [" + run.Shown(first) + ", " + run.Shown(last) + "]",
+                "es " + run.Shown(integral.value)});
     return std::nullopt;
 }
 
 }  // namespace
 
-Outcome TableOfX(Task& task) { return CalcTable(task, {task.arguments.AllNumbers(), 1}); }
+Outcome TableOfX(RoutineRun& run) { return CalcTable(run, {run.arguments.AllNumbers(), 1}); }
 
-Outcome TableOfXY(Task& task) { return CalcTable(task, {task.arguments.AllNumbers(), 2}); }
+Outcome TableOfXY(RoutineRun& run) { return CalcTable(run, {run.arguments.AllNumbers(), 2}); }
 
-Outcome TableOfXYZ(Task& task) { return CalcTable(task, {task.arguments.AllNumbers(), 3}); }
+Outcome TableOfXYZ(RoutineRun& run) { return CalcTable(run, {run.arguments.AllNumbers(), 3}); }
 
-Outcome TableOfSteps(Task& task) {
-    const double first = task.arguments.Number(0);
-    const double last = task.arguments.Number(1);
-    const double step = task.arguments.Number(2);
+Outcome TableOfSteps(RoutineRun& run) {
+    const double first = run.arguments.Number(0);
+    const double last = run.arguments.Number(1);
+    const double step = run.arguments.Number(2);
     if (step == 0)
         return text::Refusal{"El incremento no puede ser cero."};
     const double steps =
@@ -101,33 +101,33 @@ Outcome TableOfSteps(Task& task) {
     Points points{{}, 1};
     for (int k = 0; k <= steps; ++k)
         points.coordinates.push_back(first + k * step);
-    return CalcTable(task, points);
+    return CalcTable(run, points);
 }
 
-Outcome FirstDerivative(Task& task) {
-    std::vector<std::string> lines = {"Derivada(s) de la función f(x) = " + task.ShownFormula()};
-    for (const double x : task.arguments.AllNumbers()) {
+Outcome FirstDerivative(RoutineRun& run) {
+    std::vector<std::string> lines = {"Derivada(s) de la función f(x) = " + run.ShownFormula()};
+    for (const double x : run.arguments.AllNumbers()) {
         const auto derivative =
-            numeric::Derivative([&](double at) { return task.At(at); }, x, kFirstDerivativeStep);
-        lines.push_back("f '(" + task.Shown(x) + ") = " + task.Shown(derivative.value) + " (" +
-                        task.Shown(derivative.error) + ")");
+            numeric::Derivative([&](double at) { return run.At(at); }, x, kFirstDerivativeStep);
+        lines.push_back("f '(" + run.Shown(x) + ") = " + run.Shown(derivative.value) + " (" +
+                        run.Shown(derivative.error) + ")");
     }
-    task.Report(lines);
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome SecondDerivative(Task& task) {
-    const double x = task.arguments.Number(0);
-    const double step = task.arguments.Count() > 1 ? task.arguments.Number(1) : kSecondDerivativeStep;
-    const double value = numeric::SecondDeriv([&](double at) { return task.At(at); }, x, step);
-    task.Report({"Segunda derivada de la función f(x) = " + task.ShownFormula(),
-                 ";e = " + task.Shown(step) + ":   f ''(" + task.Shown(x) + ") = " + task.Shown(value)});
+Outcome SecondDerivative(RoutineRun& run) {
+    const double x = run.arguments.Number(0);
+    const double step = run.arguments.Count() > 1 ? run.arguments.Number(1) : kSecondDerivativeStep;
+    const double value = numeric::SecondDeriv([&](double at) { return run.At(at); }, x, step);
+    run.Report({"Segunda derivada de la función f(x) = " + run.ShownFormula(),
+                ";e = " + run.Shown(step) + ":   f ''(" + run.Shown(x) + ") = " + run.Shown(value)});
     return std::nullopt;
 }
 
-Outcome Integral(Task& task) {
+Outcome Integral(RoutineRun& run) {
     constexpr int kLimitsOnly = 2;
-    return task.arguments.Count() == kLimitsOnly ? SimpsonIntegral(task) : AdaptiveIntegral(task);
+    return run.arguments.Count() == kLimitsOnly ? SimpsonIntegral(run) : AdaptiveIntegral(run);
 }
 
 }  // namespace tavrelo::tools::calculator

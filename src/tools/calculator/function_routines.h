@@ -1,21 +1,21 @@
 #pragma once
 
-#include "tools/calculator/task.h"
+#include "tools/calculator/routine_run.h"
 
 namespace tavrelo::tools::calculator {
 
 // Values of the formula at the given points, at most a hundred of them.
 
-Outcome TableOfX(Task& task);      // x1, x2, ...
-Outcome TableOfXY(Task& task);     // x1, y1, x2, y2, ...
-Outcome TableOfXYZ(Task& task);    // x1, y1, z1, ...
-Outcome TableOfSteps(Task& task);  // from x1 to x2 by an increment
+Outcome TableOfX(RoutineRun& run);      // x1, x2, ...
+Outcome TableOfXY(RoutineRun& run);     // x1, y1, x2, y2, ...
+Outcome TableOfXYZ(RoutineRun& run);    // x1, y1, z1, ...
+Outcome TableOfSteps(RoutineRun& run);  // from x1 to x2 by an increment
 
 /// At each of the points, with the estimated error.
-Outcome FirstDerivative(Task& task);
+Outcome FirstDerivative(RoutineRun& run);
 /// At a point, by the given step or the usual one.
-Outcome SecondDerivative(Task& task);
+Outcome SecondDerivative(RoutineRun& run);
 /// Between two limits; a third argument chooses the adaptive method, a fourth one its accuracy.
-Outcome Integral(Task& task);
+Outcome Integral(RoutineRun& run);
 
 }  // namespace tavrelo::tools::calculator

@@ -35,29 +35,29 @@ Numbers ParameterOf(const Arguments& arguments) {
 }
 
 /// The formula at each of the points; where it has no value the picture is cleared and the failure goes on.
-Numbers Sample(Task& task, const Numbers& at) {
+Numbers Sample(RoutineRun& run, const Numbers& at) {
     try {
         Numbers values;
         for (const double x : at)
-            values.push_back(task.At(x));
+            values.push_back(run.At(x));
         return values;
     } catch (const numeric::RuntimeFailure&) {
-        task.form.pic.Canvas().Cls();
+        run.Picture().Cls();
         throw;
     }
 }
 
 /// The same for a formula that the parser has accepted before.
-Numbers SampleFormula(Task& task, const std::string& formula, const Numbers& at) {
-    task.expression.Get().SetExpression(formula);
-    return Sample(task, at);
+Numbers SampleFormula(RoutineRun& run, const std::string& formula, const Numbers& at) {
+    run.expression.Get().SetExpression(formula);
+    return Sample(run, at);
 }
 
-void DrawCurve(Task& task, const Numbers& xs, const Numbers& ys) {
-    window::Surface& surface = task.form.pic.Canvas();
+void DrawCurve(RoutineRun& run, const Numbers& xs, const Numbers& ys) {
+    window::Surface& surface = run.Picture();
     surface.Cls();
-    task.engine.Begin();
-    task.engine.DrawGraph(surface, xs, ys, kCurveColor, task.decimals);
+    run.engine.Begin();
+    run.engine.DrawGraph(surface, xs, ys, kCurveColor, run.decimals);
 }
 
 /// The two formulas around the only "&".
@@ -74,37 +74,37 @@ std::pair<std::string, std::string> SplitPair(const std::string& text) {
 
 }  // namespace
 
-void DrawFormula(Task& task, double first, double last) {
+void DrawFormula(RoutineRun& run, double first, double last) {
     const Numbers xs = Spaced(first, last, kSteps + 1);
-    DrawCurve(task, xs, Sample(task, xs));
+    DrawCurve(run, xs, Sample(run, xs));
 }
 
-Outcome CartesianGraph(Task& task) {
-    DrawFormula(task, task.arguments.Number(0), task.arguments.Number(1));
+Outcome CartesianGraph(RoutineRun& run) {
+    DrawFormula(run, run.arguments.Number(0), run.arguments.Number(1));
     return std::nullopt;
 }
 
-Outcome PolarGraph(Task& task) {
-    const Numbers angles = ParameterOf(task.arguments);
-    const Numbers radii = Sample(task, angles);
-    const double unit = task.form.publics.AngleFactor;
+Outcome PolarGraph(RoutineRun& run) {
+    const Numbers angles = ParameterOf(run.arguments);
+    const Numbers radii = Sample(run, angles);
+    const double unit = run.form.publics.AngleFactor;
     Numbers xs, ys;
     for (std::size_t k = 0; k < angles.size(); ++k) {
         xs.push_back(radii[k] * std::cos(angles[k] * unit));
         ys.push_back(radii[k] * std::sin(angles[k] * unit));
     }
-    DrawCurve(task, xs, ys);
+    DrawCurve(run, xs, ys);
     return std::nullopt;
 }
 
-Outcome ParametricGraph(Task& task) {
-    const auto [first, second] = SplitPair(task.formula);
+Outcome ParametricGraph(RoutineRun& run) {
+    const auto [first, second] = SplitPair(run.formula);
     for (const std::string& formula : {first, second})
-        if (Outcome refusal = task.Parse(formula, formula))
+        if (Outcome refusal = run.Parse(formula, formula))
             return refusal;
-    const Numbers parameter = ParameterOf(task.arguments);
-    const Numbers xs = SampleFormula(task, first, parameter);
-    DrawCurve(task, xs, SampleFormula(task, second, parameter));
+    const Numbers parameter = ParameterOf(run.arguments);
+    const Numbers xs = SampleFormula(run, first, parameter);
+    DrawCurve(run, xs, SampleFormula(run, second, parameter));
     return std::nullopt;
 }
 

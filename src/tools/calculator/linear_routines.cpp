@@ -2,7 +2,7 @@
 
 #include "numeric/compare.h"
 #include "numeric/linear_systems.h"
-#include "tools/calculator/report.h"
+#include "tools/calculator/result_text.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -10,18 +10,19 @@ namespace {
 using numeric::LinearOutcome;
 using numeric::SquareMatrix;
 
-std::string MatrixRow(const Task& task, const SquareMatrix& matrix, std::size_t row) {
+std::string MatrixRow(const RoutineRun& run, const SquareMatrix& matrix, std::size_t row) {
     std::string line = "| ";
     for (std::size_t col = 0; col < matrix.Order(); ++col)
-        line += task.Shown(matrix(row, col)) + " ";
+        line += run.Shown(matrix(row, col)) + " ";
     return line + "|";
 }
 
-std::string EquationRow(const Task& task, const SquareMatrix& matrix, std::size_t row, double right_side) {
+std::string EquationRow(const RoutineRun& run, const SquareMatrix& matrix, std::size_t row,
+                        double right_side) {
     std::string line;
     for (std::size_t col = 0; col < matrix.Order(); ++col)
-        line += (col == 0 ? "" : " + ") + task.Shown(matrix(row, col)) + " " + Subscripted("x", col + 1);
-    return line + " = " + task.Shown(right_side);
+        line += (col == 0 ? "" : " + ") + run.Shown(matrix(row, col)) + " " + Subscripted("x", col + 1);
+    return line + " = " + run.Shown(right_side);
 }
 
 struct System {
@@ -58,26 +59,26 @@ Outcome Solve(System& system) {
 
 }  // namespace
 
-Outcome Determinant(Task& task) {
-    const SquareMatrix matrix(static_cast<std::size_t>(task.arguments.Rows()), task.arguments.AllNumbers());
+Outcome Determinant(RoutineRun& run) {
+    const SquareMatrix matrix(static_cast<std::size_t>(run.arguments.Rows()), run.arguments.AllNumbers());
     std::vector<std::string> lines;
     for (std::size_t row = 0; row < matrix.Order(); ++row)
-        lines.push_back(MatrixRow(task, matrix, row));
-    lines.push_back(";D = " + task.Shown(numeric::Determinant(matrix)));
-    task.Report(lines);
+        lines.push_back(MatrixRow(run, matrix, row));
+    lines.push_back(";D = " + run.Shown(numeric::Determinant(matrix)));
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome LinearSystem(Task& task) {
-    System system = SystemOf(task.arguments);
+Outcome LinearSystem(RoutineRun& run) {
+    System system = SystemOf(run.arguments);
     std::vector<std::string> lines;
     for (std::size_t row = 0; row < system.right_side.size(); ++row)
-        lines.push_back(EquationRow(task, system.matrix, row, system.right_side[row]));
+        lines.push_back(EquationRow(run, system.matrix, row, system.right_side[row]));
     if (Outcome refusal = Solve(system))
         return refusal;
     for (std::size_t k = 0; k < system.right_side.size(); ++k)
-        lines.push_back(Subscripted("x", k + 1) + " = " + task.Shown(system.right_side[k]));
-    task.Report(lines);
+        lines.push_back(Subscripted("x", k + 1) + " = " + run.Shown(system.right_side[k]));
+    run.Report(lines);
     return std::nullopt;
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tools/calculator/task.h"
+#include "tools/calculator/routine_run.h"
 
 namespace tavrelo::tools::calculator {
 
 /// The determinant of a square block.
-Outcome Determinant(Task& task);
+Outcome Determinant(RoutineRun& run);
 /// The system whose coefficients are a square block, the right-hand side the column behind it.
-Outcome LinearSystem(Task& task);
+Outcome LinearSystem(RoutineRun& run);
 
 }  // namespace tavrelo::tools::calculator

@@ -6,7 +6,7 @@
 #include "numeric/polynomials.h"
 #include "numeric/root_search.h"
 #include "text/number_text.h"
-#include "tools/calculator/report.h"
+#include "tools/calculator/result_text.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -31,114 +31,112 @@ class Sum {
 
 constexpr int kNoTerm = 1;  // the factor of a constant
 
-std::string PairText(const Task& task, double real, double imaginary) {
-    return task.Shown(real) + " #mame " + task.Shown(imaginary) + " i";
+std::string PairText(const RoutineRun& run, double real, double imaginary) {
+    return run.Shown(real) + " #mame " + run.Shown(imaginary) + " i";
 }
 
-std::string QuadraticRootsText(const Task& task, const numeric::QuadraticRoots& roots) {
+std::string QuadraticRootsText(const RoutineRun& run, const numeric::QuadraticRoots& roots) {
     if (roots.real)
-        return "x!1 = " + task.Shown(roots.first) + ",  x!2 = " + task.Shown(roots.second);
-    return "x!1!,!2 = " + PairText(task, roots.first, roots.second);
+        return "x!1 = " + run.Shown(roots.first) + ",  x!2 = " + run.Shown(roots.second);
+    return "x!1!,!2 = " + PairText(run, roots.first, roots.second);
 }
 
-Outcome ReportQuadratic(Task& task, Lines equation, double a, double b, double c) {
+Outcome ReportQuadratic(RoutineRun& run, Lines equation, double a, double b, double c) {
     if (a == 0)
         return text::Refusal{"No puedo resolver la ecuación."};
-    equation.push_back(QuadraticRootsText(task, numeric::QuadRoots(a, b, c)));
-    equation.push_back("Valor extremo en x = " + task.Shown(numeric::CheckedDivide(-b, 2 * a)));
-    task.Report(equation);
+    equation.push_back(QuadraticRootsText(run, numeric::QuadRoots(a, b, c)));
+    equation.push_back("Valor extremo en x = " + run.Shown(numeric::CheckedDivide(-b, 2 * a)));
+    run.Report(equation);
     return std::nullopt;
 }
 
-Lines CubicRootLines(const Task& task, double a, double b, double c, double d) {
+Lines CubicRootLines(const RoutineRun& run, double a, double b, double c, double d) {
     const numeric::CubicRootsResult roots = numeric::CubicRoots(a, b, c, d);
-    Lines lines = {"x!1 = " + task.Shown(roots.first)};
+    Lines lines = {"x!1 = " + run.Shown(roots.first)};
     if (roots.real) {
-        lines.push_back("x!2 = " + task.Shown(roots.second));
-        lines.push_back("x!3 = " + task.Shown(roots.third));
+        lines.push_back("x!2 = " + run.Shown(roots.second));
+        lines.push_back("x!3 = " + run.Shown(roots.third));
     } else {
-        lines.push_back("x!2!,!3 = " + PairText(task, roots.second, roots.third));
+        lines.push_back("x!2!,!3 = " + PairText(run, roots.second, roots.third));
     }
     return lines;
 }
 
 /// Where the derivative of the cubic vanishes.
-Lines ExtremeLines(const Task& task, double a, double b, double c) {
+Lines ExtremeLines(const RoutineRun& run, double a, double b, double c) {
     const numeric::QuadraticRoots extremes = numeric::QuadRoots(3 * a, 2 * b, c);
     if (!extremes.real)
         return {"No hay valores extremos finitos."};
-    return {"Valores extremos en x = " + task.Shown(extremes.first),
-            "y en x = " + task.Shown(extremes.second)};
+    return {"Valores extremos en x = " + run.Shown(extremes.first), "y en x = " + run.Shown(extremes.second)};
 }
 
-std::string RootLine(const Task& task, std::size_t index, double root, double value) {
+std::string RootLine(const RoutineRun& run, std::size_t index, double root, double value) {
     const std::string name = Subscripted("x", index);
-    return name + " = " + task.Shown(root) + ",   f(" + name + ") = " + task.Shown(value);
+    return name + " = " + run.Shown(root) + ",   f(" + name + ") = " + run.Shown(value);
 }
 
 }  // namespace
 
-Outcome Quadratic(Task& task) {
-    const Arguments& given = task.arguments;
-    return ReportQuadratic(task, {}, given.Number(0), given.Number(1), given.Number(2));
+Outcome Quadratic(RoutineRun& run) {
+    const Arguments& given = run.arguments;
+    return ReportQuadratic(run, {}, given.Number(0), given.Number(1), given.Number(2));
 }
 
-Outcome ShiftedQuadratic(Task& task) {
-    const Arguments& given = task.arguments;
+Outcome ShiftedQuadratic(RoutineRun& run) {
+    const Arguments& given = run.arguments;
     const double a = given.Number(0), b = given.Number(1), c = given.Number(2);
     const double d = given.Number(3), e = given.Number(4);
     const double second = numeric::Finite(a * b * b);
     const double first = numeric::Finite(2 * a * b * c + d);
     const double constant = numeric::Finite(a * c * c + e);
-    const std::string square = "(" + Sum(task.decimals).Add(b, "x").Add(c, kNoTerm).Text() + ")¡2";
+    const std::string square = "(" + Sum(run.decimals).Add(b, "x").Add(c, kNoTerm).Text() + ")¡2";
     const Lines equation = {
-        Sum(task.decimals).Add(a, square).Add(d, "x").Add(e, kNoTerm).Text() + " = 0",
+        Sum(run.decimals).Add(a, square).Add(d, "x").Add(e, kNoTerm).Text() + " = 0",
         "  o bien",
-        Sum(task.decimals).Add(second, "x¡2").Add(first, "x").Add(constant, kNoTerm).Text() + " = 0",
+        Sum(run.decimals).Add(second, "x¡2").Add(first, "x").Add(constant, kNoTerm).Text() + " = 0",
     };
-    return ReportQuadratic(task, equation, second, first, constant);
+    return ReportQuadratic(run, equation, second, first, constant);
 }
 
-Outcome Cubic(Task& task) {
-    const Arguments& given = task.arguments;
+Outcome Cubic(RoutineRun& run) {
+    const Arguments& given = run.arguments;
     const double a = given.Number(0), b = given.Number(1), c = given.Number(2), d = given.Number(3);
-    Lines lines = CubicRootLines(task, a, b, c, d);
-    std::ranges::copy(ExtremeLines(task, a, b, c), std::back_inserter(lines));
-    lines.push_back("Punto de inflexión en x = " + task.Shown(numeric::CheckedDivide(-b, 3 * a)));
-    task.Report(lines);
+    Lines lines = CubicRootLines(run, a, b, c, d);
+    std::ranges::copy(ExtremeLines(run, a, b, c), std::back_inserter(lines));
+    lines.push_back("Punto de inflexión en x = " + run.Shown(numeric::CheckedDivide(-b, 3 * a)));
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome Trigonometric(Task& task) {
-    const Arguments& given = task.arguments;
+Outcome Trigonometric(RoutineRun& run) {
+    const Arguments& given = run.arguments;
     const double a = given.Number(0), b = given.Number(1), c = given.Number(2);
-    Lines lines = {Sum(task.decimals).Add(a, "cos ;q").Add(b, "sen ;q").Add(c, kNoTerm).Text() + " = 0"};
+    Lines lines = {Sum(run.decimals).Add(a, "cos ;q").Add(b, "sen ;q").Add(c, kNoTerm).Text() + " = 0"};
     if (const auto angles = numeric::SolveCosSin(a, b, c))
-        lines.push_back(";q!1 = " + task.Shown(angles->first) + "°,   ;q!2 = " + task.Shown(angles->second) +
+        lines.push_back(";q!1 = " + run.Shown(angles->first) + "°,   ;q!2 = " + run.Shown(angles->second) +
                         "°");
     else
         lines.emplace_back("No hay solución.");
-    task.Report(lines);
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome RootSearch(Task& task) {
-    const double first = task.arguments.Number(0);
-    const double last = task.arguments.Number(1);
-    const auto outcome = numeric::FindRoots([&](double x) { return task.At(x); }, first, last);
+Outcome RootSearch(RoutineRun& run) {
+    const double first = run.arguments.Number(0);
+    const double last = run.arguments.Number(1);
+    const auto outcome = numeric::FindRoots([&](double x) { return run.At(x); }, first, last);
     if (const auto* refusal = std::get_if<numeric::RootsRefusal>(&outcome))
         return text::Refusal{std::string(TextOf(*refusal))};
     const auto& found = std::get<numeric::FoundRoots>(outcome);
     if (found.more)
-        task.form.boxes.Tell(
-            "Se mostrarán 50 raíces. Para ver más raíces modifica el intervalo de búsqueda.");
+        run.form.boxes.Tell("Se mostrarán 50 raíces. Para ver más raíces modifica el intervalo de búsqueda.");
     const std::size_t count = found.roots.size();
     Lines lines = {std::to_string(count) + (count == 1 ? " raíz " : " raíces ") + "de la ecuación",
-                   task.ShownFormula() + " = 0",
-                   "en el intervalo [" + task.Shown(first) + ", " + task.Shown(last) + "]:"};
+                   run.ShownFormula() + " = 0",
+                   "en el intervalo [" + run.Shown(first) + ", " + run.Shown(last) + "]:"};
     for (std::size_t k = 0; k < count; ++k)
-        lines.push_back(RootLine(task, k + 1, found.roots[k], found.values[k]));
-    task.Report(lines);
+        lines.push_back(RootLine(run, k + 1, found.roots[k], found.values[k]));
+    run.Report(lines);
     return std::nullopt;
 }
 

@@ -7,7 +7,7 @@
 #include "numeric/triangles.h"
 #include "text/number_text.h"
 #include "tools/calculator/figure_drawing.h"
-#include "tools/calculator/report.h"
+#include "tools/calculator/result_text.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -35,21 +35,21 @@ constexpr std::string_view kSample = "_ ";  // stands for the side where the dra
 /// The drawing joins vertex 2 to 3, 3 to 1, 1 to 2: side i lies opposite vertex i.
 constexpr std::array<std::size_t, kSides> kDrawingOrder = {1, 2, 0};
 
-std::string Labelled(const Task& task, const Point& point) { return PointText(task, point.x, point.y); }
+std::string Labelled(const RoutineRun& run, const Point& point) { return PointText(run, point.x, point.y); }
 
-Lines SideLines(const Task& task, const numeric::Triangle& triangle, std::string_view sample) {
+Lines SideLines(const RoutineRun& run, const numeric::Triangle& triangle, std::string_view sample) {
     Lines lines;
     for (std::size_t i = 0; i < kSides; ++i)
         lines.push_back("\\100" + std::string(1, kSideColors[i].style) + std::string(sample) +
-                        task.Bare(triangle.sides[i]) + ", " + task.Bare(triangle.angles[i]) + "°\\");
+                        run.Bare(triangle.sides[i]) + ", " + run.Bare(triangle.angles[i]) + "°\\");
     return lines;
 }
 
-void AddTriangle(const Task& task, const numeric::Triangle& triangle, Lines& lines) {
-    for (std::string& line : SideLines(task, triangle, {}))
+void AddTriangle(const RoutineRun& run, const numeric::Triangle& triangle, Lines& lines) {
+    for (std::string& line : SideLines(run, triangle, {}))
         lines.push_back(std::move(line));
-    lines.push_back("Perímetro = " + task.Bare(numeric::PerimeterOf(triangle)) +
-                    ",  Área = " + task.Bare(numeric::AreaOf(triangle)));
+    lines.push_back("Perímetro = " + run.Bare(numeric::PerimeterOf(triangle)) +
+                    ",  Área = " + run.Bare(numeric::AreaOf(triangle)));
 }
 
 Figure TriangleFigure(const std::array<Point, kSides>& vertices) {
@@ -70,69 +70,71 @@ std::vector<Point> VerticesOf(const Arguments& arguments) {
     return vertices;
 }
 
-std::string PolygonSideLine(const Task& task, const numeric::Polygon& polygon, std::size_t side) {
+std::string PolygonSideLine(const RoutineRun& run, const numeric::Polygon& polygon, std::size_t side) {
     const std::string from = std::to_string(side + 1);
     const std::string to = std::to_string((side + 1) % polygon.sides.size() + 1);
-    return "Lado " + from + "-" + to + ":  " + task.Bare(polygon.sides[side]) + ", Ángulo en vértice " +
-           from + ":  " + task.Bare(polygon.angles[side]) + "°";
+    return "Lado " + from + "-" + to + ":  " + run.Bare(polygon.sides[side]) + ", Ángulo en vértice " + from +
+           ":  " + run.Bare(polygon.angles[side]) + "°";
 }
 
 }  // namespace
 
-Outcome TriangleFromData(Task& task) {
+Outcome TriangleFromData(RoutineRun& run) {
     numeric::TriangleData data;
     for (std::size_t k = 0; k < data.size(); ++k)
-        if (const text::Value& given = task.arguments.At(static_cast<int>(k)); text::IsNum(given))
+        if (const text::Value& given = run.arguments.At(static_cast<int>(k)); text::IsNum(given))
             data[k] = given.Number();
     const auto outcome = numeric::SolveTriangle(data);
     if (const auto* refusal = std::get_if<numeric::TriangleRefusal>(&outcome))
         return RefusalOf(*refusal);
     const auto& solutions = std::get<numeric::TriangleSolutions>(outcome);
     Lines lines;
-    AddTriangle(task, solutions.first, lines);
+    AddTriangle(run, solutions.first, lines);
     if (solutions.second)
-        AddTriangle(task, *solutions.second, lines);
-    DrawFigure(task, TriangleFigure(numeric::PlaceTriangle(solutions.first)));
-    task.Report(lines);
+        AddTriangle(run, *solutions.second, lines);
+    DrawFigure(run, TriangleFigure(numeric::PlaceTriangle(solutions.first)));
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome TriangleFromVertices(Task& task) {
-    const std::vector<Point> given = VerticesOf(task.arguments);
-    const std::array<Point, kSides> vertices = {given.at(0), given.at(1), given.at(2)};
+Outcome TriangleFromVertices(RoutineRun& run) {
+    const std::vector<Point> given = VerticesOf(run.arguments);
+    if (given.size() < kSides)
+        throw numeric::RuntimeFailure(numeric::FailureCode::SubscriptRange, "vertices");
+    const std::array<Point, kSides> vertices = {given[0], given[1], given[2]};
     const auto outcome = numeric::SolveTriangle(vertices);
     if (const auto* refusal = std::get_if<numeric::TriangleRefusal>(&outcome))
         return RefusalOf(*refusal);
     const auto& [triangle, centroid] = std::get<numeric::VertexTriangle>(outcome);
-    Lines lines = SideLines(task, triangle, kSample);
-    lines.push_back("Centroide en " + Labelled(task, centroid));
-    lines.push_back("Perímetro = " + task.Bare(numeric::PerimeterOf(triangle)) +
-                    ", Área = " + task.Bare(numeric::AreaOf(triangle)));
+    Lines lines = SideLines(run, triangle, kSample);
+    lines.push_back("Centroide en " + Labelled(run, centroid));
+    lines.push_back("Perímetro = " + run.Bare(numeric::PerimeterOf(triangle)) +
+                    ", Área = " + run.Bare(numeric::AreaOf(triangle)));
     Figure figure = TriangleFigure(vertices);
     for (std::size_t i = 0; i < kSides; ++i) {
-        figure.vertex_labels.push_back(Labelled(task, figure.vertices[i]));
+        figure.vertex_labels.push_back(Labelled(run, figure.vertices[i]));
         figure.side_labels.push_back(std::to_string(i + 1));
     }
-    DrawFigure(task, figure);
-    task.Report(lines);
+    DrawFigure(run, figure);
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome Polygon(Task& task) {
-    const std::vector<Point> vertices = VerticesOf(task.arguments);
+Outcome Polygon(RoutineRun& run) {
+    const std::vector<Point> vertices = VerticesOf(run.arguments);
     const numeric::Polygon polygon = numeric::SolvePolygon(vertices);
     Lines lines = {
-        "Perímetro = " + task.Bare(polygon.perimeter) + ". Área = " + task.Bare(polygon.area),
-        "Ángulo total = " + task.Bare(polygon.angle_total) + ". Centroide:   G(" +
-            task.Bare(polygon.centroid.x) + ",  " + task.Bare(polygon.centroid.y) + ")",
+        "Perímetro = " + run.Bare(polygon.perimeter) + ". Área = " + run.Bare(polygon.area),
+        "Ángulo total = " + run.Bare(polygon.angle_total) + ". Centroide:   G(" +
+            run.Bare(polygon.centroid.x) + ",  " + run.Bare(polygon.centroid.y) + ")",
     };
     Figure figure{vertices, {std::begin(kPolygonColors), std::end(kPolygonColors)}};
     for (std::size_t i = 0; i < vertices.size(); ++i) {
-        lines.push_back(PolygonSideLine(task, polygon, i));
-        figure.vertex_labels.push_back(Labelled(task, vertices[i]));
+        lines.push_back(PolygonSideLine(run, polygon, i));
+        figure.vertex_labels.push_back(Labelled(run, vertices[i]));
     }
-    DrawFigure(task, figure);
-    task.Report(lines);
+    DrawFigure(run, figure);
+    run.Report(lines);
     return std::nullopt;
 }
 

@@ -2,7 +2,7 @@
 
 #include "text/utf8.h"
 #include "tools/calculator/arrow_drawing.h"
-#include "tools/calculator/report.h"
+#include "tools/calculator/result_text.h"
 #include "tools/calculator/vector_arguments.h"
 
 namespace tavrelo::tools::calculator {
@@ -24,30 +24,32 @@ std::vector<DrawnVector> DrawnList(const Vectors& vectors, const std::string& na
     return drawn;
 }
 
-void DrawWithSum(Task& task, const Vectors& given, const std::string& name, const PlaneVector& sum) {
+void DrawWithSum(RoutineRun& run, const Vectors& given, const std::string& name, const PlaneVector& sum) {
     std::vector<DrawnVector> drawn = DrawnList(given, name);
     drawn.push_back(Drawn(sum, "S", kResultColor));
-    DrawFromCenter(task, drawn);
+    DrawFromCenter(run, drawn);
 }
 
-std::string SumLine(const Task& task, const PlaneVector& sum) { return "/3Suma/:  " + VectorText(task, sum); }
+std::string SumLine(const RoutineRun& run, const PlaneVector& sum) {
+    return "/3Suma/:  " + VectorText(run, sum);
+}
 
 /// The true minus, for texts inside a style mark, where its markup is not scanned.
 std::string WithTrueMinus(const std::string& text) { return text::ReplaceAll(text, "-", "\u2212"); }
 
 /// Report and picture of a list of vectors and their weighted sum.
-void ShowFactorsSum(Task& task, const std::vector<mechanics::forces::WeightedVector>& weighted) {
+void ShowFactorsSum(RoutineRun& run, const std::vector<mechanics::forces::WeightedVector>& weighted) {
     Lines lines = {"Factores y vectores dados:"};
     Vectors products;
     for (const auto& [factor, vector] : weighted) {
-        lines.push_back(task.Bare(factor) + ",    " + VectorText(task, vector));
+        lines.push_back(run.Bare(factor) + ",    " + VectorText(run, vector));
         products.push_back(mechanics::forces::VectorFromComponents(
             numeric::CheckedMultiply(factor, vector.x), numeric::CheckedMultiply(factor, vector.y)));
     }
     const PlaneVector sum = mechanics::forces::VectorListSum(weighted);
-    lines.push_back(SumLine(task, sum));
-    DrawWithSum(task, products, "F", sum);
-    task.Report(lines);
+    lines.push_back(SumLine(run, sum));
+    DrawWithSum(run, products, "F", sum);
+    run.Report(lines);
 }
 
 bool TurnsVector(const Arguments& arguments) {
@@ -58,64 +60,64 @@ bool TurnsVector(const Arguments& arguments) {
     return text::EqualIgnoringCase(text::Trim(kind), "v");
 }
 
-std::string TitledVector(const Task& task, const std::string& title, const PlaneVector& vector) {
-    return title + "  " + PointText(task, vector) + "  ó  " + PolarText(task, vector);
+std::string TitledVector(const RoutineRun& run, const std::string& title, const PlaneVector& vector) {
+    return title + "  " + PointText(run, vector) + "  ó  " + PolarText(run, vector);
 }
 
 }  // namespace
 
-Outcome SumAndProducts(Task& task) {
-    const ReadVectors read = VectorsAt(task.arguments, {0, 1});
+Outcome SumAndProducts(RoutineRun& run) {
+    const ReadVectors read = VectorsAt(run.arguments, {0, 1});
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     const auto& given = std::get<Vectors>(read);
     const mechanics::forces::SumAndProducts result = mechanics::forces::VectorSum2(given[0], given[1]);
-    DrawWithSum(task, given, "V", result.sum);
-    task.Report({
+    DrawWithSum(run, given, "V", result.sum);
+    run.Report({
         "Vectores dados:",
-        VectorText(task, given[0]),
-        VectorText(task, given[1]),
-        SumLine(task, result.sum),
-        "/8Resta/:  " + VectorText(task, result.difference),
-        "Ángulo entre los vectores:  " + task.Bare(result.angle) + "°",
-        "Producto Escalar:  " + task.Bare(result.dot),
-        "Producto Vectorial: " + task.Bare(result.cross) + " $k",
+        VectorText(run, given[0]),
+        VectorText(run, given[1]),
+        SumLine(run, result.sum),
+        "/8Resta/:  " + VectorText(run, result.difference),
+        "Ángulo entre los vectores:  " + run.Bare(result.angle) + "°",
+        "Producto Escalar:  " + run.Bare(result.dot),
+        "Producto Vectorial: " + run.Bare(result.cross) + " $k",
     });
     return std::nullopt;
 }
 
-Outcome VectorListSum(Task& task) {
-    const ReadVectors read = VectorsFrom(task.arguments, 0, 1, task.arguments.Count());
+Outcome VectorListSum(RoutineRun& run) {
+    const ReadVectors read = VectorsFrom(run.arguments, 0, 1, run.arguments.Count());
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     const auto& given = std::get<Vectors>(read);
     const PlaneVector sum = mechanics::forces::VectorListSum(std::span<const PlaneVector>(given));
     Lines lines = {"Vectores dados:"};
     for (const PlaneVector& vector : given)
-        lines.push_back(VectorText(task, vector));
-    lines.push_back(SumLine(task, sum));
-    DrawWithSum(task, given, "F", sum);
-    task.Report(lines);
+        lines.push_back(VectorText(run, vector));
+    lines.push_back(SumLine(run, sum));
+    DrawWithSum(run, given, "F", sum);
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome FactorsSum(Task& task) {
+Outcome FactorsSum(RoutineRun& run) {
     // The end past the last argument makes a factor without its vector fail.
-    const ReadVectors read = VectorsFrom(task.arguments, 1, 2, task.arguments.Count() + 1);
+    const ReadVectors read = VectorsFrom(run.arguments, 1, 2, run.arguments.Count() + 1);
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     std::vector<mechanics::forces::WeightedVector> weighted;
     int position = 0;
     for (const PlaneVector& vector : std::get<Vectors>(read)) {
-        weighted.push_back({task.arguments.Number(position), vector});
+        weighted.push_back({run.arguments.Number(position), vector});
         position += 2;
     }
-    ShowFactorsSum(task, weighted);
+    ShowFactorsSum(run, weighted);
     return std::nullopt;
 }
 
-Outcome VectorListMoments(Task& task) {
-    const ReadVectors read = VectorsFrom(task.arguments, 0, 1, task.arguments.Count());
+Outcome VectorListMoments(RoutineRun& run) {
+    const ReadVectors read = VectorsFrom(run.arguments, 0, 1, run.arguments.Count());
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     const auto& given = std::get<Vectors>(read);
@@ -127,8 +129,8 @@ Outcome VectorListMoments(Task& task) {
     for (std::size_t k = 0; k + 1 < given.size(); k += 2) {
         const std::size_t number = k / 2 + 1;
         forces.push_back({given[k], given[k + 1]});
-        lines.push_back(VectorText(task, given[k]));
-        lines.push_back(VectorText(task, given[k + 1]));
+        lines.push_back(VectorText(run, given[k]));
+        lines.push_back(VectorText(run, given[k + 1]));
         drawn.push_back({given[k + 1].x,
                          given[k + 1].y,
                          Subscripted("F", number),
@@ -137,41 +139,40 @@ Outcome VectorListMoments(Task& task) {
     }
     if (given.size() % 2 == 0) {
         lines.push_back("/3Suma de momentos con respecto al origen:/  " +
-                        task.Bare(mechanics::forces::VectorListMoments(forces)));
+                        run.Bare(mechanics::forces::VectorListMoments(forces)));
     } else {
         const PlaneVector& about = given.back();
-        lines.push_back("/3Suma de momentos con respecto al punto " + WithTrueMinus(PointText(task, about)) +
-                        ":/  " + task.Bare(mechanics::forces::VectorListMoments(forces, {about.x, about.y})));
+        lines.push_back("/3Suma de momentos con respecto al punto " + WithTrueMinus(PointText(run, about)) +
+                        ":/  " + run.Bare(mechanics::forces::VectorListMoments(forces, {about.x, about.y})));
     }
-    DrawAtPoints(task, drawn);
-    task.Report(lines);
+    DrawAtPoints(run, drawn);
+    run.Report(lines);
     return std::nullopt;
 }
 
-Outcome RotateVector(Task& task) {
-    const ReadVectors read = VectorsAt(task.arguments, {0});
+Outcome RotateVector(RoutineRun& run) {
+    const ReadVectors read = VectorsAt(run.arguments, {0});
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     const PlaneVector& given = std::get<Vectors>(read).front();
-    const double degrees = task.arguments.Number(1);
-    if (TurnsVector(task.arguments)) {
+    const double degrees = run.arguments.Number(1);
+    if (TurnsVector(run.arguments)) {
         const PlaneVector turned =
             mechanics::forces::RotateVector(given, degrees, mechanics::forces::RotationKind::Vector);
-        DrawFromCenter(task, {Drawn(given, "V"), Drawn(turned, "R", kResultColor)});
-        task.Report(
-            {TitledVector(task, "Vector a rotar:", given), TitledVector(task, "Vector rotado:", turned)});
+        DrawFromCenter(run, {Drawn(given, "V"), Drawn(turned, "R", kResultColor)});
+        run.Report(
+            {TitledVector(run, "Vector a rotar:", given), TitledVector(run, "Vector rotado:", turned)});
     } else {
         const PlaneVector seen =
             mechanics::forces::RotateVector(given, degrees, mechanics::forces::RotationKind::Axes);
-        DrawFromCenter(task, {Drawn(given, "V")}, {.degrees = degrees, .turned = true});
-        task.Report(
-            {TitledVector(task, "Vector en XY:", given), TitledVector(task, "Vector en X'Y':", seen)});
+        DrawFromCenter(run, {Drawn(given, "V")}, {.degrees = degrees, .turned = true});
+        run.Report({TitledVector(run, "Vector en XY:", given), TitledVector(run, "Vector en X'Y':", seen)});
     }
     return std::nullopt;
 }
 
-Outcome BaseDecompose(Task& task) {
-    const ReadVectors read = VectorsAt(task.arguments, {0, 1, 2});
+Outcome BaseDecompose(RoutineRun& run) {
+    const ReadVectors read = VectorsAt(run.arguments, {0, 1, 2});
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     const auto& given = std::get<Vectors>(read);
@@ -181,30 +182,30 @@ Outcome BaseDecompose(Task& task) {
     const auto factors = mechanics::forces::BaseDecompose(v, a, b);
     if (!factors)
         return text::Refusal{std::string(mechanics::forces::kNoBase)};
-    DrawFromCenter(task, {Drawn(v, "V", kResultColor), Drawn(a, "a"), Drawn(b, "b")});
-    task.Report({
-        "$V = ;l $a + ;m $b = " + VectorText(task, v),
-        "$a = " + PointText(task, a) + ",  $b = " + PointText(task, b),
-        ";l = " + task.Bare(factors->lambda) + ", ;m = " + task.Bare(factors->mu),
+    DrawFromCenter(run, {Drawn(v, "V", kResultColor), Drawn(a, "a"), Drawn(b, "b")});
+    run.Report({
+        "$V = ;l $a + ;m $b = " + VectorText(run, v),
+        "$a = " + PointText(run, a) + ",  $b = " + PointText(run, b),
+        ";l = " + run.Bare(factors->lambda) + ", ;m = " + run.Bare(factors->mu),
     });
     return std::nullopt;
 }
 
-Outcome VectorFromProjections(Task& task) {
+Outcome VectorFromProjections(RoutineRun& run) {
     constexpr int kSecondVector = 2;
-    const ReadVectors read = VectorsAt(task.arguments, {0, kSecondVector});
+    const ReadVectors read = VectorsAt(run.arguments, {0, kSecondVector});
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
     const auto& given = std::get<Vectors>(read);
-    const auto found = mechanics::forces::VectorFromProjections(given[0], task.arguments.Number(1), given[1],
-                                                                task.arguments.Number(kSecondVector + 1));
+    const auto found = mechanics::forces::VectorFromProjections(given[0], run.arguments.Number(1), given[1],
+                                                                run.arguments.Number(kSecondVector + 1));
     if (!found)
         return text::Refusal{std::string(mechanics::forces::kDependentVectors)};
-    DrawFromCenter(task, {Drawn(*found, "V", kResultColor), Drawn(given[0], "a"), Drawn(given[1], "b")});
-    task.Report({
+    DrawFromCenter(run, {Drawn(*found, "V", kResultColor), Drawn(given[0], "a"), Drawn(given[1], "b")});
+    run.Report({
         "El vector buscado es:",
-        "$V = " + PointText(task, *found),
-        "$V = " + PolarText(task, *found),
+        "$V = " + PointText(run, *found),
+        "$V = " + PolarText(run, *found),
     });
     return std::nullopt;
 }

@@ -20,12 +20,6 @@ std::string Topic(const std::string& file, std::string_view tag) {
     return ReadTopic(OneFile(file), "\\Ayuda.txt", tag);
 }
 
-TEST(CodePage, GoesBothWays) {
-    EXPECT_EQ(FromCodePage("\xD1\xE1\xA1\x80\x96"), "Ñá¡€–");
-    EXPECT_EQ(ToCodePage("Ñá¡€–"), "\xD1\xE1\xA1\x80\x96");
-    EXPECT_EQ(ToCodePage("θ"), "?");
-}
-
 TEST(Topics, StandBetweenTheirTagAndTheStop) {
     const std::string file =
         "fuera\r\n[UNO]\r\nprimera\r\nsegunda\r\n[STOP]\r\n[DOS]\nsola\n[STOP]\n[NADA]\n[STOP]\n";

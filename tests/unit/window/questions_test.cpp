@@ -63,7 +63,9 @@ TEST_F(QuestionsTest, AnyOtherTextIsRefused) {
     }
 }
 
-TEST_F(QuestionsTest, ANumberPastTheRangeFails) { EXPECT_THROW(Number(std::string(400, '9')), numeric::RuntimeFailure); }
+TEST_F(QuestionsTest, ANumberPastTheRangeFails) {
+    EXPECT_THROW(Number(std::string(400, '9')), numeric::RuntimeFailure);
+}
 
 }  // namespace
 }  // namespace tavrelo::window

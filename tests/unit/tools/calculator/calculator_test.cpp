@@ -1,10 +1,9 @@
-#include "tools/calculator/calculator.h"
-
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 #include "../../window/test_host.h"
+#include "tools/calculator/calculator_tool.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -15,21 +14,21 @@ constexpr int kPlaneForcesRoutine = 36;
 
 class CalculatorTest : public testing::Test {
   protected:
-    CalculatorTest() { grid.ArrangeGd(); }
-
     void Run(int routine, const std::vector<std::string>& cells) {
         for (std::size_t k = 0; k < cells.size(); ++k)
-            form.gd.SetCell(1, static_cast<int>(k) + 1, cells[k]);
-        form.gd.Select({1, 1, 1, static_cast<int>(cells.size())});
+            gd.SetCell(1, static_cast<int>(k) + 1, cells[k]);
+        gd.Select({1, 1, 1, static_cast<int>(cells.size())});
         form.publics.ProcNumber = routine;
-        calculator.Calculate();
+        form.Get<window::Button>("cmdCalculate").UserClick();
     }
 
     window::TestHost world;
     window::Form1 form{world.host};
     frame::SharedExpression expression{form.publics.AngleFactor};
-    ArgumentGrid grid{form};
-    Calculator calculator{form, expression, grid};
+    frame::DirectionClock clock{form};
+    CalculatorTool calculator{form, expression, clock};
+    window::Grid& gd = form.Get<window::Grid>("gd");
+    window::Picture& pic = form.Get<window::Picture>("pic");
 };
 
 /// No icon leads to this routine, so no transcript does.
@@ -73,17 +72,17 @@ TEST_F(CalculatorTest, ForcesOfEverySystemLieInsideThePicture) {
     };
     for (const auto& system : systems) {
         Run(kPlaneForcesRoutine, system);
-        const auto ends = ArrowEnds(form.pic.Canvas());
+        const auto ends = ArrowEnds(pic.Canvas());
         // The forces and their resultant.
         EXPECT_EQ(ends.size(), system.size() + 2) << system.front();
         for (const window::Point& end : ends) {
             EXPECT_GE(end.x, 0) << system.front();
             EXPECT_GE(end.y, 0) << system.front();
-            EXPECT_LE(end.x, form.pic.Canvas().Width()) << system.front();
-            EXPECT_LE(end.y, form.pic.Canvas().Height()) << system.front();
+            EXPECT_LE(end.x, pic.Canvas().Width()) << system.front();
+            EXPECT_LE(end.y, pic.Canvas().Height()) << system.front();
         }
         for (int col = 1; col <= kGridCols; ++col)
-            form.gd.SetCell(1, col, "");
+            gd.SetCell(1, col, "");
     }
 }
 

@@ -8,7 +8,7 @@
 
 #include "drawing/draw_engine.h"
 #include "tools/calculator/arguments.h"
-#include "window/form1.h"
+#include "tools/calculator/calculator_controls.h"
 
 namespace tavrelo::tools::calculator {
 
@@ -20,15 +20,16 @@ using Outcome = std::optional<text::Refusal>;
 using ParticleSolver = std::function<void(std::span<const std::string>)>;
 
 /// One press of "Calcular": the arguments, the formula and where the routine writes and draws.
-struct Task {
+struct RoutineRun {
     window::Form1& form;
+    const CalculatorControls& controls;
     frame::SharedExpression& expression;
     drawing::DrawEng& engine;
     const ParticleSolver& solve_particle;
-    const Arguments& arguments;
-    std::string typed_formula;  // as the user wrote it, without the blanks around
-    std::string formula;        // the same with all brackets as parentheses
     int decimals;
+    Arguments arguments = {};
+    std::string typed_formula = {};  // as the user wrote it, without the blanks around
+    std::string formula = {};        // the same with all brackets as parentheses
 
     /// Gives the shared expression another formula; one that the parser refuses is told as `typed`.
     Outcome Parse(const std::string& text, const std::string& typed);
@@ -36,6 +37,7 @@ struct Task {
     double Evaluate(std::span<const double> at) { return expression.Get().EvaluateNumber(at); }
     double At(double x) { return Evaluate(std::span(&x, 1)); }
 
+    window::Recorder& Picture() const { return controls.pic.Canvas(); }
     /// The box of an integration that was given up.
     void TellTooManySteps();
     /// Replaces the report.

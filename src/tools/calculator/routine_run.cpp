@@ -1,4 +1,4 @@
-#include "tools/calculator/task.h"
+#include "tools/calculator/routine_run.h"
 
 #include "frame/writer.h"
 #include "numeric/ode.h"
@@ -7,7 +7,7 @@
 
 namespace tavrelo::tools::calculator {
 
-Outcome Task::Parse(const std::string& text, const std::string& typed) {
+Outcome RoutineRun::Parse(const std::string& text, const std::string& typed) {
     try {
         expression.Get().SetExpression(text);
     } catch (const numeric::RuntimeFailure&) {
@@ -21,16 +21,18 @@ Outcome Task::Parse(const std::string& text, const std::string& typed) {
     return refusal;
 }
 
-void Task::TellTooManySteps() {
+void RoutineRun::TellTooManySteps() {
     form.boxes.ShowMessage(numeric::kTooManySteps, numeric::kTooManyStepsTitle, window::Buttons::Ok);
 }
 
-void Task::Report(const std::vector<std::string>& lines) { frame::WriteLines(form, form.rtbCalc, lines); }
+void RoutineRun::Report(const std::vector<std::string>& lines) {
+    frame::WriteLines(form, controls.rtbCalc, lines);
+}
 
-std::string Task::ShownFormula() const { return text::EscapeMarks(typed_formula); }
+std::string RoutineRun::ShownFormula() const { return text::EscapeMarks(typed_formula); }
 
-std::string Task::Shown(double number) const { return text::NumText(number, decimals).Text(); }
+std::string RoutineRun::Shown(double number) const { return text::NumText(number, decimals).Text(); }
 
-std::string Task::Bare(double number) const { return text::RoundedText(number, decimals); }
+std::string RoutineRun::Bare(double number) const { return text::RoundedText(number, decimals); }
 
 }  // namespace tavrelo::tools::calculator
