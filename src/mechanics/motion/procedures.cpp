@@ -1,5 +1,6 @@
 #include "mechanics/motion/procedures.h"
 
+#include "mechanics/motion/link_stretches.h"
 #include "mechanics/motion/parameters.h"
 #include "mechanics/motion/planting.h"
 #include "mechanics/motion/substitution.h"
@@ -36,6 +37,8 @@ struct Carrier {
         outcome.problem.awaited_base = request.awaited;
         return outcome;
     }
+    Step operator()(const TakeLinkRequest& request) const { return TakeLink(problem, request, decimals); }
+    Step operator()(const PlantLinkRequest& request) const { return PlantLink(problem, request, decimals); }
 };
 
 }  // namespace

@@ -59,8 +59,25 @@ struct PlantRequest {
 struct AwaitBaseRequest {
     AwaitedBase awaited;
 };
+/// Two consecutive stretches of mover 1, `stretch` and the next, solved as one motion (linking.h).
+struct Linked {
+    int stretch = 1;
+    FoundPoint start;
+    FoundPoint junction;
+    FoundPoint end;
+    double first_acceleration = 0;
+    double second_acceleration = 0;
+};
+/// Passes a solution of a link to the table and the boxes of accelerations.
+struct TakeLinkRequest {
+    Linked linked;
+};
+/// Plants both stretches of a link.
+struct PlantLinkRequest {
+    Linked linked;
+};
 /// What an answer leads to: given to Continue (procedures.h). Whoever adds a question adds its requests here.
-using Request = std::variant<PlantRequest, AwaitBaseRequest>;
+using Request = std::variant<PlantRequest, AwaitBaseRequest, TakeLinkRequest, PlantLinkRequest>;
 
 enum class Buttons { YesNo, OkCancel };
 /// A question; the request of the answer given, if it names one, is carried out next. Yes and OK are one, so
