@@ -1,5 +1,7 @@
 #include "notation/typed_list.h"
 
+#include <string>
+
 #include "text/number_text.h"
 
 namespace tavrelo::notation {
@@ -24,13 +26,15 @@ std::vector<std::string_view> PiecesOf(std::string_view text) {
     }
 }
 
-std::optional<std::vector<double>> NumbersOf(std::string_view text) {
+std::variant<text::Refusal, std::vector<double>> ReadNumbers(std::string_view list, std::size_t count) {
     std::vector<double> numbers;
-    for (const std::string_view piece : PiecesOf(text)) {
+    for (const std::string_view piece : PiecesOf(list)) {
         if (!text::IsNum(piece))
-            return std::nullopt;
+            return text::Refusal{std::string(kNonNumericCoefficient)};
         numbers.push_back(text::ToNumber(piece));
     }
+    if (numbers.size() != count)
+        return text::Refusal{std::string(kWrongCoefficientCount)};
     return numbers;
 }
 

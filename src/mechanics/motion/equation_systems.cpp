@@ -10,6 +10,7 @@
 #include "numeric/polynomials.h"
 #include "numeric/real_roots.h"
 #include "text/number_text.h"
+#include "text/signed_sum.h"
 
 namespace tavrelo::mechanics::motion {
 
@@ -145,24 +146,10 @@ Solutions SolveTwoSquares(const System& system) {
 
 // Reports.
 
-/// A sum of terms without the sign and the blank of its first one.
-std::string WithoutFirstSign(const std::string& sum) {
-    constexpr std::string_view kPlus = " + ";
-    if (sum.empty())
-        return "0";
-    return sum.substr(sum.compare(0, kPlus.size(), kPlus) == 0 ? kPlus.size() : 1);
-}
-
-struct NamedTerm {
-    double coefficient;
-    const char* name;
-};
-
-std::string SumText(std::initializer_list<NamedTerm> terms, int decimals) {
-    std::string sum;
-    for (const NamedTerm& term : terms)
-        sum += text::TermText(true, false, text::RoundTo(term.coefficient, decimals), term.name);
-    return WithoutFirstSign(sum);
+/// A sum that begins its line: without the blank before a negative first term.
+std::string SumText(std::initializer_list<text::SumTerm> terms, int decimals) {
+    const std::vector<text::SumTerm> list(terms);
+    return std::string(notation::WithoutBlanks(text::SignedSum(list, decimals)));
 }
 
 std::string EquationLine(const UnknownTerms& line, int decimals) {
@@ -174,16 +161,6 @@ std::string EquationLine(const UnknownTerms& line, int decimals) {
 std::string SolutionText(const SystemSolution& solution, int decimals) {
     return std::string("v!0 = ") + (solution.both_signs ? "#mame " : "") +
            text::RoundedText(solution.v0, decimals) + ", a = " + text::RoundedText(solution.a, decimals);
-}
-
-/// Reads a list of exactly `count` coefficients.
-std::variant<Refusal, std::vector<double>> ReadCoefficients(std::string_view typed, std::size_t count) {
-    const auto numbers = notation::NumbersOf(typed);
-    if (!numbers)
-        return Refusal{std::string(kNonNumericCoefficient)};
-    if (numbers->size() != count)
-        return Refusal{std::string(kWrongCoefficientCount)};
-    return *numbers;
 }
 
 /// Equal roots whose discriminant rounding has moved off 0 are shown as equal.
@@ -225,7 +202,7 @@ std::variant<Refusal, Solutions> SolveSystem(SystemShape shape, const std::vecto
 }
 
 std::variant<Refusal, Lines> ReportSystem(SystemShape shape, std::string_view typed, int decimals) {
-    const auto coefficients = ReadCoefficients(typed, CoefficientCount(shape));
+    const auto coefficients = notation::ReadNumbers(typed, CoefficientCount(shape));
     if (const auto* refusal = std::get_if<Refusal>(&coefficients))
         return *refusal;
     const auto& numbers = std::get<std::vector<double>>(coefficients);
@@ -245,14 +222,14 @@ std::variant<Refusal, Lines> ReportSystem(SystemShape shape, std::string_view ty
 
 std::variant<Refusal, Lines> ReportQuadratic(std::string_view typed, int decimals) {
     constexpr std::size_t kCoefficients = 3;
-    const auto coefficients = ReadCoefficients(typed, kCoefficients);
+    const auto coefficients = notation::ReadNumbers(typed, kCoefficients);
     if (const auto* refusal = std::get_if<Refusal>(&coefficients))
         return *refusal;
     const auto& numbers = std::get<std::vector<double>>(coefficients);
     const double a = numbers[0], b = numbers[1], c = numbers[2];
     const numeric::QuadraticRoots roots = RootsOf(a, b, c);
     return Lines{"Resolver la ecuación cuadrática:",
-                 SumText({{a, "x¡2"}, {b, "x"}, {c, "1"}}, decimals) + " = 0", RootsLine(roots, decimals)};
+                 SumText({{a, "x¡2"}, {b, "x"}, {c, 1}}, decimals) + " = 0", RootsLine(roots, decimals)};
 }
 
 }  // namespace tavrelo::mechanics::motion

@@ -29,8 +29,6 @@ struct SystemSolution {
     friend bool operator==(const SystemSolution&, const SystemSolution&) = default;
 };
 
-inline constexpr std::string_view kNonNumericCoefficient = "Hay algún coeficiente no numérico.";
-inline constexpr std::string_view kWrongCoefficientCount = "Número de coeficientes incorrecto.";
 inline constexpr std::string_view kZeroSystem = "El coeficiente del sistema es cero.";
 inline constexpr std::string_view kNoSystemSolution = "No hay solución.";
 

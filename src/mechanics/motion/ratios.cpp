@@ -276,10 +276,11 @@ std::variant<Refusal, Matches> MatchRatios(const Motion& first, BaseMotion secon
 
 Step ApplyRatios(const Problem& problem, std::string_view typed, int decimals) {
     constexpr std::size_t kRatios = 2;
-    const auto ratios = notation::NumbersOf(typed);
-    if (!ratios || ratios->size() != kRatios)
+    const auto typed_ratios = notation::ReadNumbers(typed, kRatios);
+    const auto* ratios = std::get_if<std::vector<double>>(&typed_ratios);
+    if (!ratios)
         return Refusal{std::string(kBadRatios)};
-    const double p = (*ratios)[0], q = (*ratios)[1];
+    const double p = ratios->front(), q = ratios->back();
     if (p == 0 || q == 0)
         return Refusal{std::string(kDegenerateRatio)};
     if (problem.configuration.MoverCount() != kSecondMover)

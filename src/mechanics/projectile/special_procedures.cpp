@@ -6,7 +6,6 @@
 #include <string>
 #include <utility>
 
-#include "mechanics/points/typed_numbers.h"
 #include "mechanics/projectile/collision.h"
 #include "mechanics/projectile/crossing.h"
 #include "mechanics/projectile/fitting.h"
@@ -14,6 +13,7 @@
 #include "mechanics/projectile/procedures.h"
 #include "mechanics/projectile/quartic_search.h"
 #include "mechanics/projectile/tan_systems.h"
+#include "notation/typed_list.h"
 #include "numeric/checked.h"
 #include "text/number_text.h"
 #include "text/utf8.h"
@@ -21,7 +21,7 @@
 namespace tavrelo::mechanics::projectile {
 namespace {
 
-using points::ReadNumbers;
+using notation::ReadNumbers;
 
 constexpr const char* kNoStart = "Debes dar el tiempo t0 y la posición inicial (x0, y0)";
 constexpr const char* kMustBeUnknown = "v0 o theta o ambas deben ser incógnitas en este procedimiento.";
@@ -135,12 +135,12 @@ std::map<std::string, double> ReadNamed(std::string_view typed,
     std::map<std::string, double> named;
     if (text::Trim(typed).empty())
         return named;
-    for (const std::string& piece : points::PiecesOf(typed)) {
+    for (const std::string_view piece : notation::PiecesOf(typed)) {
         const std::size_t equals = piece.find('=');
-        if (equals == std::string::npos)
+        if (equals == std::string_view::npos)
             ThrowMistyped("datum without value");
-        const std::string name = text::Trim(std::string_view(piece).substr(0, equals));
-        const std::string number = text::Trim(std::string_view(piece).substr(equals + 1));
+        const std::string name = text::Trim(piece.substr(0, equals));
+        const std::string number = text::Trim(piece.substr(equals + 1));
         if (std::find(names.begin(), names.end(), name) == names.end() || !text::IsNum(number) ||
             !named.emplace(name, text::ToNumber(number)).second)
             ThrowMistyped("datum by name");

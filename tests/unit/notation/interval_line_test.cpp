@@ -23,12 +23,20 @@ TEST(TypedList, PiecesLoseTheBlanksAroundThem) {
     EXPECT_EQ(PiecesOf("1,,"), (Pieces{"1", "", ""}));
 }
 
-TEST(TypedList, NumbersOfAList) {
-    EXPECT_EQ(NumbersOf("1, -2.5 , +3, 1.5E+3"), (std::vector<double>{1, -2.5, 3, 1500}));
-    EXPECT_EQ(NumbersOf(""), std::vector<double>{});
-    EXPECT_EQ(NumbersOf("1, x"), std::nullopt);
-    EXPECT_EQ(NumbersOf("1,,2"), std::nullopt);
-    EXPECT_EQ(NumbersOf("1; 2"), std::nullopt);
+TEST(TypedList, NumbersOfAListAndWhatItLacks) {
+    const auto read = ReadNumbers("1, -2.5 , +3, 1.5E+3", 4);
+    EXPECT_EQ(std::get<std::vector<double>>(read), (std::vector<double>{1, -2.5, 3, 1500}));
+    struct Row {
+        const char* list;
+        std::string_view refusal;
+    };
+    for (const Row& row : {Row{"1, x", kNonNumericCoefficient},
+                           {"1,,2", kNonNumericCoefficient},
+                           {"1; 2", kNonNumericCoefficient},
+                           {"", kWrongCoefficientCount},
+                           {"1", kWrongCoefficientCount},
+                           {"1, 2, 3", kWrongCoefficientCount}})
+        EXPECT_EQ(std::get<text::Refusal>(ReadNumbers(row.list, 2)).text, row.refusal) << row.list;
 }
 
 TEST(IntervalLine, TheBeginningOfANamePicksTheDatum) {

@@ -10,10 +10,13 @@
 #include <vector>
 
 #include "../../failure_code.h"
+#include "notation/typed_list.h"
 
 namespace tavrelo::mechanics::motion {
 namespace {
 
+using notation::kNonNumericCoefficient;
+using notation::kWrongCoefficientCount;
 using numeric::FailureCode;
 using testing::FailureOf;
 using Lines = std::vector<std::string>;
