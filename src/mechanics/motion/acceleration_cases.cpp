@@ -1,9 +1,12 @@
 #include "mechanics/motion/acceleration_cases.h"
 
-#include "mechanics/motion/roots.h"
+#include "mechanics/motion/holding.h"
+#include "numeric/real_roots.h"
 
 namespace tavrelo::mechanics::motion::acceleration {
 namespace {
+
+using numeric::CleanDifference;
 
 constexpr const char* kBaseTime = "Estás sustituyendo el tiempo del punto base.";
 constexpr const char* kBasePosition = "Estás sustituyendo la posición del punto base.";
@@ -30,8 +33,17 @@ Finding Divided(const ParameterCase& each, const std::vector<double>& terms, dou
     for (const double term : terms)
         sum += term;
     if (divisor == 0.0)
-        return Cancels(terms) ? Arbitrary(each, relation) : Refused(none);
+        return TermsCancel(terms) ? Arbitrary(each, relation) : Refused(none);
     return Candidates{sum / divisor};
+}
+
+/// What both rows with known speeds refuse.
+std::optional<text::Refusal> CheckSpeeds(const ParameterCase& each) {
+    if (each.Relation() == 1.0)
+        return text::Refusal{kFactorOneInProcedure};
+    if (each.FromStart() == 0.0)
+        return text::Refusal{kUniform};
+    return std::nullopt;
 }
 
 }  // namespace
@@ -53,7 +65,7 @@ Finding OfPositionSpeed(const ParameterCase& each) {
     if (each.Q() == 0.0)
         return Refused(kBasePosition);
     const double v = each.Relation();
-    return Candidates{Difference(v * v, each.equations.v * each.equations.v) / (2.0 * each.Q())};
+    return Candidates{CleanDifference(v * v, each.equations.v * each.equations.v) / (2.0 * each.Q())};
 }
 
 Finding OfTimesDx(const ParameterCase& each) {
@@ -62,7 +74,7 @@ Finding OfTimesDx(const ParameterCase& each) {
         return Refused(kSameTimes);
     if (each.Relation() == 0.0)
         return Refused(kNoDisplacement);
-    const double divisor = 0.5 * Difference(each.Df() * each.Df(), each.Di() * each.Di());
+    const double divisor = 0.5 * CleanDifference(each.Df() * each.Df(), each.Di() * each.Di());
     return Divided(each, {each.Relation(), -each.equations.v * dt}, divisor, "xf - xi = vn*(tf - ti)",
                    kNoValue);
 }
@@ -73,7 +85,8 @@ Finding OfPositionsDt(const ParameterCase& each) {
         return Refused(kNoDuration);
     const double mean = each.FromStart() / h;
     const double v = each.equations.v;
-    return RealRoots(0.25 * h * h, -(each.P() + each.Q()), Difference(mean * mean, v * v));
+    return CandidatesOf(
+        numeric::RealRoots(0.25 * h * h, -(each.P() + each.Q()), CleanDifference(mean * mean, v * v)));
 }
 
 Finding OfPositionsDv(const ParameterCase& each) {
@@ -82,7 +95,8 @@ Finding OfPositionsDv(const ParameterCase& each) {
         return Refused(kUniform);
     const double dt_per_a = each.FromStart() / dv;
     const double v = each.equations.v;
-    return RealRoots(dt_per_a * dt_per_a, -(each.P() + each.Q()), Difference(0.25 * dv * dv, v * v));
+    return CandidatesOf(numeric::RealRoots(dt_per_a * dt_per_a, -(each.P() + each.Q()),
+                                           CleanDifference(0.25 * dv * dv, v * v)));
 }
 
 Finding OfTimesXFactor(const ParameterCase& each) {
@@ -93,14 +107,14 @@ Finding OfTimesXFactor(const ParameterCase& each) {
     const double df = each.Df();
     const double v = each.equations.v;
     return Divided(each, {each.equations.x * (c - 1.0), v * c * di, -v * df},
-                   0.5 * Difference(df * df, c * di * di), "xn*(1 - C) = vn*(C*(ti - tn) - (tf - tn))");
+                   0.5 * CleanDifference(df * df, c * di * di), "xn*(1 - C) = vn*(C*(ti - tn) - (tf - tn))");
 }
 
 Finding OfTimesVFactor(const ParameterCase& each) {
     if (each.FromStart() == 0.0)
         return Refused(kSameTimes);
     const double c = each.Relation();
-    return Divided(each, {each.equations.v * (c - 1.0)}, Difference(each.Df(), c * each.Di()),
+    return Divided(each, {each.equations.v * (c - 1.0)}, CleanDifference(each.Df(), c * each.Di()),
                    "vn*(C - 1) = 0");
 }
 
@@ -114,7 +128,7 @@ Finding OfPositionsTFactor(const ParameterCase& each) {
         return Refused(kOnlyAtZero);
     const double p = each.P();
     const double v = each.equations.v;
-    const double speed_part = Difference(each.Q(), c * c * p);
+    const double speed_part = CleanDifference(each.Q(), c * c * p);
     if (v == 0.0)
         return speed_part == 0.0 ? Arbitrary(each, "xf - xn = C*C*(xi - xn)") : Refused(kInconsistent);
     const double u = speed_part / (c * (1.0 - c) * v);
@@ -128,22 +142,9 @@ Finding OfPositionsVFactor(const ParameterCase& each) {
     if (c == 1.0)
         return Refused(kFactorOneInProcedure);
     const double v_squared = each.equations.v * each.equations.v;
-    return Divided(each, {v_squared * (c * c - 1.0)}, 2.0 * Difference(each.Q(), c * c * each.P()),
+    return Divided(each, {v_squared * (c * c - 1.0)}, 2.0 * CleanDifference(each.Q(), c * c * each.P()),
                    "vn*vn*(C*C - 1) = 0");
 }
-
-namespace {
-
-/// What both rows with known speeds refuse.
-std::optional<text::Refusal> CheckSpeeds(const ParameterCase& each) {
-    if (each.Relation() == 1.0)
-        return text::Refusal{kFactorOneInProcedure};
-    if (each.FromStart() == 0.0)
-        return text::Refusal{kUniform};
-    return std::nullopt;
-}
-
-}  // namespace
 
 Finding OfSpeedsTFactor(const ParameterCase& each) {
     if (const auto refusal = CheckSpeeds(each))

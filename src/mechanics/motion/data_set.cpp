@@ -2,7 +2,8 @@
 
 #include <cmath>
 
-#include "mechanics/motion/roots.h"
+#include "mechanics/motion/holding.h"
+#include "numeric/real_roots.h"
 #include "text/number_text.h"
 
 namespace tavrelo::mechanics::motion {
@@ -24,6 +25,8 @@ constexpr SetRow kRows[] = {
     {DataSet::SpeedsTFactor, kSpeed, kTimeFactor},       {DataSet::SpeedsXFactor, kSpeed, kPositionFactor},
 };
 
+bool IsSame(double a, double b) { return numeric::CleanDifference(a, b) == 0.0; }
+
 /// Motion seen from the base: displacement and time count from there.
 struct FromBase {
     double v;
@@ -36,12 +39,12 @@ struct FromBase {
     bool Reaches(double displacement, double speed) const {
         if (a == 0.0)
             return IsSame(speed, v) && (v != 0.0 || displacement == 0.0);
-        return Cancels({speed * speed, -v * v, -2.0 * a * displacement});
+        return TermsCancel({speed * speed, -v * v, -2.0 * a * displacement});
     }
     /// Whether an accelerated motion ever has this displacement, up to rounding.
     bool IsReached(double displacement) const {
         const double speed_squared = v * v + 2.0 * a * displacement;
-        return speed_squared >= 0.0 || Cancels({v * v, 2.0 * a * displacement});
+        return speed_squared >= 0.0 || TermsCancel({v * v, 2.0 * a * displacement});
     }
 };
 
@@ -50,7 +53,7 @@ bool HoldsDx(const FromBase& motion, double di, double df, double dx) {
     for (const double term : motion.Displacement(di, -1.0))
         terms.push_back(term);
     terms.push_back(-dx);
-    return Cancels(terms);
+    return TermsCancel(terms);
 }
 
 bool HoldsXFactor(const FromBase& motion, const SetValues& s) {
@@ -59,16 +62,16 @@ bool HoldsXFactor(const FromBase& motion, const SetValues& s) {
         terms.push_back(term);
     terms.push_back(s.xn);
     terms.push_back(-s.relation * s.xn);
-    return Cancels(terms);
+    return TermsCancel(terms);
 }
 
 bool HoldsPositionsTFactor(const FromBase& motion, const SetValues& s) {
     const double p = s.i - s.xn;
     const double q = s.f - s.xn;
-    for (const double u : RealRoots(0.5 * motion.a, motion.v, -p)) {
+    for (const double u : numeric::RealRoots(0.5 * motion.a, motion.v, -p)) {
         std::vector<double> terms = motion.Displacement(s.relation * u, 1.0);
         terms.push_back(-q);
-        if (Cancels(terms))
+        if (TermsCancel(terms))
             return true;
     }
     return false;
@@ -82,14 +85,15 @@ bool HoldsPositionsVFactor(const FromBase& motion, const SetValues& s) {
     const double c_squared = s.relation * s.relation;
     const double v_squared = motion.v * motion.v;
     return motion.IsReached(p) && motion.IsReached(q) &&
-           Cancels({v_squared, 2.0 * motion.a * q, -c_squared * v_squared, -2.0 * motion.a * c_squared * p});
+           TermsCancel(
+               {v_squared, 2.0 * motion.a * q, -c_squared * v_squared, -2.0 * motion.a * c_squared * p});
 }
 
 bool HoldsSpeedsTFactor(const FromBase& motion, const SetValues& s) {
     if (motion.a == 0.0)
         return IsSame(s.i, motion.v) && IsSame(s.f, motion.v);
-    return Cancels({s.tn, s.f / motion.a, -motion.v / motion.a, -s.relation * s.tn,
-                    -s.relation * s.i / motion.a, s.relation * motion.v / motion.a});
+    return TermsCancel({s.tn, s.f / motion.a, -motion.v / motion.a, -s.relation * s.tn,
+                        -s.relation * s.i / motion.a, s.relation * motion.v / motion.a});
 }
 
 bool HoldsSpeedsXFactor(const FromBase& motion, const SetValues& s) {
@@ -97,8 +101,8 @@ bool HoldsSpeedsXFactor(const FromBase& motion, const SetValues& s) {
         return IsSame(s.i, motion.v) && IsSame(s.f, motion.v);
     const double c = s.relation;
     const double twice = 2.0 * motion.a;
-    return Cancels({s.xn, s.f * s.f / twice, -motion.v * motion.v / twice, -c * s.xn, -c * s.i * s.i / twice,
-                    c * motion.v * motion.v / twice});
+    return TermsCancel({s.xn, s.f * s.f / twice, -motion.v * motion.v / twice, -c * s.xn,
+                        -c * s.i * s.i / twice, c * motion.v * motion.v / twice});
 }
 
 }  // namespace
@@ -155,9 +159,9 @@ bool Fulfils(DataSet set, const SetValues& s, double v, double a) {
     const double d = s.f - s.tn;
     switch (set) {
         case DataSet::TimePosition:
-            return Cancels({s.xn, v * d, 0.5 * a * d * d, -s.relation});
+            return TermsCancel({s.xn, v * d, 0.5 * a * d * d, -s.relation});
         case DataSet::TimeSpeed:
-            return Cancels({v, a * d, -s.relation});
+            return TermsCancel({v, a * d, -s.relation});
         case DataSet::PositionSpeed:
             return motion.Reaches(s.f - s.xn, s.relation);
         case DataSet::TimesDx:
@@ -173,13 +177,13 @@ bool Fulfils(DataSet set, const SetValues& s, double v, double a) {
             return motion.Reaches(s.i - s.xn, (s.f - s.i) * a / dv - 0.5 * dv);
         }
         case DataSet::TimesDv:
-            return Cancels({a * (s.f - s.i), -s.relation});
+            return TermsCancel({a * (s.f - s.i), -s.relation});
         case DataSet::DtDv:
-            return Cancels({a * s.f, -s.relation});
+            return TermsCancel({a * s.f, -s.relation});
         case DataSet::TimesXFactor:
             return HoldsXFactor(motion, s);
         case DataSet::TimesVFactor:
-            return Cancels({v, a * d, -s.relation * v, -s.relation * a * (s.i - s.tn)});
+            return TermsCancel({v, a * d, -s.relation * v, -s.relation * a * (s.i - s.tn)});
         case DataSet::PositionsTFactor:
             return HoldsPositionsTFactor(motion, s);
         case DataSet::PositionsVFactor:

@@ -1,7 +1,7 @@
 #include "mechanics/motion/interval_cases.h"
 
-#include "mechanics/motion/roots.h"
 #include "numeric/checked.h"
+#include "numeric/real_roots.h"
 
 namespace tavrelo::mechanics::motion {
 namespace {
@@ -30,7 +30,7 @@ Interval BetweenSpeeds(const Motion& motion, double vi, double vf) {
 
 /// The intervals of each root; none is "no solution".
 template <typename ToInterval>
-Intervals OfRoots(const std::vector<double>& roots, const ToInterval& to_interval) {
+Intervals OfRoots(const numeric::RealRootList& roots, const ToInterval& to_interval) {
     if (roots.empty())
         return Refused(kNoSolution);
     std::vector<Interval> intervals;
@@ -63,8 +63,8 @@ Intervals IntervalOfDtPositionFactor(const Motion& motion, double dt, double c) 
     if (dt == 0.0)
         return Refused(kSameInstant);
     const double rest = 1.0 - c;
-    const auto roots = RealRoots(0.5 * motion.a * rest, motion.a * dt + motion.v0 * rest,
-                                 0.5 * motion.a * dt * dt + motion.v0 * dt + motion.x0 * rest);
+    const auto roots = numeric::RealRoots(0.5 * motion.a * rest, motion.a * dt + motion.v0 * rest,
+                                          0.5 * motion.a * dt * dt + motion.v0 * dt + motion.x0 * rest);
     return OfRoots(roots, [&](double ti) { return Interval{ti, ti + dt}; });
 }
 
@@ -80,7 +80,7 @@ Intervals IntervalOfDtSpeedFactor(const Motion& motion, double dt, double c) {
 Intervals IntervalOfDxTimeFactor(const Motion& motion, double dx, double c) {
     if (c == 1.0)
         return Refused(kFactorOne);
-    const auto roots = RealRoots(0.5 * motion.a * (c * c - 1.0), motion.v0 * (c - 1.0), -dx);
+    const auto roots = numeric::RealRoots(0.5 * motion.a * (c * c - 1.0), motion.v0 * (c - 1.0), -dx);
     return OfRoots(roots, [&](double ti) { return Interval{ti, c * ti}; });
 }
 
@@ -92,7 +92,7 @@ Intervals IntervalOfDxSpeedFactor(const Motion& motion, double dx, double c) {
     if (c == -1.0)
         return Refused(kNoSolution);
     // The sum of the roots is 0: the positive one comes first.
-    const auto speeds = RealRoots(1.0, 0.0, -CheckedDivide(2.0 * motion.a * dx, c * c - 1.0));
+    const auto speeds = numeric::RealRoots(1.0, 0.0, -CheckedDivide(2.0 * motion.a * dx, c * c - 1.0));
     return OfRoots(speeds, [&](double vi) { return BetweenSpeeds(motion, vi, c * vi); });
 }
 
@@ -111,8 +111,8 @@ Intervals IntervalOfDvPositionFactor(const Motion& motion, double dv, double c) 
     if (dv == 0.0)
         return Refused(kSameInstant);
     const double rest = 1.0 - c;
-    const auto speeds =
-        RealRoots(rest, 2.0 * dv, dv * dv + (2.0 * motion.a * motion.x0 - motion.v0 * motion.v0) * rest);
+    const auto speeds = numeric::RealRoots(
+        rest, 2.0 * dv, dv * dv + (2.0 * motion.a * motion.x0 - motion.v0 * motion.v0) * rest);
     return OfRoots(speeds, [&](double vi) { return BetweenSpeeds(motion, vi, vi + dv); });
 }
 

@@ -4,6 +4,7 @@
 #include <variant>
 #include <vector>
 
+#include "mechanics/motion/candidates.h"
 #include "mechanics/motion/data_set.h"
 #include "text/refusal.h"
 
@@ -39,9 +40,7 @@ struct Remarks {
     std::vector<std::string> lines;
 };
 
-/// The values that a data set gives the one parameter, still to be put back into the motion; none when there
-/// are none.
-using Candidates = std::vector<double>;
+/// What a data set finds for the one parameter; no candidates are no solution.
 using Finding = std::variant<text::Refusal, Candidates, Remarks>;
 
 /// The one equation that a data set states for both parameters, v the speed at the base:

@@ -3,9 +3,10 @@
 #include <algorithm>
 
 #include "mechanics/motion/acceleration_cases.h"
-#include "mechanics/motion/roots.h"
+#include "mechanics/motion/holding.h"
 #include "mechanics/motion/speed_cases.h"
 #include "mechanics/motion/statement_cases.h"
+#include "numeric/checked.h"
 #include "text/signed_sum.h"
 
 namespace tavrelo::mechanics::motion {
@@ -151,6 +152,7 @@ Step FindParameter(const Click& click, const ParameterCase& each) {
     std::erase_if(values, [&](double value) {
         const double v = click.SeeksSpeed() ? value : click.equations.v;
         const double a = click.SeeksSpeed() ? click.equations.a : value;
+        numeric::Finite(value);
         return !Fulfils(each.given.set, each.given.values, v, a);
     });
     if (values.empty())
@@ -173,6 +175,9 @@ std::string ArbitraryAcceleration(const Click& click) {
 std::string EquationLine(const Click& click, const ParameterEquation& equation) {
     const std::string v = click.labels.At(Quantity::Speed, click.equations.base);
     const std::string a(click.labels.Acceleration());
+    for (const double each :
+         {equation.v_squared, equation.v, equation.a_squared, equation.a, equation.constant})
+        numeric::Finite(each);
     const text::SumTerm terms[] = {
         {equation.v_squared, v + "¡2"}, {equation.v, v}, {equation.a_squared, a + "¡2"}, {equation.a, a}};
     return text::SignedSum(terms, click.labels.Decimals()) + " = " + click.labels.Number(equation.constant);
@@ -201,7 +206,7 @@ Step StateEquation(const Click& click, const ParameterCase& each) {
     const std::string data_line = "Datos: " + DataLine(each.given, each.point, click.labels);
     std::vector<std::string> lines = {click.Title(), data_line};
     if (!has_speed && has_acceleration)
-        return OfferAcceleration(click, data_line, equation.constant / equation.a);
+        return OfferAcceleration(click, data_line, numeric::CheckedDivide(equation.constant, equation.a));
     if (!has_speed) {
         if (equation.constant != 0.0)
             return text::Refusal{kNoSolution};
@@ -224,9 +229,9 @@ Step FindBoth(const Click& click, int point, double t, double x, double v) {
     const double d = t - equations.t;
     if (d == 0.0)
         return text::Refusal{kBaseData};
-    const double speed = 2.0 * (x - equations.x) / d - v;
-    const double a = (v - speed) / d;
-    if (!Cancels({equations.x, speed * d, 0.5 * a * d * d, -x}) || !Cancels({speed, a * d, -v}))
+    const double speed = numeric::CheckedDivide(2.0 * (x - equations.x), d) - v;
+    const double a = numeric::CheckedDivide(v - speed, d);
+    if (!TermsCancel({equations.x, speed * d, 0.5 * a * d * d, -x}) || !TermsCancel({speed, a * d, -v}))
         return text::Refusal{kNoSolution};
     const Labels& labels = click.labels;
     Outcome outcome =

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "mechanics/motion/roots.h"
 #include "numeric/checked.h"
+#include "numeric/real_roots.h"
 
 namespace tavrelo::mechanics::motion::speed {
 namespace {
@@ -103,7 +103,7 @@ Finding OfTimesXFactor(const ParameterCase& each) {
     const double c = each.Relation();
     const double di = each.Di();
     const double df = each.Df();
-    if (IsSame(df, c * di))
+    if (numeric::CleanDifference(df, c * di) == 0.0)
         return WithoutSpeed(each);
     return Candidates{(each.equations.x * (c - 1.0) + 0.5 * each.equations.a * (c * di * di - df * df)) /
                       (df - c * di)};
@@ -130,7 +130,7 @@ Finding OfPositionsTFactor(const ParameterCase& each) {
     const double a = each.equations.a;
     const double square_part = each.Q() - c * p;
     if (a == 0.0) {
-        const bool is_uniform = IsSame(each.Q(), c * p);
+        const bool is_uniform = numeric::CleanDifference(each.Q(), c * p) == 0.0;
         return is_uniform ? Arbitrary(each) : Finding(Candidates{});
     }
     if (square_part == 0.0)

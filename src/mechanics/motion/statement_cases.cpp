@@ -1,9 +1,11 @@
 #include "mechanics/motion/statement_cases.h"
 
-#include "mechanics/motion/roots.h"
+#include "numeric/real_roots.h"
 
 namespace tavrelo::mechanics::motion::statement {
 namespace {
+
+using numeric::CleanDifference;
 
 constexpr const char* kBaseData = "Estás sustituyendo datos del punto base.";
 constexpr const char* kSameTimes = "Estás poniendo iguales los tiempos inicial y final.";
@@ -42,7 +44,7 @@ Statement OfTimesDx(const ParameterCase& each) {
     if (each.Relation() == 0.0)
         return Refused(kNoDisplacement);
     return ParameterEquation{.v = each.FromStart(),
-                             .a = 0.5 * Difference(each.Df() * each.Df(), each.Di() * each.Di()),
+                             .a = 0.5 * CleanDifference(each.Df() * each.Df(), each.Di() * each.Di()),
                              .constant = each.Relation()};
 }
 
@@ -84,8 +86,8 @@ Statement OfTimesXFactor(const ParameterCase& each) {
     const double c = each.Relation();
     const double di = each.Di();
     const double df = each.Df();
-    return ParameterEquation{.v = Difference(df, c * di),
-                             .a = 0.5 * Difference(df * df, c * di * di),
+    return ParameterEquation{.v = CleanDifference(df, c * di),
+                             .a = 0.5 * CleanDifference(df * df, c * di * di),
                              .constant = each.equations.x * (c - 1.0)};
 }
 
@@ -93,7 +95,7 @@ Statement OfTimesVFactor(const ParameterCase& each) {
     if (each.FromStart() == 0.0)
         return Refused(kSameTimes);
     const double c = each.Relation();
-    return ParameterEquation{.v = 1.0 - c, .a = Difference(each.Df(), c * each.Di()), .constant = 0};
+    return ParameterEquation{.v = 1.0 - c, .a = CleanDifference(each.Df(), c * each.Di()), .constant = 0};
 }
 
 Statement OfPositionsTFactor(const ParameterCase& each) {
@@ -106,8 +108,8 @@ Statement OfPositionsTFactor(const ParameterCase& each) {
         return Refused(kOnlyAtZero);
     const double p = each.P();
     const double q = each.Q();
-    const double speed_part = Difference(q, c * c * p);
-    return ParameterEquation{.v_squared = 2.0 * c * (c - 1.0) * Difference(q, c * p),
+    const double speed_part = CleanDifference(q, c * c * p);
+    return ParameterEquation{.v_squared = 2.0 * c * (c - 1.0) * CleanDifference(q, c * p),
                              .a = -speed_part * speed_part,
                              .constant = 0};
 }
@@ -119,7 +121,7 @@ Statement OfPositionsVFactor(const ParameterCase& each) {
     if (c == -1.0 && each.FromStart() != 0.0)  // equal speeds at two places are opposite only at rest
         return Refused(kNoSolution);
     return ParameterEquation{
-        .v_squared = c * c - 1.0, .a = -2.0 * Difference(each.Q(), c * c * each.P()), .constant = 0};
+        .v_squared = c * c - 1.0, .a = -2.0 * CleanDifference(each.Q(), c * c * each.P()), .constant = 0};
 }
 
 Statement OfSpeedsTFactor(const ParameterCase& each) {
@@ -128,7 +130,7 @@ Statement OfSpeedsTFactor(const ParameterCase& each) {
         return Refused(kFactorOne);
     const SetValues& s = each.given.values;
     return ParameterEquation{
-        .v = c - 1.0, .a = -each.equations.t * (c - 1.0), .constant = Difference(c * s.i, s.f)};
+        .v = c - 1.0, .a = -each.equations.t * (c - 1.0), .constant = CleanDifference(c * s.i, s.f)};
 }
 
 Statement OfSpeedsXFactor(const ParameterCase& each) {
@@ -138,7 +140,7 @@ Statement OfSpeedsXFactor(const ParameterCase& each) {
     const SetValues& s = each.given.values;
     return ParameterEquation{.v_squared = 1.0 - c,
                              .a = -2.0 * each.equations.x * (1.0 - c),
-                             .constant = Difference(s.f * s.f, c * s.i * s.i)};
+                             .constant = CleanDifference(s.f * s.f, c * s.i * s.i)};
 }
 
 }  // namespace tavrelo::mechanics::motion::statement

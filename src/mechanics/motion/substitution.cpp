@@ -2,9 +2,10 @@
 
 #include <string>
 
+#include "mechanics/motion/candidates.h"
 #include "mechanics/motion/data_pair.h"
+#include "mechanics/motion/holding.h"
 #include "mechanics/motion/interval_cases.h"
-#include "mechanics/motion/roots.h"
 #include "numeric/checked.h"
 
 namespace tavrelo::mechanics::motion {
@@ -103,9 +104,9 @@ std::size_t FutureRoot(const std::vector<double>& times) {
 
 Step SubstitutePosition(const Click& click, double x) {
     const Motion& motion = click.motion;
-    std::vector<double> times = RealRoots(0.5 * motion.a, motion.v0, motion.x0 - x);
+    Candidates times = CandidatesOf(numeric::RealRoots(0.5 * motion.a, motion.v0, motion.x0 - x));
     std::erase_if(times, [&](double t) {
-        return !Cancels({0.5 * motion.a * t * t, motion.v0 * t, motion.x0, -x});
+        return !TermsCancel({0.5 * motion.a * t * t, motion.v0 * t, motion.x0, -x});
     });
     if (times.empty())
         return text::Refusal{kNotReached};
@@ -133,7 +134,7 @@ bool Holds(const Motion& motion, const Interval& interval, const DatumKey& key, 
     terms.insert(terms.end(), start.begin(), start.end());
     if (!is_factor)
         terms.push_back(-value);
-    return Cancels(terms);
+    return TermsCancel(terms);
 }
 
 /// One row of the table of pairs: which two data over an earlier point lead to which calculation.

@@ -1,10 +1,10 @@
 #include <array>
 #include <cmath>
 
+#include "mechanics/motion/holding.h"
 #include "mechanics/motion/labels.h"
 #include "mechanics/motion/planting.h"
 #include "mechanics/motion/procedures.h"
-#include "mechanics/motion/roots.h"
 #include "numeric/checked.h"
 #include "numeric/linear_systems.h"
 #include "text/number_text.h"
@@ -86,7 +86,7 @@ std::optional<Motion> Through(const std::array<double, 3>& t, const std::array<d
     const Motion motion = {numeric::Finite(x[0] - first * t[0] + half * t[0] * t[1]),
                            numeric::Finite(first - half * (t[0] + t[1])), numeric::Finite(2.0 * half)};
     for (std::size_t i = 0; i < t.size(); ++i) {
-        if (!Cancels({motion.x0, motion.v0 * t[i], 0.5 * motion.a * t[i] * t[i], -x[i]}))
+        if (!TermsCancel({motion.x0, motion.v0 * t[i], 0.5 * motion.a * t[i] * t[i], -x[i]}))
             return std::nullopt;
     }
     return motion;

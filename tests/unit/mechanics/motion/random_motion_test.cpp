@@ -17,7 +17,7 @@ namespace {
 
 using namespace testing;
 
-constexpr int kMotions = 4000;
+constexpr int kMotions = 3000;
 constexpr unsigned kSeed = 20260;
 
 /// A motion from a base, and two moments of it.
