@@ -123,7 +123,7 @@ Outcome VectorListMoments(RoutineRun& run) {
     const auto& given = std::get<Vectors>(read);
     if (given.size() < 2)
         throw numeric::RuntimeFailure(numeric::FailureCode::SubscriptRange, "position without a force");
-    Lines lines;
+    Lines lines = {"Vectores dados:"};
     std::vector<mechanics::forces::PlacedForce> forces;
     std::vector<DrawnVector> drawn;
     for (std::size_t k = 0; k + 1 < given.size(); k += 2) {
