@@ -1,0 +1,134 @@
+#include "frame/points_strip.h"
+
+#include <algorithm>
+#include <string>
+
+namespace tavrelo::frame {
+namespace {
+
+using text::Color;
+using window::Surface;
+
+constexpr Color kLightBand = text::FromBgr(0xFFFFC0);
+constexpr Color kEmptyGrey = text::Rgb(0xE0, 0xE0, 0xE0);
+constexpr Color kPointGrey = text::Rgb(0xC0, 0xC0, 0xC0);
+constexpr Color kEdgeColor = text::Rgb(0x80, 0x80, 0x80);
+
+constexpr double kDigitShare = 0.45;  // of the column's width, where the middle of a digit stands
+constexpr double kDigitShift = 4;     // from there to the digit's left edge
+constexpr double kDigitSize = 9;      // points
+constexpr double kDigitTop = 2;       // pixels below the upper edge of the label
+
+constexpr double kPromptTop = 38;      // y of the top of a prompt
+constexpr double kPromptSizes[] = {9, 8.25, 7.5, 6.75};  // points, the first that fits
+constexpr double kModeTop = 39;
+constexpr double kModeSize = 8.25;  // points
+
+// The bracket: a level line with a tick down at each end.
+constexpr double kBracketTop = 31;
+constexpr double kBracketStart = 35;  // from the left edge of the first column
+constexpr double kBracketTick = 6;
+constexpr double kBoxShift = 25;  // from the middle of the bracket's columns to the box's left edge
+
+double LeftOfColumn(int column) { return (column - 1) * kStripColumn; }
+
+void PrintAt(Surface& strip, std::string_view text, double x, double top_y, Color color) {
+    strip.CurrentX = x;
+    strip.CurrentY = strip.FromBottom(top_y);
+    strip.ForeColor = color;
+    strip.Print(text);
+}
+
+text::Font InterfaceFont(double size, bool bold = false) {
+    return text::Font{std::string(text::kInterfaceFont), size, bold};
+}
+
+void PrintDigit(Surface& strip, int column, int number, Color color) {
+    PrintAt(strip, std::to_string(number), LeftOfColumn(column) + kStripColumn * kDigitShare - kDigitShift,
+            kLabelTop - kDigitTop, color);
+}
+
+void LabelBox(Surface& strip, int column, Color color, bool filled) {
+    const double left = LeftOfColumn(column);
+    strip.Box(left, strip.FromBottom(kLabelTop), left + kStripColumn - 1, strip.Height() - 1, color, filled);
+}
+
+void FillBand(Surface& strip, double top_y, double bottom_y, Color color) {
+    strip.Box(0, strip.FromBottom(top_y), strip.Width() - 1, strip.FromBottom(bottom_y), color, true);
+}
+
+void OutlineStrip(Surface& strip) {
+    strip.Box(0, 0, strip.Width() - 1, strip.Height() - 1, kEdgeColor, false);
+}
+
+}  // namespace
+
+StripPlace PlaceOnStrip(double x, double y) {
+    if (x < 0 || x >= kPointColumns * kStripColumn || y < 0 || y > kStripTop)
+        return {};
+    return {y > kLabelTop ? StripBand::Grey : StripBand::Labels, static_cast<int>(x / kStripColumn) + 1};
+}
+
+int AccelerationBoxLeft(int first_column, int points) {
+    const double middle = LeftOfColumn(first_column) + points * kStripColumn / 2;
+    return static_cast<int>(middle - kBoxShift);
+}
+
+void PaintEmptyStrip(Surface& strip) {
+    strip.Cls();
+    FillBand(strip, kStripTop, kLabelTop, kEmptyGrey);
+    FillBand(strip, kLabelTop, 1, kLightBand);
+    strip.CurrentFont = InterfaceFont(kDigitSize);
+    for (int column = 1; column <= kPointColumns; ++column) {
+        LabelBox(strip, column, kEdgeColor, false);
+        PrintDigit(strip, column, column - 1, text::kBlack);
+    }
+    OutlineStrip(strip);
+}
+
+void PaintStripPrompt(Surface& strip, std::string_view prompt, double left) {
+    for (const double size : kPromptSizes) {
+        strip.CurrentFont = InterfaceFont(size);
+        if (left + strip.TextWidth(prompt) <= strip.Width())
+            break;
+    }
+    PrintAt(strip, prompt, left, kPromptTop, text::kBlack);
+}
+
+void PaintPointStrip(Surface& strip, std::span<const StripLabel> labels) {
+    strip.Cls();
+    FillBand(strip, kStripTop, kLabelTop, kPointGrey);
+    PaintPointLabels(strip, labels);
+    OutlineStrip(strip);
+}
+
+void PaintPointLabels(Surface& strip, std::span<const StripLabel> labels) {
+    strip.CurrentFont = InterfaceFont(kDigitSize, true);
+    int column = 1;
+    for (const StripLabel& label : labels) {
+        LabelBox(strip, column, label.color, true);
+        LabelBox(strip, column, text::kWhite, false);
+        PrintDigit(strip, column, label.number, text::kWhite);
+        ++column;
+    }
+}
+
+void PaintBracket(Surface& strip, int first_column, int points) {
+    const double left = LeftOfColumn(first_column) + kBracketStart;
+    const double right = left + (points - 1) * kStripColumn - 6;
+    const double top = strip.FromBottom(kBracketTop);
+    const double foot = strip.FromBottom(kBracketTop - kBracketTick);
+    strip.Line(left, top, right, top, text::kBlack);
+    strip.Line(left, top, left, foot, text::kBlack);
+    strip.Line(right, top, right, foot, text::kBlack);
+}
+
+void PaintSpeedMode(Surface& strip, int column, std::string_view mode) {
+    const double left = LeftOfColumn(column);
+    strip.Box(left, 0, left + kStripColumn - 1, strip.FromBottom(kLabelTop) - 1, kPointGrey, true);
+    strip.Box(left, 0, left + kStripColumn - 1, strip.FromBottom(kLabelTop) - 1, text::kWhite, false);
+    strip.CurrentFont = InterfaceFont(kModeSize);
+    PrintAt(strip, mode, left + (kStripColumn - strip.TextWidth(mode)) / 2, kModeTop, text::kBlack);
+}
+
+}  // namespace tavrelo::frame

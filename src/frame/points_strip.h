@@ -1,0 +1,50 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "text/color.h"
+#include "window/controls.h"
+
+// The strip over the table of points: where its columns and bands lie, what a press on it hits, and how it is
+// painted. It stands right over the grid, a column of the strip over a column of points. Places are the
+// strip's own: pixels, x from the left edge of the first point column, y upward.
+
+namespace tavrelo::frame {
+
+inline constexpr int kPointColumns = 9;
+inline constexpr double kStripColumn = 64;  // width of a column
+inline constexpr double kLabelTop = 19;     // the labels reach up to here, this height included
+inline constexpr double kStripTop = 42;     // and the grey band up to here
+
+enum class StripBand { Labels, Grey, Outside };
+
+struct StripPlace {
+    StripBand band = StripBand::Outside;
+    int column = 0;  // of the grid, from 1; 0 outside
+};
+StripPlace PlaceOnStrip(double x, double y);
+
+/// Left edge of the box of an acceleration that stands over `points` columns from `first_column` (from 1).
+int AccelerationBoxLeft(int first_column, int points);
+
+/// A point's label.
+struct StripLabel {
+    int number;  // of the point in its mover
+    text::Color color;
+};
+
+/// The strip before anything is chosen: light labels 0 to 8 under an empty grey band.
+void PaintEmptyStrip(window::Surface& strip);
+/// What to do next, in the grey band from `left` on.
+void PaintStripPrompt(window::Surface& strip, std::string_view prompt, double left);
+/// Clears the strip and paints the grey band and the labels of all points.
+void PaintPointStrip(window::Surface& strip, std::span<const StripLabel> labels);
+/// The labels alone, over those that stand there.
+void PaintPointLabels(window::Surface& strip, std::span<const StripLabel> labels);
+/// The bracket over the columns of one acceleration, behind its box.
+void PaintBracket(window::Surface& strip, int first_column, int points);
+/// How the speed of a point is given ("md", "cs"), in the grey band over its column.
+void PaintSpeedMode(window::Surface& strip, int column, std::string_view mode);
+
+}  // namespace tavrelo::frame

@@ -1,0 +1,73 @@
+#include "tools/motion/results_panel.h"
+
+#include "text/number_text.h"
+#include "tools/motion/stretch_colors.h"
+#include "window/guarded.h"
+
+namespace tavrelo::tools::motion {
+namespace {
+
+using mechanics::motion::FoundPoint;
+
+/// The rows of labels; the first label of a row belongs to the first point.
+enum LabelRow { kPointRow, kTimeRow, kPositionRow, kSpeedRow };
+constexpr int kLabelsOfRow = 2;
+
+enum PassButton { kFirstSolution, kSecondSolution, kPassToTable };
+
+}  // namespace
+
+ResultsPanel::ResultsPanel(window::Form1& form)
+    : m_form(form),
+      m_frame(form.Get<window::Frame>("fraRes")),
+      m_labels(form.GetArray<window::Label>("lblRes")),
+      m_buttons(form.GetArray<window::Button>("cmdPass")) {
+    OnClick(form, m_buttons, [this](int button) { Press(button); });
+    OnClick(form, form.Get<window::Button>("cmdCloseFrares"), [this] { Close(); });
+}
+
+void ResultsPanel::Show(const mechanics::motion::Results& results, std::size_t solution) {
+    if (solution >= results.solutions.size())
+        return;
+    const mechanics::motion::FoundSolution& found = results.solutions[solution];
+    const text::Color color = ResultColor(results.mover, results.stretch);
+    ShowPoint(0, &found.first, color);
+    ShowPoint(1, found.second ? &*found.second : nullptr, color);
+    m_shown = solution;
+    m_buttons[kFirstSolution].SetUnderlined(solution == 0);
+    m_buttons[kSecondSolution].SetUnderlined(solution == 1);
+    m_buttons[kSecondSolution].SetEnabled(results.HasSecond());
+    m_open = true;
+    m_frame.SetVisible(true);
+}
+
+void ResultsPanel::ShowPoint(int place, const FoundPoint* point, text::Color color) {
+    const auto show = [&](LabelRow row, const std::string& text) {
+        m_labels[row * kLabelsOfRow + place].SetCaption(text);
+    };
+    const auto number = [&](double value) {
+        return point ? text::RoundedText(value, m_form.publics.Decimals) : std::string();
+    };
+    show(kPointRow, point ? std::to_string(point->point) : std::string());
+    m_labels[kPointRow * kLabelsOfRow + place].SetForeColor(color);
+    const FoundPoint values = point ? *point : FoundPoint{};
+    show(kTimeRow, number(values.t));
+    show(kPositionRow, number(values.x));
+    show(kSpeedRow, number(values.v));
+}
+
+void ResultsPanel::Close() {
+    m_open = false;
+    m_frame.SetVisible(false);
+}
+
+void ResultsPanel::Restore() { m_frame.SetVisible(m_open); }
+
+void ResultsPanel::Press(int button) {
+    if (button == kPassToTable)
+        OnPass();
+    else
+        OnSolution(static_cast<std::size_t>(button));
+}
+
+}  // namespace tavrelo::tools::motion
