@@ -17,6 +17,10 @@ struct ProcedureEntry {
     std::string_view help_tag;
 };
 
+// Rows that keys choose too.
+inline constexpr int kPlantRow = 1;
+inline constexpr int kSubstituteRow = 2;
+
 /// Rows count from 1, entries of the list from 0; fails with SubscriptRange on any other.
 const ProcedureEntry& ProcedureOfRow(int row);
 const ProcedureEntry& ProcedureOfEntry(int entry);

@@ -1,0 +1,435 @@
+#include "tools/motion/motion_tool.h"
+
+#include <utility>
+#include <vector>
+
+#include "frame/points_strip.h"
+#include "frame/writer.h"
+#include "tools/motion/motion_board.h"
+#include "tools/motion/stretch_colors.h"
+#include "window/guarded.h"
+#include "window/questions.h"
+
+namespace tavrelo::tools::motion {
+namespace {
+
+using mechanics::motion::Outcome;
+using mechanics::motion::Procedure;
+using mechanics::motion::Step;
+using mechanics::points::Configuration;
+using mechanics::points::PointPlace;
+using mechanics::points::Stage;
+using mechanics::points::Stretch;
+using text::Refusal;
+using window::Answer;
+
+/// What is asked for in the grey band after the press of a button, and where it begins (pixels).
+struct Prompt {
+    std::string_view text;
+    double left;
+};
+constexpr Prompt kPrompts[] = {
+    {"", 0},
+    {"A lo más 2 clics en este espacio, uno por cada punto límite de tramo", 100},
+    {"Haz un clic en este espacio para separar los puntos de uno y otro móvil", 100},
+    {"A lo más 3 clics en este espacio, el primero para separar los dos móviles "
+     "y los demás para definir los tramos del primero",
+     10},
+};
+
+constexpr int kSecondMoverBox = 3;  // of the accelerations; the others are mover 1's, by stretch
+
+template <class... Handlers>
+struct Overloaded : Handlers... {
+    using Handlers::operator()...;
+};
+
+/// The colour of every label from the left; a point between two stretches has that of the later one.
+std::vector<frame::StripLabel> LabelsOf(const Configuration& configuration) {
+    std::vector<frame::StripLabel> labels;
+    for (int mover = 1; mover <= configuration.MoverCount(); ++mover) {
+        for (int point = 0; point < configuration.MoverAt(mover).points; ++point) {
+            int stretch = 1;
+            while (configuration.HasStretch(mover, stretch + 1) &&
+                   configuration.StretchAt(mover, stretch + 1).first <= point)
+                ++stretch;
+            labels.push_back({point, StretchColor(mover, stretch)});
+        }
+    }
+    return labels;
+}
+
+/// The columns over which an acceleration stands.
+struct Span {
+    int box;  // of the acceleration
+    int first_column;
+    int points;
+};
+std::vector<Span> SpansOf(const Configuration& configuration) {
+    std::vector<Span> spans;
+    for (int mover = 1; mover <= configuration.MoverCount(); ++mover) {
+        for (int stretch = 1; configuration.HasStretch(mover, stretch); ++stretch) {
+            const Stretch& columns = configuration.StretchAt(mover, stretch);
+            spans.push_back({mover == 1 ? stretch - 1 : kSecondMoverBox,
+                             ColumnOfPoint(configuration, mover, columns.first), columns.Points()});
+        }
+    }
+    return spans;
+}
+
+}  // namespace
+
+MotionControls::MotionControls(window::Form1& form)
+    : txtAccel(form.GetArray<window::TextBox>("txtAccel")),
+      picAccel(form.Get<window::Picture>("picAccel")),
+      txtProcs(form.Get<window::TextBox>("txtProcs")),
+      cmdSeeEqns(form.Get<window::Button>("cmdSeeEqns")),
+      pic(form.Get<window::Picture>("pic")),
+      pic1(form.Get<window::Picture>("pic1")),
+      rtbSolve(form.Get<window::RichTextBox>("rtbSolve")) {}
+
+Motion::Motion(window::Form1& form, frame::PointsPanel& panel, frame::ToolSwitch& tool_switch)
+    : m_form(form), m_panel(panel), m_tool_switch(tool_switch), m_controls(form), m_results(form) {
+    BindAccelerations();
+    BindResults();
+}
+
+frame::ToolHooks Motion::Hooks() {
+    return {.on_entry = [this] { Enter(); }};
+}
+
+void Motion::Enter() {
+    DropPicks();
+    m_panel.Enter(*this);
+    ShowAccelerations();
+    PlaceAccelerations();
+    m_results.Restore();
+    m_panel.ShowRowArguments(ProcedureOfRow(view.procedure_row).needs);
+    if (view.procedure_entry >= 0)
+        m_panel.ShowEntryArguments(ProcedureOfEntry(view.procedure_entry).needs);
+    else
+        m_panel.ShowEntryArguments({});
+    ShowPointer();
+    ShowGraph(m_shows_graph);
+    m_panel.FocusTable(m_problem.configuration.IsConfigured());
+}
+
+const frame::PointsTexts& Motion::Texts() const { return MotionTexts(); }
+
+std::optional<frame::TopicPlace> Motion::HelpTopic(frame::PointsHelp button) const {
+    return MotionTopic(button, view.procedure_row, view.procedure_entry);
+}
+
+// The strip.
+
+void Motion::Configure(int configuration) {
+    m_dragged = 0;
+    m_problem = mechanics::motion::Reconfigured(m_problem, configuration);
+    ShowAccelerations();
+    PlaceAccelerations();
+    if (m_problem.configuration.stage == Stage::Pending) {
+        const Prompt& prompt = kPrompts[configuration];
+        frame::PaintStripPrompt(m_controls.picAccel.Canvas(), prompt.text, prompt.left);
+        return;
+    }
+    PaintStrip();
+    m_form.SetFocus(m_controls.txtAccel[0]);
+}
+
+void Motion::PressStrip(const window::MouseStroke& stroke) {
+    m_dragged = 0;
+    const StripMeaning meaning = MeaningOfPress(stroke, m_problem.configuration.stage);
+    switch (meaning.action) {
+        case StripAction::AskConfiguration:
+            return m_form.boxes.Tell("Configura la tabla primero.");
+        case StripAction::Divide:
+            return Divide(meaning.position);
+        case StripAction::StartDrag:
+            m_dragged = meaning.column;
+            return;
+        case StripAction::RunLabel:
+            return RunLabel(meaning);
+        case StripAction::ClearPoint:
+            return ClearPoint(meaning.position);
+        case StripAction::Nothing:
+            return;
+    }
+}
+
+void Motion::ReleaseStrip(const window::MouseStroke& stroke) {
+    const int source = std::exchange(m_dragged, 0);
+    const auto end = MeaningOfRelease(stroke);
+    if (source == 0 || !end)
+        return;
+    const auto place = Locate(m_problem.configuration, end->position);
+    if (!place)
+        return;
+    const int target = ColumnOfPoint(m_problem.configuration, *place);
+    if (end->copies)
+        m_problem.table.CopyColumn(source, target);
+    else
+        m_problem.table.MoveColumn(source, target);
+    m_panel.ShowCells();
+}
+
+void Motion::Divide(double position) {
+    const auto step = ClickBand(m_problem.configuration, position);
+    if (step.configuration != m_problem.configuration) {
+        m_problem.configuration = step.configuration;
+        PaintStrip();
+        PlaceAccelerations();
+        if (m_problem.configuration.IsConfigured())
+            m_form.SetFocus(m_controls.txtAccel[0]);
+    }
+    if (step.refusal)
+        m_form.boxes.Tell(step.refusal->text);
+}
+
+void Motion::PaintStrip() {
+    window::Recorder& strip = m_controls.picAccel.Canvas();
+    frame::PaintPointStrip(strip, LabelsOf(m_problem.configuration));
+    for (const Span& span : SpansOf(m_problem.configuration))
+        frame::PaintBracket(strip, span.first_column, span.points);
+    PlaceAccelerations();
+}
+
+void Motion::ClearPoint(double position) {
+    const auto place = Locate(m_problem.configuration, position);
+    if (!place)
+        return;
+    const int column = ColumnOfPoint(m_problem.configuration, *place);
+    m_problem.table.ClearColumn(column);
+    m_panel.ShowCells();
+    m_panel.FocusColumn(column);
+}
+
+void Motion::RunLabel(const StripMeaning& meaning) {
+    const auto place = Locate(m_problem.configuration, meaning.position);
+    if (!place)
+        return;
+    if (meaning.shortcut == Shortcut::OppositeSpeed && TurnToOppositeSpeed(*place))
+        return;
+    if (meaning.shortcut == Shortcut::Plant)
+        m_panel.ChooseRow(kPlantRow);
+    if (meaning.shortcut == Shortcut::Substitute)
+        m_panel.ChooseRow(kSubstituteRow);
+    if (TakesTwoPoints(m_procedure))
+        PickPoint(*place);
+    else
+        Take(ClickPoint(m_problem, m_procedure, *place, m_form.publics.Decimals));
+}
+
+bool Motion::TurnToOppositeSpeed(const PointPlace& place) {
+    auto turned = WithOppositeSpeed(m_problem, place, m_form.publics.Decimals);
+    if (!turned)
+        return false;
+    m_problem = std::move(*turned);
+    ShowProblem();
+    return true;
+}
+
+// Procedures.
+
+void Motion::ChooseRow(int row) {
+    const ProcedureEntry& entry = ProcedureOfRow(row);
+    Choose(entry);
+    m_panel.ShowRowArguments(entry.needs);
+}
+
+void Motion::ChooseEntry(int entry_index) {
+    const ProcedureEntry& entry = ProcedureOfEntry(entry_index);
+    Choose(entry);
+    m_panel.ShowEntryArguments(entry.needs);
+    const bool clicks_only = TakesTwoPoints(entry.procedure);
+    m_panel.ShowAnswering(!clicks_only, !clicks_only);
+    if (!clicks_only)
+        m_form.SetFocus(m_controls.txtProcs);
+}
+
+void Motion::Choose(const ProcedureEntry& entry) {
+    m_procedure = entry.procedure;
+    m_problem.awaited_base.reset();
+    DropPicks();
+    ShowPointer();
+}
+
+void Motion::ShowPointer() {
+    m_controls.picAccel.SetPointerShape(TakesTwoPoints(m_procedure) ? window::kPointerCross
+                                                                    : window::kPointerDefault);
+}
+
+void Motion::DropPicks() {
+    m_first_point.reset();
+    m_form.SetPointer(window::kPointerDefault);
+}
+
+void Motion::PickPoint(const PointPlace& place) {
+    const auto first = m_first_point;
+    // Whatever becomes of the second click, the next one is a first one again.
+    DropPicks();
+    const Step checked = ClickPoint(m_problem, m_procedure, place, m_form.publics.Decimals);
+    if (const auto* refusal = std::get_if<Refusal>(&checked))
+        return m_form.boxes.Tell(refusal->text);
+    if (first)
+        return RunOnTwoPoints(*first, place);
+    m_first_point = place;
+    m_form.SetPointer(window::kPointerArrowHourglass);
+}
+
+void Motion::RunOnTwoPoints(const PointPlace& first, const PointPlace& second) {
+    (void)first;
+    (void)second;
+}
+
+void Motion::RunEntry() {
+    if (view.procedure_entry < 0)
+        return;
+    // A row of the other tab may be in use: the button stands beside the entry and means that.
+    const ProcedureEntry& entry = ProcedureOfEntry(view.procedure_entry);
+    if (m_procedure != entry.procedure)
+        Choose(entry);
+    Take(RunWithText(m_controls.txtProcs.Text()));
+}
+
+Step Motion::RunWithText(const std::string& text) {
+    const int decimals = m_form.publics.Decimals;
+    switch (m_procedure) {
+        case Procedure::ThreePoints: {
+            const mechanics::motion::Problem asked = m_problem;
+            m_problem.awaited_base.reset();
+            return RunThreePoints(asked, text, decimals);
+        }
+        default:
+            return Outcome{m_problem, {}};
+    }
+}
+
+void Motion::NewProblem() {
+    if (!window::Confirm(m_form.boxes, "Se borrará todo. ¿Estás seguro?"))
+        return;
+    m_problem = {};
+    m_dragged = 0;
+    m_controls.pic.Canvas().Cls();
+    m_controls.pic1.Canvas().Cls();
+    ShowGraph(false);
+    m_results.Close();
+    m_panel.ShowNewProblem();
+    ShowAccelerations();
+    PlaceAccelerations();
+}
+
+void Motion::SwapPictures() { ShowGraph(!m_shows_graph); }
+
+void Motion::EraseEquations() {
+    if (window::Confirm(m_form.boxes, "Confirmar borrado de ecuaciones.", window::Buttons::OkCancel))
+        Take(mechanics::motion::EraseEquations(m_problem));
+}
+
+// What the mechanics answer.
+
+void Motion::Take(const Step& step) {
+    if (const auto* refusal = std::get_if<Refusal>(&step))
+        return m_form.boxes.Tell(refusal->text);
+    const auto& outcome = std::get<Outcome>(step);
+    if (outcome.problem != m_problem) {
+        m_problem = outcome.problem;
+        ShowProblem();
+    }
+    for (const mechanics::motion::Event& event : outcome.events)
+        Show(event);
+}
+
+void Motion::Show(const mechanics::motion::Event& event) {
+    using namespace mechanics::motion;
+    std::visit(
+        Overloaded{
+            [this](const WriteLines& report) {
+                frame::WriteLines(m_form, m_controls.rtbSolve, report.lines);
+            },
+            [this](const ClearSlot& band) { ClearBoardLine(m_controls.pic.Canvas(), band.slot); },
+            [this](const BoardLine& line) {
+                PrintBoardLine(m_controls.pic.Canvas(), line.slot, line.markup);
+            },
+            [this](const ShowBoard&) { ShowGraph(false); },
+            [this](const ShowResults&) { m_results.Show(m_problem.results, 0); },
+            [this](const Box& box) { m_form.boxes.Tell(box.text); },
+            [this](const Question& question) { Ask(question); },
+        },
+        event);
+}
+
+void Motion::Ask(const mechanics::motion::Question& question) {
+    const bool is_offer = question.buttons == mechanics::motion::Buttons::OkCancel;
+    const bool agreed = window::Confirm(m_form.boxes, question.text,
+                                        is_offer ? window::Buttons::OkCancel : window::Buttons::YesNo);
+    const auto& request = agreed ? question.yes : question.no;
+    if (request)
+        Take(Continue(m_problem, *request, m_form.publics.Decimals));
+}
+
+void Motion::ShowProblem() {
+    m_panel.ShowCells();
+    ShowAccelerations();
+}
+
+void Motion::ShowGraph(bool shows) {
+    m_shows_graph = shows;
+    m_tool_switch.ShowPic1(shows);
+    m_controls.cmdSeeEqns.SetCaption(shows ? "Ver Ecuacs." : "Ver Gráfico");
+}
+
+// The accelerations.
+
+void Motion::BindAccelerations() {
+    for (const auto& [index, box] : m_controls.txtAccel.Items())
+        On(m_form, box->OnChange, [this, index = index] { TypeAcceleration(index); });
+    OnEnter(m_form, m_controls.txtAccel, [this](int box) { LeaveAcceleration(box); });
+}
+
+void Motion::BindResults() {
+    m_results.OnSolution = [this](std::size_t solution) { m_results.Show(m_problem.results, solution); };
+    m_results.OnPass = [this] {
+        m_problem = WithResultsPassed(m_problem, m_results.Shown(), m_form.publics.Decimals);
+        m_panel.ShowCells();
+    };
+}
+
+void Motion::TypeAcceleration(int index) {
+    window::TextBox& box = m_controls.txtAccel[index];
+    auto& cell = m_problem.accelerations[static_cast<std::size_t>(index)];
+    cell = mechanics::motion::TypedAcceleration(box.Text());
+    if (cell.stored.HoldsNumber())
+        box.SetText(cell.shown);
+}
+
+void Motion::LeaveAcceleration(int index) {
+    if (const auto refusal = mechanics::motion::CheckAcceleration(m_controls.txtAccel[index].Text()))
+        return m_form.boxes.Tell(refusal->text);
+    for (const auto& [next, box] : m_controls.txtAccel.Items())
+        if (next > index && box->Visible())
+            return m_form.SetFocus(*box);
+    m_panel.FocusColumn(1);
+}
+
+void Motion::ShowAccelerations() {
+    for (const auto& [index, box] : m_controls.txtAccel.Items()) {
+        const std::string& shown = m_problem.accelerations[static_cast<std::size_t>(index)].shown;
+        if (box->Text() != shown)
+            box->SetText(shown);
+    }
+}
+
+/// Each box over its stretch; those without one are out of view.
+void Motion::PlaceAccelerations() {
+    for (const auto& [index, box] : m_controls.txtAccel.Items())
+        box->SetVisible(false);
+    for (const Span& span : SpansOf(m_problem.configuration)) {
+        window::TextBox& box = m_controls.txtAccel[span.box];
+        window::Rect place = box.Bounds();
+        place.left = frame::AccelerationBoxLeft(span.first_column, span.points);
+        box.SetBounds(place);
+        box.SetVisible(true);
+    }
+}
+
+}  // namespace tavrelo::tools::motion

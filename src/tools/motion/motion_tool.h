@@ -1,0 +1,100 @@
+#pragma once
+
+#include <optional>
+
+#include "frame/points_panel.h"
+#include "frame/tool_switch.h"
+#include "mechanics/motion/procedures.h"
+#include "tools/motion/procedures.h"
+#include "tools/motion/results_panel.h"
+#include "tools/motion/strip_meaning.h"
+
+namespace tavrelo::tools::motion {
+
+/// The controls that only this tool has, and those in which it reports.
+struct MotionControls {
+    explicit MotionControls(window::Form1& form);
+
+    window::ControlArray<window::TextBox> txtAccel;
+    window::Picture& picAccel;
+    window::TextBox& txtProcs;
+    window::Button& cmdSeeEqns;
+    window::Picture& pic;   // the equations
+    window::Picture& pic1;  // the graph
+    window::RichTextBox& rtbSolve;
+};
+
+/// The tool "Movimiento rectilíneo uniformemente acelerado". It hands what the student does to the mechanics and walks
+/// through what these answer; the problem outlasts a change of tool.
+class Motion : public frame::PointsTool {
+  public:
+    Motion(window::Form1& form, frame::PointsPanel& panel, frame::ToolSwitch& tool_switch);
+
+    frame::ToolHooks Hooks();
+    const mechanics::motion::Problem& Problem() const { return m_problem; }
+    mechanics::motion::Procedure CurrentProcedure() const { return m_procedure; }
+    /// Whether the first of two clicks of a procedure was made.
+    bool HasFirstPoint() const { return m_first_point.has_value(); }
+    const ResultsPanel& Results() const { return m_results; }
+
+    const frame::PointsTexts& Texts() const override;
+    mechanics::points::Table& Table() override { return m_problem.table; }
+    std::optional<frame::TopicPlace> HelpTopic(frame::PointsHelp button) const override;
+    void Configure(int configuration) override;
+    void PressStrip(const window::MouseStroke& stroke) override;
+    void ReleaseStrip(const window::MouseStroke& stroke) override;
+    void ChooseRow(int row) override;
+    void ChooseEntry(int entry) override;
+    void RunEntry() override;
+    void NewProblem() override;
+    void SwapPictures() override;
+    void EraseEquations() override;
+
+  private:
+    void Enter();
+    void BindAccelerations();
+    void BindResults();
+
+    // The strip.
+    void Divide(double position);
+    void PaintStrip();
+    void RunLabel(const StripMeaning& meaning);
+    void ClearPoint(double position);
+    bool TurnToOppositeSpeed(const mechanics::points::PointPlace& place);
+
+    // Procedures.
+    void Choose(const ProcedureEntry& entry);
+    void ShowPointer();
+    void PickPoint(const mechanics::points::PointPlace& place);
+    void RunOnTwoPoints(const mechanics::points::PointPlace& first,
+                        const mechanics::points::PointPlace& second);
+    mechanics::motion::Step RunWithText(const std::string& text);
+    void DropPicks();
+
+    // What the mechanics answer.
+    void Take(const mechanics::motion::Step& step);
+    void Show(const mechanics::motion::Event& event);
+    void Ask(const mechanics::motion::Question& question);
+    void ShowProblem();
+    void ShowGraph(bool shows);
+
+    // The accelerations.
+    void TypeAcceleration(int box);
+    void LeaveAcceleration(int box);
+    void ShowAccelerations();
+    void PlaceAccelerations();
+
+    window::Form1& m_form;
+    frame::PointsPanel& m_panel;
+    frame::ToolSwitch& m_tool_switch;
+    MotionControls m_controls;
+    ResultsPanel m_results;
+
+    mechanics::motion::Problem m_problem;
+    mechanics::motion::Procedure m_procedure = mechanics::motion::Procedure::Plant;
+    std::optional<mechanics::points::PointPlace> m_first_point;  // of a procedure of two clicks
+    int m_dragged = 0;                                           // column, 0 for none
+    bool m_shows_graph = false;
+};
+
+}  // namespace tavrelo::tools::motion
