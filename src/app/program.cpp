@@ -25,6 +25,11 @@ std::optional<std::string> Program::GlobalValue(std::string_view name) const {
     return found->second();
 }
 
+/// How the table of motion is divided.
+const mechanics::points::Configuration& Program::Movers() const {
+    return m_tools->motion.Problem().configuration;
+}
+
 void Program::NameGlobals() {
     const window::Publics& publics = m_form.publics;
     m_globals = {
@@ -47,6 +52,17 @@ void Program::NameGlobals() {
         {"PointCount", [this] { return std::to_string(m_tools->rigid_body.Problem().structure.points.size()); }},
         {"LineCount", [this] { return std::to_string(m_tools->rigid_body.Problem().lines.size()); }},
         {"BodyForceCount", [this] { return std::to_string(m_tools->rigid_body.Problem().forces.size()); }},
+        {"MruaProc", [this] { return std::to_string(static_cast<int>(m_tools->motion.CurrentProcedure())); }},
+        {"NumMoviles", [this] { return std::to_string(Movers().MoverCount()); }},
+        {"PtsMovil(1)", [this] { return std::to_string(Movers().movers[0].points); }},
+        {"PtsMovil(2)", [this] { return std::to_string(Movers().movers[1].points); }},
+        {"NumTramos(1)", [this] { return std::to_string(Movers().movers[0].stretches.size()); }},
+        {"NumTramos(2)", [this] { return std::to_string(Movers().movers[1].stretches.size()); }},
+        {"ConfigVariant", [this] { return std::to_string(m_tools->motion.ConfigurationChosen()); }},
+        {"ConfigPending", [this] { return Truth(Movers().stage == mechanics::points::Stage::Pending); }},
+        {"LimitClicksOpen", [this] { return Truth(Movers().stage == mechanics::points::Stage::Limits); }},
+        {"TableConfigured", [this] { return Truth(Movers().IsConfigured()); }},
+        {"SolutionShown", [this] { return std::to_string(m_tools->motion.SolutionShown()); }},
         {"ClockSel", [this] { return std::to_string(m_tools->clock.ClockSel()); }},
     };
 }

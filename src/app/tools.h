@@ -6,12 +6,15 @@
 #include "frame/help_panel.h"
 #include "frame/menu_bar.h"
 #include "frame/option_strip.h"
+#include "frame/points_panel.h"
 #include "frame/preferences.h"
 #include "frame/shared_expression.h"
 #include "frame/tool_switch.h"
 #include "tools/calculator/calculator_tool.h"
 #include "tools/kinematics/kinematics_tool.h"
+#include "tools/motion/motion_tool.h"
 #include "tools/particle/particle_tool.h"
+#include "tools/projectile/projectile_tool.h"
 #include "tools/rigid/rigid_tool.h"
 
 namespace tavrelo::app {
@@ -32,6 +35,9 @@ struct Program::Tools {
     tools::calculator::CalculatorTool calculator;
     tools::particle::Parts particle;
     tools::rigid::RigidTool rigid_body;
+    frame::PointsPanel points;
+    tools::motion::Motion motion;
+    tools::projectile::Projectile projectile;
     tools::kinematics::KinematicsTool kinematics;
 
   private:

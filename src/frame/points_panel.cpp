@@ -22,7 +22,7 @@ constexpr std::u32string_view kCellCharacters = U"0123456789.+-txyv*/ ";
 
 constexpr Color kEdgeColor = text::Rgb(0x80, 0x80, 0x80);
 constexpr Color kPlainRow = text::Rgb(0xFA, 0xFA, 0xF5);
-constexpr double kRowTextLeft = 10;   // pixels
+constexpr double kRowTextLeft = 10;    // pixels
 constexpr double kRowTextSize = 8.25;  // points
 
 // The lines of what a procedure needs.
@@ -95,9 +95,8 @@ void PointsPanel::BindTable() {
         return m_tool->Table().Stored(place.row, place.col).Text();
     };
     m_rules.shown = [this](const std::string& content) {
-        return text::IsNum(content)
-                   ? text::RoundedText(text::ToNumber(content), m_form.publics.Decimals)
-                   : content;
+        return text::IsNum(content) ? text::RoundedText(text::ToNumber(content), m_form.publics.Decimals)
+                                    : content;
     };
     On(m_form, grid.OnKeyPress, [this](char32_t character) { return KeyPress(character); });
     On(m_form, grid.OnKeyDown, [this](const window::KeyStroke& stroke) {
@@ -171,6 +170,11 @@ void PointsPanel::Enter(PointsTool& tool) {
         PaintEmptyStrip(m_controls.picAccel.Canvas());
     else
         m_controls.picAccel.Canvas().Restore(tool.view.strip);
+    // A tool shows what of these it uses.
+    m_controls.fraRes.SetVisible(false);
+    for (const auto& [index, box] : m_controls.txtAccel.Items())
+        box->SetVisible(false);
+    m_controls.picAccel.SetPointerShape(window::kPointerDefault);
     ShowTable();
     ShowConfigurations();
     ShowProcedures();

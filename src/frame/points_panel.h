@@ -35,8 +35,9 @@ struct PointsControls {
     window::Frame& fraRes;
 };
 
-/// The table of points with its strip, the choice of configurations and of procedures. It binds the events of these
-/// controls once and hands them to the tool in use; each tool keeps its own problem and its own view of them.
+/// The table of points with its strip, the choice of configurations and of procedures. It binds the events of
+/// these controls once and hands them to the tool in use; each tool keeps its own problem and its own view of
+/// them.
 class PointsPanel {
   public:
     PointsPanel(window::Form1& form, HelpPanel& help);
@@ -55,7 +56,8 @@ class PointsPanel {
     void ChooseRow(int row);
     /// A choice of the list: how the entry is answered.
     void ShowAnswering(bool asks_data, bool has_accept);
-    /// What a procedure needs, on the panel of the rows or of the list: up to two lines, or four in two columns.
+    /// What a procedure needs, on the panel of the rows or of the list: up to two lines, or four in two
+    /// columns.
     void ShowRowArguments(std::span<const std::string_view> lines);
     void ShowEntryArguments(std::span<const std::string_view> lines);
 

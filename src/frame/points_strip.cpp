@@ -19,7 +19,7 @@ constexpr double kDigitShift = 4;     // from there to the digit's left edge
 constexpr double kDigitSize = 9;      // points
 constexpr double kDigitTop = 2;       // pixels below the upper edge of the label
 
-constexpr double kPromptTop = 38;      // y of the top of a prompt
+constexpr double kPromptTop = 38;                        // y of the top of a prompt
 constexpr double kPromptSizes[] = {9, 8.25, 7.5, 6.75};  // points, the first that fits
 constexpr double kModeTop = 39;
 constexpr double kModeSize = 8.25;  // points

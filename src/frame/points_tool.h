@@ -13,14 +13,15 @@ namespace tavrelo::frame {
 
 /// The texts that a tool gives the panel of points.
 struct PointsTexts {
-    std::span<const std::string_view> row_labels;       // of the table
-    std::span<const std::string_view> configurations;   // beside the buttons `cmdTable`, from the first
-    std::string_view split_tip;                         // tooltip of the second of these buttons
-    std::span<const std::string_view> procedure_rows;   // of `imgProcs`
-    std::span<const std::string_view> procedure_list;   // of `cboProcs`
+    std::span<const std::string_view> row_labels;      // of the table
+    std::span<const std::string_view> configurations;  // beside the buttons `cmdTable`, from the first
+    std::string_view split_tip;                        // tooltip of the second of these buttons
+    std::span<const std::string_view> procedure_rows;  // of `imgProcs`
+    std::span<const std::string_view> procedure_list;  // of `cboProcs`
 };
 
-/// What the panel of points shows for a tool apart from the tool's problem; kept while another tool is in use.
+/// What the panel of points shows for a tool apart from the tool's problem; kept while another tool is in
+/// use.
 struct PointsView {
     std::vector<window::DrawOp> strip;  // empty: nothing was drawn yet
     int configuration = -1;             // underlined; -1 for none
@@ -42,8 +43,8 @@ struct TopicPlace {
     std::string_view tag;
 };
 
-/// What a tool does with the events of the panel of points while it is in use. The panel has shown what the user
-/// chose before it calls.
+/// What a tool does with the events of the panel of points while it is in use. The panel has shown what the
+/// user chose before it calls.
 class PointsTool {
   public:
     virtual ~PointsTool() = default;

@@ -153,6 +153,7 @@ void ToolSwitch::Enter(window::Tool tool) {
         OnFillTopics(m_form.publics.HelpTool);
     m_controls.txtArgHelp.SetContent({});
     m_controls.rtbCalc.SetContent({});
+    m_form.SetPointer(window::kPointerDefault);
     ShowPanels(tool);
     BringPictures(tool);
     if (tool == window::Tool::Calculator)
@@ -189,6 +190,9 @@ void ToolSwitch::ShowPanels(window::Tool tool) {
     m_form.Arrange(look.arrangement);
     for (const auto& [panel, tools] : kPanels)
         panel.SetVisible(std::ranges::find(tools, tool) != tools.end());
+    // A tool that shows one of these at a time hides the other.
+    m_controls.picArgs1.SetVisible(true);
+    m_controls.picArgs2.SetVisible(true);
     m_controls.fraExpr.SetVisible(true);
     m_controls.fraExpr.SetBackColor(look.expression);
     m_controls.tabCalc.SetVisible(true);

@@ -114,6 +114,15 @@ void Motion::Enter() {
     m_panel.FocusTable(m_problem.configuration.IsConfigured());
 }
 
+int Motion::SolutionShown() const {
+    return m_problem.results.solutions.empty() ? 0 : static_cast<int>(m_results.Shown()) + 1;
+}
+
+int Motion::ConfigurationChosen() const {
+    constexpr int kNoButton = 4;
+    return view.configuration < 0 ? kNoButton : view.configuration;
+}
+
 const frame::PointsTexts& Motion::Texts() const { return MotionTexts(); }
 
 std::optional<frame::TopicPlace> Motion::HelpTopic(frame::PointsHelp button) const {
@@ -220,12 +229,10 @@ void Motion::RunLabel(const StripMeaning& meaning) {
 }
 
 bool Motion::TurnToOppositeSpeed(const PointPlace& place) {
-    auto turned = WithOppositeSpeed(m_problem, place, m_form.publics.Decimals);
-    if (!turned)
-        return false;
-    m_problem = std::move(*turned);
-    ShowProblem();
-    return true;
+    const auto turned = TurnSpeed(m_problem, place, m_form.publics.Decimals);
+    if (turned)
+        Take(*turned);
+    return turned.has_value();
 }
 
 // Procedures.
@@ -341,21 +348,20 @@ void Motion::Take(const Step& step) {
 
 void Motion::Show(const mechanics::motion::Event& event) {
     using namespace mechanics::motion;
-    std::visit(
-        Overloaded{
-            [this](const WriteLines& report) {
-                frame::WriteLines(m_form, m_controls.rtbSolve, report.lines);
-            },
-            [this](const ClearSlot& band) { ClearBoardLine(m_controls.pic.Canvas(), band.slot); },
-            [this](const BoardLine& line) {
-                PrintBoardLine(m_controls.pic.Canvas(), line.slot, line.markup);
-            },
-            [this](const ShowBoard&) { ShowGraph(false); },
-            [this](const ShowResults&) { m_results.Show(m_problem.results, 0); },
-            [this](const Box& box) { m_form.boxes.Tell(box.text); },
-            [this](const Question& question) { Ask(question); },
-        },
-        event);
+    std::visit(Overloaded{
+                   [this](const WriteLines& report) {
+                       frame::WriteLines(m_form, m_controls.rtbSolve, report.lines);
+                   },
+                   [this](const ClearSlot& band) { ClearBoardLine(m_controls.pic.Canvas(), band.slot); },
+                   [this](const BoardLine& line) {
+                       PrintBoardLine(m_controls.pic.Canvas(), line.slot, line.markup);
+                   },
+                   [this](const ShowBoard&) { ShowGraph(false); },
+                   [this](const ShowResults&) { m_results.Show(m_problem.results, 0); },
+                   [this](const Box& box) { m_form.boxes.Tell(box.text); },
+                   [this](const Question& question) { Ask(question); },
+               },
+               event);
 }
 
 void Motion::Ask(const mechanics::motion::Question& question) {

@@ -24,8 +24,8 @@ struct MotionControls {
     window::RichTextBox& rtbSolve;
 };
 
-/// The tool "Movimiento rectilíneo uniformemente acelerado". It hands what the student does to the mechanics and walks
-/// through what these answer; the problem outlasts a change of tool.
+/// The tool "Movimiento rectilíneo uniformemente acelerado". It hands what the student does to the mechanics
+/// and walks through what these answer; the problem outlasts a change of tool.
 class Motion : public frame::PointsTool {
   public:
     Motion(window::Form1& form, frame::PointsPanel& panel, frame::ToolSwitch& tool_switch);
@@ -35,7 +35,10 @@ class Motion : public frame::PointsTool {
     mechanics::motion::Procedure CurrentProcedure() const { return m_procedure; }
     /// Whether the first of two clicks of a procedure was made.
     bool HasFirstPoint() const { return m_first_point.has_value(); }
-    const ResultsPanel& Results() const { return m_results; }
+    /// The solution in view in the panel of results, 1 or 2; 0 before there was one.
+    int SolutionShown() const;
+    /// The button of the configuration in force, 4 for none.
+    int ConfigurationChosen() const;
 
     const frame::PointsTexts& Texts() const override;
     mechanics::points::Table& Table() override { return m_problem.table; }

@@ -79,12 +79,10 @@ constexpr ProcedureEntry kList[] = {
      kBothRatiosNeeds, "PXQV"},
     {Procedure::Link, "Ligar 2 tramos de movimiento de un mismo móvil", kLinkNeeds, "LIGAR"},
     {Procedure::SystemVA, "Resolver un sistema de ecuaciones v,a - v,a", kLinearNeeds, "ALG"},
-    {Procedure::SystemV2A, "Resolver un sistema de ecuaciones v2,a - v,a", kSpeedSquaredNeeds,
+    {Procedure::SystemV2A, "Resolver un sistema de ecuaciones v2,a - v,a", kSpeedSquaredNeeds, "ALG"},
+    {Procedure::SystemV2A2A, "Resolver un sistema de ecuaciones v2,a2,a - v,a", kBothSquaredNeeds, "ALG"},
+    {Procedure::SystemV2A2AV2A, "Resolver un sistema de ecuaciones v2,a2,a - v2,a", kBothSquaredTwiceNeeds,
      "ALG"},
-    {Procedure::SystemV2A2A, "Resolver un sistema de ecuaciones v2,a2,a - v,a", kBothSquaredNeeds,
-     "ALG"},
-    {Procedure::SystemV2A2AV2A, "Resolver un sistema de ecuaciones v2,a2,a - v2,a",
-     kBothSquaredTwiceNeeds, "ALG"},
     {Procedure::Quadratic, "Resolver la ecuación cuadrática Ax^2 + Bx + C = 0", kQuadraticNeeds, "ALG"},
 };
 
@@ -107,8 +105,8 @@ constexpr Lines kConfigurations = {
     "   Dos móviles, el primero 2 ó 3 aceleraciones  -- a, a' [, a''], A",
 };
 constexpr frame::PointsTexts kTexts = {
-    kRowLabels, kConfigurations,
-    "A lo más 2 clics en la tabla, en el espacio gris arriba de los encabezados", kRowTitles, kListTitles};
+    kRowLabels, kConfigurations, "A lo más 2 clics en la tabla, en el espacio gris arriba de los encabezados",
+    kRowTitles, kListTitles};
 
 constexpr std::string_view kConfigurationFile = "\\socorro.txt";
 constexpr std::string_view kProcedureFile = "\\ayudaprocs.txt";

@@ -12,7 +12,7 @@ using mechanics::motion::Procedure;
 
 struct ProcedureEntry {
     Procedure procedure;
-    std::string_view title;                  // of its row or its place in the list
+    std::string_view title;                   // of its row or its place in the list
     std::span<const std::string_view> needs;  // what it needs, in picture markup
     std::string_view help_tag;
 };
@@ -30,8 +30,8 @@ bool TakesTwoPoints(Procedure procedure);
 
 const frame::PointsTexts& MotionTexts();
 
-/// The topic of a help button: on the configuration, on the row in use (from 1), or on the entry in use (from 0, -1
-/// for none). Nothing where there is none.
+/// The topic of a help button: on the configuration, on the row in use (from 1), or on the entry in use (from
+/// 0, -1 for none). Nothing where there is none.
 std::optional<frame::TopicPlace> MotionTopic(frame::PointsHelp button, int row, int entry);
 
 }  // namespace tavrelo::tools::motion

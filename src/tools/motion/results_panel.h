@@ -31,7 +31,7 @@ class ResultsPanel {
 
     window::Form1& m_form;
     window::Frame& m_frame;
-    window::ControlArray<window::Label> m_labels;   // two columns of point, t, x, v
+    window::ControlArray<window::Label> m_labels;    // two columns of point, t, x, v
     window::ControlArray<window::Button> m_buttons;  // first and second solution, pass
     std::size_t m_shown = 0;
     bool m_open = false;

@@ -4,7 +4,8 @@
 
 namespace tavrelo::tools::motion {
 
-/// The colour of the labels and curves of a mover's stretch, both from 1: the three stretches of mover 1, and mover 2.
+/// The colour of the labels and curves of a mover's stretch, both from 1: the three stretches of mover 1, and
+/// mover 2.
 constexpr text::Color StretchColor(int mover, int stretch) {
     if (mover == 2)
         return text::FromBgr(0xC000C0);
