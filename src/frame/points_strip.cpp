@@ -48,9 +48,13 @@ void PrintDigit(Surface& strip, int column, int number, Color color) {
             kLabelTop - kDigitTop, color);
 }
 
-void LabelBox(Surface& strip, int column, Color color, bool filled) {
+void OutlineLabel(Surface& strip, int column, Color color) {
     const double left = LeftOfColumn(column);
-    strip.Box(left, strip.FromBottom(kLabelTop), left + kStripColumn - 1, strip.Height() - 1, color, filled);
+    strip.Box(left, strip.FromBottom(kLabelTop), left + kStripColumn - 1, strip.Height() - 1, color, false);
+}
+
+void FillLabel(Surface& strip, double left, double right, Color color) {
+    strip.Box(left, strip.FromBottom(kLabelTop), right, strip.Height() - 1, color, true);
 }
 
 void FillBand(Surface& strip, double top_y, double bottom_y, Color color) {
@@ -80,7 +84,7 @@ void PaintEmptyStrip(Surface& strip) {
     FillBand(strip, kLabelTop, 1, kLightBand);
     strip.CurrentFont = InterfaceFont(kDigitSize);
     for (int column = 1; column <= kPointColumns; ++column) {
-        LabelBox(strip, column, kEdgeColor, false);
+        OutlineLabel(strip, column, kEdgeColor);
         PrintDigit(strip, column, column - 1, text::kBlack);
     }
     OutlineStrip(strip);
@@ -106,8 +110,11 @@ void PaintPointLabels(Surface& strip, std::span<const StripLabel> labels) {
     strip.CurrentFont = InterfaceFont(kDigitSize, true);
     int column = 1;
     for (const StripLabel& label : labels) {
-        LabelBox(strip, column, label.color, true);
-        LabelBox(strip, column, text::kWhite, false);
+        const double left = LeftOfColumn(column);
+        FillLabel(strip, left, left + kStripColumn - 1, label.left);
+        if (label.right != label.left)
+            FillLabel(strip, left + kStripColumn / 2, left + kStripColumn - 1, label.right);
+        OutlineLabel(strip, column, text::kWhite);
         PrintDigit(strip, column, label.number, text::kWhite);
         ++column;
     }

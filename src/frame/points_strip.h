@@ -28,10 +28,12 @@ StripPlace PlaceOnStrip(double x, double y);
 /// Left edge of the box of an acceleration that stands over `points` columns from `first_column` (from 1).
 int AccelerationBoxLeft(int first_column, int points);
 
-/// A point's label.
+/// A point's label. One that two stretches share has the earlier one's colour on its left half and the later
+/// one's on its right half, as a click is taken.
 struct StripLabel {
     int number;  // of the point in its mover
-    text::Color color;
+    text::Color left;
+    text::Color right;
 };
 
 /// The strip before anything is chosen: light labels 0 to 8 under an empty grey band.

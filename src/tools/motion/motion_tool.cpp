@@ -7,6 +7,7 @@
 #include "frame/writer.h"
 #include "tools/motion/motion_board.h"
 #include "tools/motion/stretch_colors.h"
+#include "tools/motion/typed_procedures.h"
 #include "window/guarded.h"
 #include "window/questions.h"
 
@@ -44,16 +45,17 @@ struct Overloaded : Handlers... {
     using Handlers::operator()...;
 };
 
-/// The colour of every label from the left; a point between two stretches has that of the later one.
+/// The labels of all points from the left.
 std::vector<frame::StripLabel> LabelsOf(const Configuration& configuration) {
     std::vector<frame::StripLabel> labels;
     for (int mover = 1; mover <= configuration.MoverCount(); ++mover) {
+        int stretch = 1;  // the one that the point ends, or in which it lies
         for (int point = 0; point < configuration.MoverAt(mover).points; ++point) {
-            int stretch = 1;
-            while (configuration.HasStretch(mover, stretch + 1) &&
-                   configuration.StretchAt(mover, stretch + 1).first <= point)
+            const text::Color left = StretchColor(mover, stretch);
+            if (configuration.HasStretch(mover, stretch + 1) &&
+                configuration.StretchAt(mover, stretch + 1).first == point)
                 ++stretch;
-            labels.push_back({point, StretchColor(mover, stretch)});
+            labels.push_back({point, left, StretchColor(mover, stretch)});
         }
     }
     return labels;
@@ -307,7 +309,7 @@ Step Motion::RunWithText(const std::string& text) {
             return RunThreePoints(asked, text, decimals);
         }
         default:
-            return Outcome{m_problem, {}};
+            return RunTyped(m_problem, m_procedure, text, decimals);
     }
 }
 
@@ -350,7 +352,7 @@ void Motion::Show(const mechanics::motion::Event& event) {
     using namespace mechanics::motion;
     std::visit(Overloaded{
                    [this](const WriteLines& report) {
-                       frame::WriteLines(m_form, m_controls.rtbSolve, report.lines);
+                       frame::WritePortions(m_form, m_controls.rtbSolve, std::span(&report.lines, 1));
                    },
                    [this](const ClearSlot& band) { ClearBoardLine(m_controls.pic.Canvas(), band.slot); },
                    [this](const BoardLine& line) {
