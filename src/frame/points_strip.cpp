@@ -65,6 +65,20 @@ void OutlineStrip(Surface& strip) {
     strip.Box(0, 0, strip.Width() - 1, strip.Height() - 1, kEdgeColor, false);
 }
 
+void PaintLabels(Surface& strip, std::span<const StripLabel> labels) {
+    strip.CurrentFont = InterfaceFont(kDigitSize, true);
+    int column = 1;
+    for (const StripLabel& label : labels) {
+        const double left = LeftOfColumn(column);
+        FillLabel(strip, left, left + kStripColumn - 1, label.left);
+        if (label.right != label.left)
+            FillLabel(strip, left + kStripColumn / 2, left + kStripColumn - 1, label.right);
+        OutlineLabel(strip, column, text::kWhite);
+        PrintDigit(strip, column, label.number, text::kWhite);
+        ++column;
+    }
+}
+
 }  // namespace
 
 StripPlace PlaceOnStrip(double x, double y) {
@@ -102,22 +116,8 @@ void PaintStripPrompt(Surface& strip, std::string_view prompt, double left) {
 void PaintPointStrip(Surface& strip, std::span<const StripLabel> labels) {
     strip.Cls();
     FillBand(strip, kStripTop, kLabelTop, kPointGrey);
-    PaintPointLabels(strip, labels);
+    PaintLabels(strip, labels);
     OutlineStrip(strip);
-}
-
-void PaintPointLabels(Surface& strip, std::span<const StripLabel> labels) {
-    strip.CurrentFont = InterfaceFont(kDigitSize, true);
-    int column = 1;
-    for (const StripLabel& label : labels) {
-        const double left = LeftOfColumn(column);
-        FillLabel(strip, left, left + kStripColumn - 1, label.left);
-        if (label.right != label.left)
-            FillLabel(strip, left + kStripColumn / 2, left + kStripColumn - 1, label.right);
-        OutlineLabel(strip, column, text::kWhite);
-        PrintDigit(strip, column, label.number, text::kWhite);
-        ++column;
-    }
 }
 
 void PaintBracket(Surface& strip, int first_column, int points) {

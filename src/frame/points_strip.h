@@ -42,8 +42,6 @@ void PaintEmptyStrip(window::Surface& strip);
 void PaintStripPrompt(window::Surface& strip, std::string_view prompt, double left);
 /// Clears the strip and paints the grey band and the labels of all points.
 void PaintPointStrip(window::Surface& strip, std::span<const StripLabel> labels);
-/// The labels alone, over those that stand there.
-void PaintPointLabels(window::Surface& strip, std::span<const StripLabel> labels);
 /// The bracket over the columns of one acceleration, behind its box.
 void PaintBracket(window::Surface& strip, int first_column, int points);
 /// How the speed of a point is given ("md", "cs"), in the grey band over its column.
