@@ -25,12 +25,8 @@ std::optional<std::string> Program::GlobalValue(std::string_view name) const {
     return found->second();
 }
 
-/// How the table of motion is divided.
-const mechanics::points::Configuration& Program::Movers() const {
-    return m_tools->motion.Problem().configuration;
-}
-
 void Program::NameGlobals() {
+    const auto movers = [this]() -> const auto& { return m_tools->motion.Problem().configuration; };
     const window::Publics& publics = m_form.publics;
     m_globals = {
         {"CurrentTool", [&publics] { return std::to_string(static_cast<int>(publics.CurrentTool)); }},
@@ -53,15 +49,15 @@ void Program::NameGlobals() {
         {"LineCount", [this] { return std::to_string(m_tools->rigid_body.Problem().lines.size()); }},
         {"BodyForceCount", [this] { return std::to_string(m_tools->rigid_body.Problem().forces.size()); }},
         {"MruaProc", [this] { return std::to_string(static_cast<int>(m_tools->motion.CurrentProcedure())); }},
-        {"NumMoviles", [this] { return std::to_string(Movers().MoverCount()); }},
-        {"PtsMovil(1)", [this] { return std::to_string(Movers().movers[0].points); }},
-        {"PtsMovil(2)", [this] { return std::to_string(Movers().movers[1].points); }},
-        {"NumTramos(1)", [this] { return std::to_string(Movers().movers[0].stretches.size()); }},
-        {"NumTramos(2)", [this] { return std::to_string(Movers().movers[1].stretches.size()); }},
+        {"NumMoviles", [movers] { return std::to_string(movers().MoverCount()); }},
+        {"PtsMovil(1)", [movers] { return std::to_string(movers().movers[0].points); }},
+        {"PtsMovil(2)", [movers] { return std::to_string(movers().movers[1].points); }},
+        {"NumTramos(1)", [movers] { return std::to_string(movers().movers[0].stretches.size()); }},
+        {"NumTramos(2)", [movers] { return std::to_string(movers().movers[1].stretches.size()); }},
         {"ConfigVariant", [this] { return std::to_string(m_tools->motion.ConfigurationChosen()); }},
-        {"ConfigPending", [this] { return Truth(Movers().stage == mechanics::points::Stage::Pending); }},
-        {"LimitClicksOpen", [this] { return Truth(Movers().stage == mechanics::points::Stage::Limits); }},
-        {"TableConfigured", [this] { return Truth(Movers().IsConfigured()); }},
+        {"ConfigPending", [movers] { return Truth(movers().stage == mechanics::points::Stage::Pending); }},
+        {"LimitClicksOpen", [movers] { return Truth(movers().stage == mechanics::points::Stage::Limits); }},
+        {"TableConfigured", [movers] { return Truth(movers().IsConfigured()); }},
         {"SolutionShown", [this] { return std::to_string(m_tools->motion.SolutionShown()); }},
         {"ClockSel", [this] { return std::to_string(m_tools->clock.ClockSel()); }},
     };

@@ -7,7 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "mechanics/points/configuration.h"
 #include "window/form1.h"
 
 namespace tavrelo::app {
@@ -30,7 +29,6 @@ class Program {
     struct Tools;
 
     void NameGlobals();
-    const mechanics::points::Configuration& Movers() const;
 
     window::Form1 m_form;
     std::unique_ptr<Tools> m_tools;
