@@ -5,9 +5,10 @@
 
 #include "frame/points_strip.h"
 #include "frame/writer.h"
+#include "mechanics/motion/typed_procedures.h"
 #include "tools/motion/motion_board.h"
+#include "tools/motion/motion_graph.h"
 #include "tools/motion/stretch_colors.h"
-#include "tools/motion/typed_procedures.h"
 #include "window/guarded.h"
 #include "window/questions.h"
 
@@ -268,26 +269,37 @@ void Motion::ShowPointer() {
 }
 
 void Motion::DropPicks() {
-    m_first_point.reset();
+    m_first_point.Forget();
     m_form.SetPointer(window::kPointerDefault);
 }
 
 void Motion::PickPoint(const PointPlace& place) {
-    const auto first = m_first_point;
-    // Whatever becomes of the second click, the next one is a first one again.
+    // Whatever becomes of this click, when it is the second one the next is a first one again.
+    mechanics::motion::PendingPoint picked = m_first_point;
     DropPicks();
     const Step checked = ClickPoint(m_problem, m_procedure, place, m_form.publics.Decimals);
     if (const auto* refusal = std::get_if<Refusal>(&checked))
         return m_form.boxes.Tell(refusal->text);
-    if (first)
-        return RunOnTwoPoints(*first, place);
-    m_first_point = place;
+    if (const auto pair = picked.Click(place))
+        return RunOnTwoPoints(*pair);
+    m_first_point = picked;
     m_form.SetPointer(window::kPointerArrowHourglass);
 }
 
-void Motion::RunOnTwoPoints(const PointPlace& first, const PointPlace& second) {
-    (void)first;
-    (void)second;
+void Motion::RunOnTwoPoints(const mechanics::motion::PointPair& pair) {
+    if (m_procedure == Procedure::Graph)
+        DrawGraph(pair);
+    else
+        Take(RunOnPair(m_problem, m_procedure, pair, m_form.publics.Decimals));
+}
+
+void Motion::DrawGraph(const mechanics::motion::PointPair& pair) {
+    const auto graph = GraphBetween(m_problem, pair.first, pair.second);
+    if (const auto* refusal = std::get_if<Refusal>(&graph))
+        return m_form.boxes.Tell(refusal->text);
+    DrawMotionGraph(m_controls.pic1.Canvas(), std::get<mechanics::motion::MotionGraph>(graph),
+                    m_form.publics.Decimals);
+    ShowGraph(true);
 }
 
 void Motion::RunEntry() {
@@ -297,20 +309,10 @@ void Motion::RunEntry() {
     const ProcedureEntry& entry = ProcedureOfEntry(view.procedure_entry);
     if (m_procedure != entry.procedure)
         Choose(entry);
-    Take(RunWithText(m_controls.txtProcs.Text()));
-}
-
-Step Motion::RunWithText(const std::string& text) {
-    const int decimals = m_form.publics.Decimals;
-    switch (m_procedure) {
-        case Procedure::ThreePoints: {
-            const mechanics::motion::Problem asked = m_problem;
-            m_problem.awaited_base.reset();
-            return RunThreePoints(asked, text, decimals);
-        }
-        default:
-            return RunTyped(m_problem, m_procedure, text, decimals);
-    }
+    // A motion that waits for its base does so until the next press only.
+    const mechanics::motion::Problem asked = m_problem;
+    m_problem.awaited_base.reset();
+    Take(RunTyped(asked, m_procedure, m_controls.txtProcs.Text(), m_form.publics.Decimals));
 }
 
 void Motion::NewProblem() {

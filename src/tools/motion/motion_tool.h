@@ -5,6 +5,7 @@
 #include "frame/points_panel.h"
 #include "frame/tool_switch.h"
 #include "mechanics/motion/procedures.h"
+#include "mechanics/motion/two_points.h"
 #include "tools/motion/procedures.h"
 #include "tools/motion/results_panel.h"
 #include "tools/motion/strip_meaning.h"
@@ -34,7 +35,7 @@ class Motion : public frame::PointsTool {
     const mechanics::motion::Problem& Problem() const { return m_problem; }
     mechanics::motion::Procedure CurrentProcedure() const { return m_procedure; }
     /// Whether the first of two clicks of a procedure was made.
-    bool HasFirstPoint() const { return m_first_point.has_value(); }
+    bool HasFirstPoint() const { return m_first_point.IsWaiting(); }
     /// The solution in view in the panel of results, 1 or 2; 0 before there was one.
     int SolutionShown() const;
     /// The button of the configuration in force, 4 for none.
@@ -69,9 +70,8 @@ class Motion : public frame::PointsTool {
     void Choose(const ProcedureEntry& entry);
     void ShowPointer();
     void PickPoint(const mechanics::points::PointPlace& place);
-    void RunOnTwoPoints(const mechanics::points::PointPlace& first,
-                        const mechanics::points::PointPlace& second);
-    mechanics::motion::Step RunWithText(const std::string& text);
+    void RunOnTwoPoints(const mechanics::motion::PointPair& pair);
+    void DrawGraph(const mechanics::motion::PointPair& pair);
     void DropPicks();
 
     // What the mechanics answer.
@@ -95,8 +95,8 @@ class Motion : public frame::PointsTool {
 
     mechanics::motion::Problem m_problem;
     mechanics::motion::Procedure m_procedure = mechanics::motion::Procedure::Plant;
-    std::optional<mechanics::points::PointPlace> m_first_point;  // of a procedure of two clicks
-    int m_dragged = 0;                                           // column, 0 for none
+    mechanics::motion::PendingPoint m_first_point;  // of a procedure of two clicks
+    int m_dragged = 0;                              // column, 0 for none
     bool m_shows_graph = false;
 };
 

@@ -123,10 +123,6 @@ const ProcedureEntry& ProcedureOfRow(int row) { return At(kRows, row - 1); }
 
 const ProcedureEntry& ProcedureOfEntry(int entry) { return At(kList, entry); }
 
-bool TakesTwoPoints(Procedure procedure) {
-    return procedure == Procedure::Graph || procedure == Procedure::Distance || procedure == Procedure::Link;
-}
-
 const frame::PointsTexts& MotionTexts() { return kTexts; }
 
 std::optional<frame::TopicPlace> MotionTopic(frame::PointsHelp button, int row, int entry) {

@@ -25,9 +25,6 @@ inline constexpr int kSubstituteRow = 2;
 const ProcedureEntry& ProcedureOfRow(int row);
 const ProcedureEntry& ProcedureOfEntry(int entry);
 
-/// Whether it works by clicks on two points.
-bool TakesTwoPoints(Procedure procedure);
-
 const frame::PointsTexts& MotionTexts();
 
 /// The topic of a help button: on the configuration, on the row in use (from 1), or on the entry in use (from

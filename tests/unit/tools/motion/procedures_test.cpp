@@ -34,14 +34,6 @@ TEST(ProceduresTest, FitTheirNeedsIntoTheirPanel) {
     }
 }
 
-TEST(ProceduresTest, KnowThoseOfTwoClicks) {
-    EXPECT_TRUE(TakesTwoPoints(Procedure::Graph));
-    EXPECT_TRUE(TakesTwoPoints(Procedure::Distance));
-    EXPECT_TRUE(TakesTwoPoints(Procedure::Link));
-    EXPECT_FALSE(TakesTwoPoints(Procedure::Plant));
-    EXPECT_FALSE(TakesTwoPoints(Procedure::ThreePoints));
-}
-
 TEST(ProceduresTest, HaveATopicEach) {
     EXPECT_EQ(MotionTopic(frame::PointsHelp::Configuration, 1, -1)->tag, "CONFIGTABLE");
     EXPECT_EQ(MotionTopic(frame::PointsHelp::Row, 3, -1)->tag, "SUSV0A");
