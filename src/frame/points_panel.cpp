@@ -49,29 +49,7 @@ void ShowArguments(window::Picture& panel, std::span<const std::string_view> lin
 
 }  // namespace
 
-PointsControls::PointsControls(window::Form1& form)
-    : tabMrua(form.Get<window::TabStrip>("tabMrua")),
-      cmdTable(form.GetArray<window::Button>("cmdTable")),
-      lblAs(form.GetArray<window::Label>("lblAs")),
-      cmdHelpTable(form.GetArray<window::Button>("cmdHelpTable")),
-      imgProcs(form.Get<window::Picture>("imgProcs")),
-      shpMrua(form.Get<window::Shape>("shpMrua")),
-      cboProcs(form.Get<window::ComboBox>("cboProcs")),
-      txtProcs(form.Get<window::TextBox>("txtProcs")),
-      cmdProcs(form.Get<window::Button>("cmdProcs")),
-      picArgs1(form.Get<window::Picture>("picArgs1")),
-      picArgs2(form.Get<window::Picture>("picArgs2")),
-      picAccel(form.Get<window::Picture>("picAccel")),
-      txtAccel(form.GetArray<window::TextBox>("txtAccel")),
-      Gd2(form.Get<window::Grid>("Gd2")),
-      cmdNewMruaProbl(form.Get<window::Button>("cmdNewMruaProbl")),
-      cmdEraseTable(form.Get<window::Button>("cmdEraseTable")),
-      cmdSeeEqns(form.Get<window::Button>("cmdSeeEqns")),
-      cmdEraseEqns(form.Get<window::Button>("cmdEraseEqns")),
-      fraRes(form.Get<window::Frame>("fraRes")) {}
-
-PointsPanel::PointsPanel(window::Form1& form, HelpPanel& help)
-    : m_form(form), m_help(help), m_controls(form) {
+PointsPanel::PointsPanel(window::Form1& form, HelpPanel& help) : m_form(form), m_help(help) {
     constexpr int kIconWidth = 30;  // pixels
     constexpr int kIconHeight = 26;
     for (const auto& [index, button] : m_controls.cmdTable.Items())
@@ -103,12 +81,7 @@ void PointsPanel::BindTable() {
         return m_tool && window::EditCell(m_controls.Gd2, m_rules, m_form.clipboard, stroke);
     });
     On(m_form, grid.OnEnterCell, [this] { EnterCell(); });
-    On(m_form, grid.OnDblClick, [this] {
-        if (!m_tool || !m_controls.Gd2.HasCell(m_controls.Gd2.Row(), m_controls.Gd2.Col()))
-            return;
-        m_tool->Table().At(m_controls.Gd2.Row(), m_controls.Gd2.Col()).shown.clear();
-        m_controls.Gd2.SetCell(m_controls.Gd2.Row(), m_controls.Gd2.Col(), "");
-    });
+    On(m_form, grid.OnDblClick, [this] { HideCell(); });
 }
 
 void PointsPanel::BindStrip() {
@@ -319,6 +292,13 @@ bool PointsPanel::KeyPress(char32_t character) {
         return true;
     }
     return window::TypeIntoCell(m_controls.Gd2, m_rules, character);
+}
+
+/// A double click empties the view of the cell alone: what it holds still counts.
+void PointsPanel::HideCell() {
+    window::Grid& grid = m_controls.Gd2;
+    m_tool->Table().At(grid.Row(), grid.Col()).shown.clear();
+    grid.SetCell(grid.Row(), grid.Col(), "");
 }
 
 /// The key Enter: down the column, then to the next one; it stays in the last cell.

@@ -12,27 +12,26 @@ namespace tavrelo::frame {
 
 /// The controls that the tools with a table of points share.
 struct PointsControls {
-    explicit PointsControls(window::Form1& form);
-
-    window::TabStrip& tabMrua;
-    window::ControlArray<window::Button> cmdTable;
-    window::ControlArray<window::Label> lblAs;
-    window::ControlArray<window::Button> cmdHelpTable;
-    window::Picture& imgProcs;
-    window::Shape& shpMrua;
-    window::ComboBox& cboProcs;
-    window::TextBox& txtProcs;
-    window::Button& cmdProcs;
-    window::Picture& picArgs1;
-    window::Picture& picArgs2;
-    window::Picture& picAccel;
-    window::ControlArray<window::TextBox> txtAccel;
-    window::Grid& Gd2;
-    window::Button& cmdNewMruaProbl;
-    window::Button& cmdEraseTable;
-    window::Button& cmdSeeEqns;
-    window::Button& cmdEraseEqns;
-    window::Frame& fraRes;
+    window::Form1& form;
+    window::TabStrip& tabMrua = form.Get<window::TabStrip>("tabMrua");
+    window::ControlArray<window::Button> cmdTable = form.GetArray<window::Button>("cmdTable");
+    window::ControlArray<window::Label> lblAs = form.GetArray<window::Label>("lblAs");
+    window::ControlArray<window::Button> cmdHelpTable = form.GetArray<window::Button>("cmdHelpTable");
+    window::Picture& imgProcs = form.Get<window::Picture>("imgProcs");
+    window::Shape& shpMrua = form.Get<window::Shape>("shpMrua");
+    window::ComboBox& cboProcs = form.Get<window::ComboBox>("cboProcs");
+    window::TextBox& txtProcs = form.Get<window::TextBox>("txtProcs");
+    window::Button& cmdProcs = form.Get<window::Button>("cmdProcs");
+    window::Picture& picArgs1 = form.Get<window::Picture>("picArgs1");
+    window::Picture& picArgs2 = form.Get<window::Picture>("picArgs2");
+    window::Picture& picAccel = form.Get<window::Picture>("picAccel");
+    window::ControlArray<window::TextBox> txtAccel = form.GetArray<window::TextBox>("txtAccel");
+    window::Grid& Gd2 = form.Get<window::Grid>("Gd2");
+    window::Button& cmdNewMruaProbl = form.Get<window::Button>("cmdNewMruaProbl");
+    window::Button& cmdEraseTable = form.Get<window::Button>("cmdEraseTable");
+    window::Button& cmdSeeEqns = form.Get<window::Button>("cmdSeeEqns");
+    window::Button& cmdEraseEqns = form.Get<window::Button>("cmdEraseEqns");
+    window::Frame& fraRes = form.Get<window::Frame>("fraRes");
 };
 
 /// The table of points with its strip, the choice of configurations and of procedures. It binds the events of
@@ -64,8 +63,6 @@ class PointsPanel {
     /// No configuration is underlined any more, the first row is in use and no entry chosen.
     void ShowNewProblem();
 
-    PointsControls& Controls() { return m_controls; }
-
   private:
     void BindTable();
     void BindStrip();
@@ -75,6 +72,7 @@ class PointsPanel {
     void ChooseEntry();
     void EraseTable();
     bool KeyPress(char32_t character);
+    void HideCell();
     void MoveOn();
     void EnterCell();
     void ShowTable();
@@ -86,7 +84,7 @@ class PointsPanel {
 
     window::Form1& m_form;
     HelpPanel& m_help;
-    PointsControls m_controls;
+    PointsControls m_controls{m_form};
     window::CellRules m_rules;
     PointsTool* m_tool = nullptr;
 };

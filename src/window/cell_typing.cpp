@@ -52,10 +52,13 @@ char32_t CtrlLetter(const KeyStroke& stroke) {
     return is_capital ? stroke.character + kToSmall : stroke.character;
 }
 
+/// A selection dragged from a heading leaves the heading as the current cell.
+bool IsInHeadings(const Grid& grid) { return grid.Row() < grid.FixedRows() || grid.Col() < grid.FixedCols(); }
+
 }  // namespace
 
 bool TypeIntoCell(Grid& grid, const CellRules& rules, char32_t character) {
-    if (!grid.HasCell(grid.Row(), grid.Col()))
+    if (!grid.HasCell(grid.Row(), grid.Col()) || IsInHeadings(grid))
         return false;
     std::u32string text = text::ToCodePoints(grid.Cell(grid.Row(), grid.Col()));
     if (character == kBackspaceCharacter && !text.empty())
@@ -71,7 +74,7 @@ bool TypeIntoCell(Grid& grid, const CellRules& rules, char32_t character) {
 }
 
 bool EditCell(Grid& grid, const CellRules& rules, Clipboard& clipboard, const KeyStroke& stroke) {
-    if (!grid.HasCell(grid.Row(), grid.Col()))
+    if (!grid.HasCell(grid.Row(), grid.Col()) || IsInHeadings(grid))
         return false;
     if (stroke.key == Key::Delete) {
         Give(grid, rules, "");

@@ -187,6 +187,8 @@ void Grid::DragOver(const CellBlock& block) {
 }
 
 void Grid::UserDblClick(int row, int col) {
+    if (!HasCell(row, col) || row < m_fixed_rows || col < m_fixed_cols)
+        return;
     UserPress(row, col);
     FireForUser([this] { Fire(OnDblClick); });
 }

@@ -82,17 +82,8 @@ std::vector<Span> SpansOf(const Configuration& configuration) {
 
 }  // namespace
 
-MotionControls::MotionControls(window::Form1& form)
-    : txtAccel(form.GetArray<window::TextBox>("txtAccel")),
-      picAccel(form.Get<window::Picture>("picAccel")),
-      txtProcs(form.Get<window::TextBox>("txtProcs")),
-      cmdSeeEqns(form.Get<window::Button>("cmdSeeEqns")),
-      pic(form.Get<window::Picture>("pic")),
-      pic1(form.Get<window::Picture>("pic1")),
-      rtbSolve(form.Get<window::RichTextBox>("rtbSolve")) {}
-
 Motion::Motion(window::Form1& form, frame::PointsPanel& panel, frame::ToolSwitch& tool_switch)
-    : m_form(form), m_panel(panel), m_tool_switch(tool_switch), m_controls(form), m_results(form) {
+    : m_form(form), m_panel(panel), m_tool_switch(tool_switch), m_results(form) {
     BindAccelerations();
     BindResults();
 }

@@ -14,15 +14,14 @@ namespace tavrelo::tools::motion {
 
 /// The controls that only this tool has, and those in which it reports.
 struct MotionControls {
-    explicit MotionControls(window::Form1& form);
-
-    window::ControlArray<window::TextBox> txtAccel;
-    window::Picture& picAccel;
-    window::TextBox& txtProcs;
-    window::Button& cmdSeeEqns;
-    window::Picture& pic;   // the equations
-    window::Picture& pic1;  // the graph
-    window::RichTextBox& rtbSolve;
+    window::Form1& form;
+    window::ControlArray<window::TextBox> txtAccel = form.GetArray<window::TextBox>("txtAccel");
+    window::Picture& picAccel = form.Get<window::Picture>("picAccel");
+    window::TextBox& txtProcs = form.Get<window::TextBox>("txtProcs");
+    window::Button& cmdSeeEqns = form.Get<window::Button>("cmdSeeEqns");
+    window::Picture& pic = form.Get<window::Picture>("pic");    // the equations
+    window::Picture& pic1 = form.Get<window::Picture>("pic1");  // the graph
+    window::RichTextBox& rtbSolve = form.Get<window::RichTextBox>("rtbSolve");
 };
 
 /// The tool "Movimiento rectilíneo uniformemente acelerado". It hands what the student does to the mechanics
@@ -90,7 +89,7 @@ class Motion : public frame::PointsTool {
     window::Form1& m_form;
     frame::PointsPanel& m_panel;
     frame::ToolSwitch& m_tool_switch;
-    MotionControls m_controls;
+    MotionControls m_controls{m_form};
     ResultsPanel m_results;
 
     mechanics::motion::Problem m_problem;

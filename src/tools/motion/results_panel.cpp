@@ -17,13 +17,9 @@ enum PassButton { kFirstSolution, kSecondSolution, kPassToTable };
 
 }  // namespace
 
-ResultsPanel::ResultsPanel(window::Form1& form)
-    : m_form(form),
-      m_frame(form.Get<window::Frame>("fraRes")),
-      m_labels(form.GetArray<window::Label>("lblRes")),
-      m_buttons(form.GetArray<window::Button>("cmdPass")) {
-    OnClick(form, m_buttons, [this](int button) { Press(button); });
-    OnClick(form, form.Get<window::Button>("cmdCloseFrares"), [this] { Close(); });
+ResultsPanel::ResultsPanel(window::Form1& form) : m_form(form) {
+    OnClick(form, m_controls.cmdPass, [this](int button) { Press(button); });
+    OnClick(form, m_controls.cmdCloseFrares, [this] { Close(); });
 }
 
 void ResultsPanel::Show(const mechanics::motion::Results& results, std::size_t solution) {
@@ -34,22 +30,22 @@ void ResultsPanel::Show(const mechanics::motion::Results& results, std::size_t s
     ShowPoint(0, &found.first, color);
     ShowPoint(1, found.second ? &*found.second : nullptr, color);
     m_shown = solution;
-    m_buttons[kFirstSolution].SetUnderlined(solution == 0);
-    m_buttons[kSecondSolution].SetUnderlined(solution == 1);
-    m_buttons[kSecondSolution].SetEnabled(results.HasSecond());
+    m_controls.cmdPass[kFirstSolution].SetUnderlined(solution == 0);
+    m_controls.cmdPass[kSecondSolution].SetUnderlined(solution == 1);
+    m_controls.cmdPass[kSecondSolution].SetEnabled(results.HasSecond());
     m_open = true;
-    m_frame.SetVisible(true);
+    m_controls.fraRes.SetVisible(true);
 }
 
 void ResultsPanel::ShowPoint(int place, const FoundPoint* point, text::Color color) {
     const auto show = [&](LabelRow row, const std::string& text) {
-        m_labels[row * kLabelsOfRow + place].SetCaption(text);
+        m_controls.lblRes[row * kLabelsOfRow + place].SetCaption(text);
     };
     const auto number = [&](double value) {
         return point ? text::RoundedText(value, m_form.publics.Decimals) : std::string();
     };
     show(kPointRow, point ? std::to_string(point->point) : std::string());
-    m_labels[kPointRow * kLabelsOfRow + place].SetForeColor(color);
+    m_controls.lblRes[kPointRow * kLabelsOfRow + place].SetForeColor(color);
     const FoundPoint values = point ? *point : FoundPoint{};
     show(kTimeRow, number(values.t));
     show(kPositionRow, number(values.x));
@@ -58,10 +54,10 @@ void ResultsPanel::ShowPoint(int place, const FoundPoint* point, text::Color col
 
 void ResultsPanel::Close() {
     m_open = false;
-    m_frame.SetVisible(false);
+    m_controls.fraRes.SetVisible(false);
 }
 
-void ResultsPanel::Restore() { m_frame.SetVisible(m_open); }
+void ResultsPanel::Restore() { m_controls.fraRes.SetVisible(m_open); }
 
 void ResultsPanel::Press(int button) {
     if (button == kPassToTable)

@@ -7,6 +7,14 @@
 
 namespace tavrelo::tools::motion {
 
+struct ResultsControls {
+    window::Form1& form;
+    window::Frame& fraRes = form.Get<window::Frame>("fraRes");
+    window::ControlArray<window::Label> lblRes = form.GetArray<window::Label>("lblRes");  // two columns
+    window::ControlArray<window::Button> cmdPass = form.GetArray<window::Button>("cmdPass");
+    window::Button& cmdCloseFrares = form.Get<window::Button>("cmdCloseFrares");
+};
+
 /// The panel `fraRes`: one or two found solutions, of which one is in view.
 class ResultsPanel {
   public:
@@ -30,9 +38,7 @@ class ResultsPanel {
     void Press(int button);
 
     window::Form1& m_form;
-    window::Frame& m_frame;
-    window::ControlArray<window::Label> m_labels;    // two columns of point, t, x, v
-    window::ControlArray<window::Button> m_buttons;  // first and second solution, pass
+    ResultsControls m_controls{m_form};
     std::size_t m_shown = 0;
     bool m_open = false;
 };
