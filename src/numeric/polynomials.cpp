@@ -102,4 +102,14 @@ std::optional<std::pair<double, double>> SolveCosSin(double a, double b, double 
     return std::pair{NormAngle(p - d), NormAngle(p + d)};
 }
 
+std::optional<std::pair<double, double>> CosSinRoots(double a, double b, double c) {
+    const double amplitude = Hypot(a, b);
+    if (std::abs(c) > amplitude || amplitude == 0.0) {
+        return std::nullopt;
+    }
+    const double p = std::atan2(b, a) * kDegreesPerRadian;
+    const double d = std::acos(CheckedDivide(-c, amplitude)) * kDegreesPerRadian;
+    return std::pair{NormAngle(p - d), NormAngle(p + d)};
+}
+
 }  // namespace tavrelo::numeric

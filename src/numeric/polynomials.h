@@ -29,5 +29,8 @@ CubicRootsResult CubicRoots(double a, double b, double c, double d);
 /// The two angles t (degrees) with a cos t + b sin t + c = 0; nothing when there are none. |c| within one
 /// part in ten thousand of the amplitude counts as tangent: both angles are then equal.
 std::optional<std::pair<double, double>> SolveCosSin(double a, double b, double c);
+/// The angles at which that sum vanishes, be they ever so near to each other; nothing when there are none, or
+/// when a and b are 0.
+std::optional<std::pair<double, double>> CosSinRoots(double a, double b, double c);
 
 }  // namespace tavrelo::numeric

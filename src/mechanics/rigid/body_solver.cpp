@@ -7,8 +7,8 @@
 
 #include "mechanics/forces/substitution.h"
 #include "mechanics/forces/unknowns.h"
+#include "mechanics/rigid/equilibrium_check.h"
 #include "mechanics/rigid/unknown_angle.h"
-#include "numeric/angles.h"
 #include "numeric/checked.h"
 #include "numeric/linear_systems.h"
 #include "text/number_text.h"
@@ -45,33 +45,15 @@ BodyOutcome SolveLinearEquations(const BodyEquations& system) {
                 matrix(row, *place) = term.coef;
         values[row] = -system.equations[row].constant;
     }
-    const numeric::LinearOutcome outcome = numeric::SolveLinear(matrix, values);
+    const numeric::LinearOutcome outcome = numeric::SolveIndependent(matrix, values);
     if (outcome != numeric::LinearOutcome::Done)
         return text::Refusal{std::string(TextOf(outcome))};
     BodyResults results;
     for (std::size_t i = 0; i < n; ++i)
         results.push_back({system.unknowns[i], values[i]});
+    if (!HoldsWith(system, results))
+        return text::Refusal{std::string(TextOf(numeric::LinearOutcome::SystemNotSolved))};
     return results;
-}
-
-std::optional<double> ValueOf(const BodyResults& results, std::string_view name, bool is_angle) {
-    for (const FoundUnknown& found : results)
-        if (found.is_angle == is_angle && text::SameSymbol(found.name, name))
-            return found.value;
-    return {};
-}
-
-// What the coefficient of an unknown is to be multiplied by; nothing while a part of it is unknown.
-std::optional<double> FactorOf(const BodyResults& results, const std::string& text) {
-    const forces::UnknownTerm unknown = forces::ReadUnknown(text);
-    if (!unknown.HasAngle())
-        return ValueOf(results, unknown.magnitude, false);
-    const auto magnitude = unknown.HasBoth() ? ValueOf(results, unknown.magnitude, false) : 1.0;
-    const auto angle = ValueOf(results, unknown.angle, true);
-    if (!magnitude || !angle)
-        return {};
-    const bool is_cos = unknown.function == forces::AngleFunction::Cos;
-    return CheckedMultiply(*magnitude, is_cos ? numeric::CosD(*angle) : numeric::SinD(*angle));
 }
 
 void UpdateCouple(Couple& couple, const BodyResults& results) {
@@ -91,7 +73,8 @@ BodyOutcome SolveEquations(const BodyEquations& equations, std::size_t bodies) {
 
 BodyForces WithResults(BodyForces forces, const BodyResults& results, int decimals) {
     for (BodyForce& row : forces) {
-        forces::Substitute(row.force, [&](const std::string& text) { return FactorOf(results, text); });
+        forces::Substitute(
+            row.force, [&](const std::string& text) { return FactorOf(results, forces::ReadUnknown(text)); });
         forces::MarkSolved(row.force, decimals);
         if (row.couple)
             UpdateCouple(*row.couple, results);

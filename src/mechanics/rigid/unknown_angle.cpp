@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "mechanics/forces/unknowns.h"
+#include "mechanics/rigid/equilibrium_check.h"
 #include "numeric/angles.h"
 #include "numeric/checked.h"
 #include "numeric/compare.h"
@@ -77,14 +77,44 @@ std::optional<Pair> SolveTwoRows(const Column& a, const Column& b, const Column&
     return {};
 }
 
-// The angles at which weights . (cosine cos q + sine sin q + rest) = 0.
-std::optional<std::pair<double, double>> AnglesFor(const Column& weights, const Rows& rows,
-                                                   const Column& rest) {
-    const double p = Dot(weights, rows.cosine);
-    const double q = Dot(weights, rows.sine);
+// The equation weights . (cosine cos q + sine sin q + rest) = 0 of the angle.
+struct AngleEquation {
+    double cosine;
+    double sine;
+    double constant;
+};
+
+AngleEquation EquationOfAngle(const Column& weights, const Rows& rows, const Column& rest) {
+    return {Dot(weights, rows.cosine), Dot(weights, rows.sine), Dot(weights, rest)};
+}
+
+// The results at the roots of the angle's equation that hold the body. Nearly equal roots count as one, the
+// tangent; where that does not hold, the true ones are taken.
+template <typename ResultsAt>
+std::vector<BodyResults> HoldingResults(const BodyEquations& equations, const AngleEquation& angle,
+                                        const ResultsAt& results_at) {
+    const auto& [p, q, r] = angle;
     if (IsZero(p) && IsZero(q))
         return {};
-    return numeric::SolveCosSin(p, q, Dot(weights, rest));
+    std::vector<BodyResults> holding;
+    for (const auto& roots : {numeric::SolveCosSin(p, q, r), numeric::CosSinRoots(p, q, r)}) {
+        if (!roots || !holding.empty())
+            continue;
+        for (const double root : {roots->first, roots->second}) {
+            const std::optional<BodyResults> results = results_at(root);
+            if (results && HoldsWith(equations, *results))
+                holding.push_back(*results);
+        }
+    }
+    return holding;
+}
+
+BodyOutcome OutcomeOf(const std::vector<BodyResults>& found) {
+    if (found.empty())
+        return text::Refusal{kNoSolution};
+    if (found.size() == 1)
+        return found.front();
+    return BodyChoice{found[0], found[1]};
 }
 
 // The magnitude that stands in front of the functions of the angle: empty where the force is known; nothing
@@ -142,14 +172,13 @@ BodyOutcome SolveKnownForce(const BodyEquations& equations) {
     if (const double determinant = weights[2]; !IsZero(determinant))
         for (double& weight : weights)
             weight = CheckedDivide(weight, determinant);
-    const auto angles = AnglesFor(weights, rows, rows.constant);
-    if (!angles)
-        return text::Refusal{kNoSolution};
-    const auto results_at = [&](double angle) {
+    const auto results_at = [&](double angle) -> std::optional<BodyResults> {
         const auto others = SolveTwoRows(rows.first, rows.second, AtAngle(rows.constant, rows, angle));
+        if (!others)
+            return {};
         return ResultsOf(equations, *others, angle);
     };
-    return BodyChoice{results_at(angles->first), results_at(angles->second)};
+    return OutcomeOf(HoldingResults(equations, EquationOfAngle(weights, rows, rows.constant), results_at));
 }
 
 // The unknown force at q and the other unknown beside it.
@@ -174,31 +203,28 @@ BodyOutcome SolveFreeForce(const BodyEquations& equations, const FreeForce& forc
         matrix(i, 2) = rows.sine[i];
         values[i] = -rows.constant[i];
     }
-    const numeric::LinearOutcome outcome = numeric::SolveLinear(matrix, values);
+    const numeric::LinearOutcome outcome = numeric::SolveIndependent(matrix, values);
     if (outcome != numeric::LinearOutcome::Done)
         return text::Refusal{std::string(TextOf(outcome))};
-    return ResultsOf(equations, force, {values[0], numeric::Hypot(values[1], values[2])},
-                     numeric::AngleOf(values[1], values[2]));
+    const BodyResults results = ResultsOf(equations, force, {values[0], numeric::Hypot(values[1], values[2])},
+                                          numeric::AngleOf(values[1], values[2]));
+    if (!HoldsWith(equations, results))
+        return text::Refusal{kNoSolution};
+    return results;
 }
 
 // A force whose magnitude stands elsewhere too. The columns of u, of F and of the constants are dependent:
 // their determinant is the equation of the angle.
 BodyOutcome SolveSharedForce(const BodyEquations& equations, const FreeForce& force) {
     const Rows& rows = force.rows;
-    const auto angles = AnglesFor(Cross(rows.constant, rows.first), rows, rows.second);
-    if (!angles)
-        return text::Refusal{kNoSolution};
-    std::vector<BodyResults> found;
-    for (const double angle : {angles->first, angles->second}) {
+    const auto results_at = [&](double angle) -> std::optional<BodyResults> {
         const auto others = SolveTwoRows(rows.first, AtAngle(rows.second, rows, angle), rows.constant);
-        if (others && others->second >= 0)
-            found.push_back(ResultsOf(equations, force, *others, angle));
-    }
-    if (found.empty())
-        return text::Refusal{kNoSolution};
-    if (found.size() == 1)
-        return found.front();
-    return BodyChoice{found[0], found[1]};
+        if (!others || others->second < 0)
+            return {};
+        return ResultsOf(equations, force, *others, angle);
+    };
+    return OutcomeOf(HoldingResults(
+        equations, EquationOfAngle(Cross(rows.constant, rows.first), rows, rows.second), results_at));
 }
 
 BodyOutcome SolveUnknownForce(const BodyEquations& equations, const std::string& magnitude) {

@@ -176,5 +176,35 @@ TEST(SolveCosSin, AnglesSatisfyTheEquation) {
     }
 }
 
+TEST(CosSinRoots, KeepsNearRootsApart) {
+    // 200.016 sin t = 200: sin t = 0.99992..., 90 degrees less or more 0.72476...
+    const auto near = CosSinRoots(0, 200.016, -200);
+    ASSERT_TRUE(near);
+    const double apart = std::acos(200 / 200.016) * 180 / std::acos(-1.0);
+    EXPECT_NEAR(near->first, 90 - apart, 1e-9);
+    EXPECT_NEAR(near->second, 90 + apart, 1e-9);
+    EXPECT_FALSE(CosSinRoots(0, 199.984, -200));
+    EXPECT_FALSE(CosSinRoots(0, 0, 0));
+}
+
+TEST(CosSinRoots, MeetsAtTheTangentAndAgreesElsewhere) {
+    EXPECT_NEAR(CosSinRoots(0, 2, -2)->first, 90, 1e-9);
+    EXPECT_NEAR(CosSinRoots(0, 2, -2)->second, 90, 1e-9);
+    EXPECT_NEAR(CosSinRoots(1, 0, 1)->first, 180, 1e-9);
+    std::mt19937 random(5);
+    std::uniform_real_distribution<double> coefficient(-10, 10);
+    for (int i = 0; i < 500; ++i) {
+        const double a = coefficient(random), b = coefficient(random), c = coefficient(random);
+        const auto roots = CosSinRoots(a, b, c);
+        EXPECT_EQ(roots.has_value(), std::abs(c) <= Hypot(a, b));
+        if (!roots) {
+            continue;
+        }
+        for (const double t : {roots->first, roots->second}) {
+            EXPECT_NEAR(a * CosD(t) + b * SinD(t) + c, 0, 1e-10);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace tavrelo::numeric

@@ -313,6 +313,48 @@ TEST(SolveEquations, SaysWhyAnAngleIsNotFound) {
         EXPECT_EQ(RefusalText(Solved(row.forces, row.bodies, row.suppressed)), row.text) << row.name;
 }
 
+// --- Never a false answer
+
+// A beam of 4 with 100 at its middle, hinged at 0 and held by a known force at its end.
+BodyForces HeldBeam(const char* holding) {
+    return {RowAt(0, 0, "AX,AY"), RowAt(2, 0, "v-100"), RowAt(4, 0, holding)};
+}
+
+TEST(SolveEquations, TakesNearlyEqualRootsForTheTangentWhileThatHolds) {
+    // 4 · 50.0001 = 200.0004: a sum of 0.0004 counts as equilibrium.
+    for (const char* holding : {"50<q", "50.0001<q", "49.9999<q"}) {
+        const BodyOutcome outcome = SolvedBody1(HeldBeam(holding));
+        ASSERT_TRUE(std::holds_alternative<BodyChoice>(outcome)) << holding;
+        for (const BodyResults& results : std::get<BodyChoice>(outcome))
+            EXPECT_EQ(results[2].value, 90) << holding;
+    }
+}
+
+TEST(SolveEquations, RefinesATangentThatDoesNotHold) {
+    // 4 · 50.004 sin q = 200, so AY = 50 and AX = ∓ sqrt(50.004² - 50²).
+    const double horizontal = std::sqrt(50.004 * 50.004 - 2500);
+    const double off_upright = std::acos(50 / 50.004) * 180 / std::numbers::pi;
+    ExpectChoice(SolvedBody1(HeldBeam("50.004<q")),
+                 {{{{"AX", -horizontal}, {"AY", 50}, {"Q", 90 - off_upright, true}},
+                   {{"AX", horizontal}, {"AY", 50}, {"Q", 90 + off_upright, true}}}},
+                 1e-7);
+}
+
+TEST(SolveEquations, RefusesATangentThatNothingBalances) {
+    EXPECT_EQ(RefusalText(SolvedBody1(HeldBeam("49.996<q"))), kNoSolution);
+}
+
+TEST(SolveEquations, TakesEquationsForDependentThatOnlyRoundingParts) {
+    // The lines of three rollers meet in one point: a load beside it turns the body.
+    BodyForces forces = {RowAt(0, 0, "v-100")};
+    for (const auto& [name, degrees] : {std::pair{"A", 10.0}, {"B", 50.0}, {"C", 120.0}}) {
+        const double radians = degrees * std::numbers::pi / 180;
+        forces.push_back(RowAt(700.3 - 311.7 * std::cos(radians), 411.7 - 311.7 * std::sin(radians),
+                               std::string("300") + name + "<" + text::NumberToText(degrees)));
+    }
+    EXPECT_EQ(RefusalText(SolvedBody1(forces)), "El determinante del sistema es cero.");
+}
+
 TEST(SolveEquations, FailsOnResultsPastTheRangeOfNumbers) {
     const BodyForces pinned = {RowAt(0, 0, "AX,AY"), RowAt(4, 0, "1E+200<q"), RowAt(2, 0, "v-1E+200")};
     EXPECT_EQ(FailureOf([&] { SolvedBody1(pinned); }), numeric::FailureCode::Overflow);

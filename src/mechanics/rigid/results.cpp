@@ -1,0 +1,27 @@
+#include "mechanics/rigid/results.h"
+
+#include "numeric/angles.h"
+#include "numeric/checked.h"
+#include "text/symbols.h"
+
+namespace tavrelo::mechanics::rigid {
+
+std::optional<double> ValueOf(const BodyResults& results, std::string_view name, bool is_angle) {
+    for (const FoundUnknown& found : results)
+        if (found.is_angle == is_angle && text::SameSymbol(found.name, name))
+            return found.value;
+    return {};
+}
+
+std::optional<double> FactorOf(const BodyResults& results, const forces::UnknownTerm& unknown) {
+    if (!unknown.HasAngle())
+        return ValueOf(results, unknown.magnitude, false);
+    const auto magnitude = unknown.HasBoth() ? ValueOf(results, unknown.magnitude, false) : 1.0;
+    const auto angle = ValueOf(results, unknown.angle, true);
+    if (!magnitude || !angle)
+        return {};
+    const bool is_cos = unknown.function == forces::AngleFunction::Cos;
+    return numeric::CheckedMultiply(*magnitude, is_cos ? numeric::CosD(*angle) : numeric::SinD(*angle));
+}
+
+}  // namespace tavrelo::mechanics::rigid
