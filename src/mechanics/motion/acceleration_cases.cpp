@@ -1,6 +1,8 @@
 #include "mechanics/motion/acceleration_cases.h"
 
-#include "mechanics/motion/holding.h"
+#include <algorithm>
+#include <cmath>
+
 #include "numeric/real_roots.h"
 
 namespace tavrelo::mechanics::motion::acceleration {
@@ -30,10 +32,13 @@ Finding Arbitrary(const ParameterCase& each, std::string_view relation) {
 Finding Divided(const ParameterCase& each, const std::vector<double>& terms, double divisor,
                 std::string_view relation, const char* none = kInconsistent) {
     double sum = 0.0;
-    for (const double term : terms)
+    double largest = 0.0;
+    for (const double term : terms) {
         sum += term;
+        largest = std::max(largest, std::abs(term));
+    }
     if (divisor == 0.0)
-        return TermsCancel(terms) ? Arbitrary(each, relation) : Refused(none);
+        return std::abs(sum) <= kIdentityTolerance * largest ? Arbitrary(each, relation) : Refused(none);
     return Candidates{sum / divisor};
 }
 

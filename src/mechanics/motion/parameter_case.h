@@ -54,6 +54,9 @@ struct ParameterEquation {
 };
 using Statement = std::variant<text::Refusal, ParameterEquation>;
 
+/// An equation without its unknown holds when its sides differ by at most this part of them.
+inline constexpr double kIdentityTolerance = 1e-8;
+
 // Refusals that more than one kind of equations has.
 inline constexpr const char* kOnlyAtZero = "Sólo manejo este caso cuando t0 = 0.";
 inline constexpr const char* kFactorZero = "El factor \"C\" no puede ser 0.";

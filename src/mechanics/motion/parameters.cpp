@@ -270,7 +270,7 @@ Step SubstituteWithParameters(const Problem& problem, const points::PointPlace& 
     if (seeks_both && t && x && v)
         return FindBoth(click, place.point, *t, *x, *v);
     const auto given = FindDataSet(problem, place, data);
-    if (!given)
+    if (!given || given->referred == place.point)  // a point is no interval from itself
         return NoDataSet(equations.kind);
     const ParameterCase each = {*given, equations, labels, place.point};
     return seeks_both ? StateEquation(click, each) : FindParameter(click, each);

@@ -17,7 +17,6 @@ constexpr const char* kSameTimes = "Los tiempos inicial y final son iguales";
 constexpr const char* kNoDuration = "El intervalo considerado tiene duración cero.";
 constexpr const char* kUniform = "Caso especial no aplicable al movimiento uniforme.";
 constexpr const char* kUnitFactor = "El factor C no puede ser +1 ni -1 en este caso.";
-constexpr double kIdentityTolerance = 1e-8;
 
 Finding Refused(std::string text) { return text::Refusal{std::move(text)}; }
 

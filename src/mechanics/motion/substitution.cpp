@@ -162,8 +162,11 @@ constexpr PairRow kPairRows[] = {
 
 /// What may not be substituted, before anything is calculated.
 std::optional<text::Refusal> CheckStart(const Click& click, const PairRow& row, const PairValues& values) {
-    if (!row.HasFactor())
-        return std::nullopt;
+    if (!row.HasFactor()) {
+        // A point that differs from itself is no interval.
+        return *values.referred == click.place.point ? std::optional(text::Refusal{kNoSolution})
+                                                     : std::nullopt;
+    }
     const int column =
         points::ColumnOfPoint(click.problem.configuration, click.place.mover, *values.referred);
     if (!click.problem.table.IsEmptyColumn(column))

@@ -83,6 +83,38 @@ bool IsClose(double found, double wanted) {
 /// A number that the data leave out: a factor over 0.
 bool HasFactor(double end, double start) { return start != 0.0 && end != 0.0; }
 
+TEST(RandomMotion, PlantedEquationsAreThoseOfTheMotion) {
+    Chance chance;
+    for (int k = 0; k < kMotions; ++k) {
+        const Sample s = chance.Next();
+        const Motion motion = PlantedOn(s, true, true).EquationsOf(1, 1).Expanded();
+        EXPECT_NEAR(motion.PositionAt(s.ti), s.xi(), 1e-9);
+        EXPECT_NEAR(motion.SpeedAt(s.ti), s.vi(), 1e-9);
+    }
+}
+
+TEST(RandomMotion, ThreePointsGiveTheirMotion) {
+    Chance chance;
+    for (int k = 0; k < kMotions; ++k) {
+        const Sample s = chance.Next();
+        Problem problem = OneMover();
+        SetColumn(problem, 0, {Text(s.tn), Text(s.xn), ""});
+        SetColumn(problem, 1, {Text(s.ti), Text(s.xi()), ""});
+        SetColumn(problem, 2, {Text(s.tf), Text(s.xf()), ""});
+        const Step step = RunThreePoints(problem, "1, 1, 0, 1, 2", kDecimals);
+        if (s.tn == s.ti || s.ti == s.tf || s.tn == s.tf) {
+            EXPECT_NE(RefusalOf(step), "");
+            continue;
+        }
+        const Question* question = QuestionOf(step);
+        ASSERT_TRUE(question);
+        const Motion& motion = std::get<AwaitBaseRequest>(*question->yes).awaited.motion;
+        EXPECT_NEAR(motion.x0, s.X(0), 1e-8);
+        EXPECT_NEAR(motion.v0, s.V(0), 1e-8);
+        EXPECT_NEAR(motion.a, s.a, 1e-8);
+    }
+}
+
 struct IntervalSet {
     const char* name;
     std::function<bool(const Sample&)> is_possible;

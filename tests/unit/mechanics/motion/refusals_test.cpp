@@ -88,6 +88,8 @@ TEST(Refusals, OfSubstitution) {
                    {"Estás poniendo dt = 0.", moving, "2", {}, {"t1+0", "x1+1", ""}},
                    {"Estás poniendo dt = 0.", moving, "2", {}, {"t1", "x1+1", ""}},
                    {"Estás poniendo dv = 0.", moving, "2", {}, {"", "x1+1", "v1+0"}},
+                   {no_solution, moving, "2", {}, {"t3+2", "x3+1", ""}},
+                   {known_start, moving, "2", {}, {"t3+2", "2*x3", ""}},
                    {known_start, moving, "2", {"", "5", ""}, {"t1+2", "3*x1", ""}},
                    {known_start, moving, "2", {"5", "", ""}, {"t1+2", "", "3*v1"}},
                    {known_start, moving, "2", {"", "", "5"}, {"t1+2", "", "0*v1"}},
@@ -132,6 +134,7 @@ TEST(Refusals, OfAnUnknownSpeed) {
          {no_speed, base, "2", {}, {"", "", ""}},
          {no_speed, base, "2", {}, {"t1+2", "x1+2", ""}},
          {no_speed, base, "2", {"", "", ""}, {"3", "x1+5", ""}},  // no time at the start
+         {no_speed, base, "2", {}, {"t3+2", "24", ""}},
          {same_times, base, "2", {"3", "", ""}, {"3", "x1+5", ""}},
          {same_times, base, "2", {"3", "", ""}, {"3", "2*x1", ""}},
          {same_times, base, "2", {"3", "", ""}, {"3", "", "2*v1"}},
