@@ -72,7 +72,8 @@ Catches WithSpeed(const Interception& data, double limit) {
         return ((kHalfGravity * kHalfGravity * d * d + square) * d + 2.0 * e * u) * d + e * e + y0 * y0;
     };
     Catches catches;
-    const auto found = numeric::FindRoots(quartic, 0.0, limit);
+    // A hair longer: the search misses a root that falls on one of its samples, as whole numbers like to do.
+    const auto found = numeric::FindRoots(quartic, 0.0, limit * (1.0 + kRounding));
     if (const auto* roots = std::get_if<numeric::FoundRoots>(&found))
         for (const double d : roots->roots)
             if (d > kZero && catches.size() < kMostSolutions)
