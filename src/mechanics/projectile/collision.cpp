@@ -151,7 +151,8 @@ WorkedOrRefusal CollideProjectiles(const Equations& first, const Equations& seco
     if (const char* fault = FaultOf(first, second, meeting_time))
         return text::Refusal{fault};
     const Start& start = *second.launch.start;
-    const Problem problem = {first.flight, second.launch, RelativeAt(first.flight, start)};
+    const Flight first_flight = ExactFlight(first);
+    const Problem problem = {first_flight, second.launch, RelativeAt(first_flight, start)};
     const Meetings meetings = MeetingsOf(problem, second.kind, meeting_time, decimals);
     if (meetings.empty())
         return text::Refusal{second.kind == LaunchKind::UnknownAngle || meeting_time ? kNone : kNoSolution};

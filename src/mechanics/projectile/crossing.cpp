@@ -50,14 +50,16 @@ std::variant<text::Refusal, std::vector<Crossing>> CrossTrajectories(const Equat
                                                                      const Equations& second) {
     if (!first.IsComplete() || !second.IsComplete())
         return text::Refusal{kMissingTrajectory};
-    const auto& first_curve = first.flight.trajectory;
-    const auto& second_curve = second.flight.trajectory;
+    const Flight first_flight = ExactFlight(first);
+    const Flight second_flight = ExactFlight(second);
+    const auto& first_curve = first_flight.trajectory;
+    const auto& second_curve = second_flight.trajectory;
     if (!first_curve || !second_curve)
         return text::Refusal{kOtherRoutine};
     std::vector<Crossing> crossings;
     for (const double x : MeetingPlaces(*first_curve, *second_curve))
         crossings.push_back(
-            {x, ValueAt(*first_curve, x), TimeAtX(first.flight, x), TimeAtX(second.flight, x)});
+            {x, ValueAt(*first_curve, x), TimeAtX(first_flight, x), TimeAtX(second_flight, x)});
     if (crossings.empty())
         return text::Refusal{kNoCrossing};
     return crossings;
@@ -81,14 +83,17 @@ std::vector<std::string> CrossingReport(const std::vector<Crossing>& crossings, 
 
 std::variant<text::Refusal, std::vector<InclineHit>> RangeOnPlane(int mover, const Equations& equations,
                                                                   double x, double y, double degrees) {
-    const auto& curve = equations.flight.trajectory;
-    if (!equations.IsComplete() || !curve || IsUpright(degrees))
+    if (!equations.IsComplete() || IsUpright(degrees))
+        return text::Refusal{kSolveOtherwise};
+    const Flight flight = ExactFlight(equations);
+    const auto& curve = flight.trajectory;
+    if (!curve)
         return text::Refusal{kSolveOtherwise};
     const double slope = numeric::TanD(degrees);
     std::vector<InclineHit> hits;
     for (const double at : RealRoots(curve->a, curve->b - slope, Finite(curve->c - y + slope * x))) {
         const double height = Finite(y + slope * (at - x));
-        hits.push_back({at, height, TimeAtX(equations.flight, at), numeric::Hypot(at - x, height - y)});
+        hits.push_back({at, height, TimeAtX(flight, at), numeric::Hypot(at - x, height - y)});
     }
     if (hits.empty())
         return text::Refusal{"La trayectoria del móvil " + std::to_string(mover) + " no interseca la recta."};

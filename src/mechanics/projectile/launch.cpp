@@ -48,6 +48,11 @@ Velocity VelocityOf(const Launch& launch) {
 
 const Symbols& SymbolsOf(int mover) { return kSymbols[mover == 2 ? 1 : 0]; }
 
+Flight ExactFlight(const Equations& equations) {
+    constexpr int kAllDecimals = 15;
+    return FlightFrom(*equations.launch.start, VelocityOf(equations.launch), kAllDecimals);
+}
+
 std::variant<text::Refusal, Planted> PlantLaunch(int mover, const Launch& launch, int decimals) {
     if (const std::string_view fault = FaultOf(launch); !fault.empty())
         return text::Refusal{std::string(fault)};

@@ -47,6 +47,10 @@ struct Equations {
     friend bool operator==(const Equations&, const Equations&) = default;
 };
 
+/// The flight of complete equations from the launch as it was given, nothing rounded: whether two movers
+/// meet, or a trajectory touches a line, must not hang on the sixth place.
+Flight ExactFlight(const Equations& equations);
+
 /// The letters of mover 1 or 2, in markup.
 struct Symbols {
     std::string_view x;

@@ -93,7 +93,7 @@ TEST(CrossTrajectories, MeetsBothMotions) {
         const Throw second = throws.Next();
         if (std::abs(first.vx) < 1 || std::abs(second.vx) < 1)
             continue;
-        const auto found = CrossTrajectories(Plant(first), Plant(second));
+        const auto found = CrossTrajectories(Plant(first, kDecimals), Plant(second, kDecimals));
         const auto* crossings = std::get_if<std::vector<Crossing>>(&found);
         if (!crossings)
             continue;
@@ -119,7 +119,7 @@ TEST(CrossTrajectories, TellsEveryCollision) {
         second.vy = (first.Y(t) - second.y0) / d + 4.9 * d;
         if (std::abs(first.vx) < 1 || std::abs(second.vx) < 1 || Near(first.vx, second.vx, 0.01))
             continue;
-        const auto found = CrossTrajectories(Plant(first), Plant(second));
+        const auto found = CrossTrajectories(Plant(first, kDecimals), Plant(second, kDecimals));
         const auto& crossings = std::get<std::vector<Crossing>>(found);
         ASSERT_TRUE(std::ranges::any_of(crossings, &Crossing::IsCollision));
     }
@@ -133,7 +133,7 @@ TEST(RangeOnPlane, MeetsTheLineAndTheMotion) {
             continue;
         const double angle = throws.Between(-60, 60);
         // Through the launch: one of the solutions is the launch itself, the other has the textbook's range.
-        const auto found = RangeOnPlane(1, Plant(motion), motion.x0, motion.y0, angle);
+        const auto found = RangeOnPlane(1, Plant(motion, kDecimals), motion.x0, motion.y0, angle);
         const auto& hits = std::get<std::vector<InclineHit>>(found);
         const double a = angle * M_PI / 180.0;
         const double q = motion.Theta() * M_PI / 180.0;
@@ -215,7 +215,7 @@ TEST(CollideProjectiles, EveryOfferedLaunchCollides) {
             {{SpeedMode::Polar, start, {}, second.Theta()}, std::nullopt}};
         for (const auto& [launch, time] : problems) {
             const Equations unknown = std::get<Planted>(PlantLaunch(2, launch, kDecimals)).equations;
-            const auto outcome = CollideProjectiles(Plant(first), unknown, time, kDecimals);
+            const auto outcome = CollideProjectiles(Plant(first, kDecimals), unknown, time, kDecimals);
             const Worked* worked = WorkedIn(outcome);
             ASSERT_NE(worked, nullptr);
             ASSERT_TRUE(std::ranges::any_of(worked->launches, [&](const Launch& each) {

@@ -250,18 +250,18 @@ TEST(Incline, Refuses) {
     }
 }
 
-// Both at 45° with 14: y = x - x^2/20 from the origin, mirrored from (20, 0); they meet at x = 10, 5 high,
-// after 10 / 9.8995.
+// Both at 45° with 14: y = x - x^2/20 from the origin, mirrored from (16, 0); they meet at x = 8, 4.8 high, after
+// 8 / 9.8995.
 TEST(Crossing, TellsACollision) {
-    Desk desk = WithMovers({"0", "0", "0", "14", "45"}, {"0", "20", "0", "14", "135"});
+    Desk desk = WithMovers({"0", "0", "0", "14", "45"}, {"0", "16", "0", "14", "135"});
     desk.Run(Special::Crossing);
     EXPECT_EQ(desk.Report(),
-              (Lines{"Los móviles chocan en el punto:", "(10, 5)", "por donde pasan en t = 1.01"}));
-    desk.Column(6, {"1", "20", "0", "14", "135"}).Click(Procedure::Plant, 0, 2).Report();
+              (Lines{"Los móviles chocan en el punto:", "(8, 4.8)", "por donde pasan en t = 0.808"}));
+    desk.Column(6, {"1", "16", "0", "14", "135"}).Click(Procedure::Plant, 0, 2).Report();
     desk.Run(Special::Crossing);
     EXPECT_EQ(desk.Report(),
-              (Lines{"Punto de intersección 1:", "(10, 5)",
-                     "Los móviles 1 y 2 pasan respectivamente por allí en t = 1.01 y en t = 2.01"}));
+              (Lines{"Punto de intersección 1:", "(8, 4.8)",
+                     "Los móviles 1 y 2 pasan respectivamente por allí en t = 0.808 y en t = 1.808"}));
 }
 
 // y = x - x^2/20 and a level throw from (0, 2) with 7: 4.9/49 = 1/10: x^2/20 + x - 2 = 0, x = -10 +- sqrt
