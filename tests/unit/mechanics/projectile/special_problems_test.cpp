@@ -250,8 +250,8 @@ TEST(Incline, Refuses) {
     }
 }
 
-// Both at 45° with 14: y = x - x^2/20 from the origin, mirrored from (16, 0); they meet at x = 8, 4.8 high, after
-// 8 / 9.8995.
+// Both at 45° with 14: y = x - x^2/20 from the origin, mirrored from (16, 0); they meet at x = 8, 4.8 high,
+// after 8 / 9.8995.
 TEST(Crossing, TellsACollision) {
     Desk desk = WithMovers({"0", "0", "0", "14", "45"}, {"0", "16", "0", "14", "135"});
     desk.Run(Special::Crossing);
