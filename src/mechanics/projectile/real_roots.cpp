@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "numeric/checked.h"
-#include "numeric/polynomials.h"
+#include "numeric/real_roots.h"
 
 namespace tavrelo::mechanics::projectile {
 
@@ -19,17 +19,9 @@ void AddDistinct(std::vector<double>& values, double value) {
 }
 
 std::vector<double> RealRoots(double a, double b, double c) {
-    if (a == 0.0)
-        return b == 0.0 ? std::vector<double>{} : std::vector{Finite(0.0 - c / b)};
-    const numeric::QuadraticRoots found = numeric::QuadRoots(a, b, c);
-    if (!found.real) {
-        const double square = Finite(b * b);
-        const double product = Finite(4.0 * a * c);
-        const bool touches = std::abs(square - product) <= kRounding * (square + std::abs(product));
-        return touches ? std::vector{Finite(-b / (2.0 * a))} : std::vector<double>{};
-    }
-    std::vector<double> roots = {Finite(found.first)};
-    AddDistinct(roots, Finite(found.second));
+    std::vector<double> roots;
+    for (const double root : numeric::RealRoots(a, b, c))
+        AddDistinct(roots, root);
     return roots;
 }
 

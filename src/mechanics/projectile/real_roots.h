@@ -12,9 +12,7 @@ inline constexpr double kRounding = 1e-9;
 /// Adds a value unless it is there already, but for rounding.
 void AddDistinct(std::vector<double>& values, double value);
 
-/// The real roots of a x^2 + b x + c, in the order of numeric::QuadRoots, equal ones once: for a height of a
-/// rising throw the later time comes first. Without a square term the root of the linear equation; a
-/// discriminant that is negative by rounding only counts as 0. Fails with Overflow.
+/// numeric::RealRoots, near ones once: for a height of a rising throw the later time comes first.
 std::vector<double> RealRoots(double a, double b, double c);
 
 /// The square root, or nothing below 0; what is negative by rounding beside `scale`, the size of the terms of

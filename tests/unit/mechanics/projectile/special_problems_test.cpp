@@ -43,7 +43,7 @@ TEST(RunSpecial, RefusesWhatIsNoListOfItsNumbers) {
         {Special::MixedPair, "1,2,3,4,5", "Número de coeficientes incorrecto."},
         {Special::MixedPair, "1,2,3,4,5,6,7", "Número de coeficientes incorrecto."},
         {Special::MixedPair, "1,2,a,4,5,6", "Hay algún coeficiente no numérico."},
-        {Special::WithVertical, "", "Hay algún coeficiente no numérico."},
+        {Special::WithVertical, "", "Número de coeficientes incorrecto."},
         {Special::Incline, "1, 0", "Número de coeficientes incorrecto."},
         {Special::MixedPair, "1,2,3,4,5,1E400", "Hay algún coeficiente no numérico."},
         {Special::RangeRatio, "1", "Número de coeficientes incorrecto."},
