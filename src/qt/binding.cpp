@@ -62,10 +62,19 @@ void Binding::ShowState() {
     if (m_widget.accessibleName() != name)
         m_widget.setAccessibleName(name);
     ShowColors();
+    ShowUnderline();
     m_widget.setEnabled(m_control.Enabled());
     const bool visible = m_control.Visible() && IsPageInFront();
     if (m_widget.isHidden() == visible)
         m_widget.setVisible(visible);
+}
+
+void Binding::ShowUnderline() {
+    if (m_widget.font().underline() == m_control.Underlined())
+        return;
+    QFont font;
+    font.setUnderline(m_control.Underlined());
+    m_widget.setFont(font);
 }
 
 void Binding::ShowColors() {

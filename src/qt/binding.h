@@ -41,7 +41,7 @@ class Binding : public QObject {
     virtual bool IsRenewedWhole() const { return false; }
 
   protected:
-    /// Place, visibility, enabling, tooltip, colours.
+    /// Place, visibility, enabling, tooltip, colours, underline.
     virtual void ShowState();
     virtual void ShowContent() {}
     virtual void ShowSelection() {}
@@ -65,6 +65,7 @@ class Binding : public QObject {
 
   private:
     void ShowColors();
+    void ShowUnderline();
     bool IsPageInFront() const;
 
     window::Control& m_control;

@@ -48,11 +48,6 @@ class LabelBinding : public Binding {
         m_widget.word_pitch = Context().Scaled(m_label.WordPitch());
         if (m_label.OnClick)
             m_widget.setCursor(Qt::PointingHandCursor);
-        if (m_widget.font().underline() != m_label.Underlined()) {
-            QFont font;
-            font.setUnderline(m_label.Underlined());
-            m_widget.setFont(font);
-        }
     }
 
   private:
