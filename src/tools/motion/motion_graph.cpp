@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "drawing/draw_engine.h"
 #include "drawing/graph_frame.h"
@@ -25,8 +28,11 @@ constexpr double kCurveWidth = 2;  // so that the colours tell apart from the la
 constexpr double kPositionAxisShift = 13;  // from the frame's left side to the name's left edge
 constexpr double kTimeAxisDrop = 19;       // from the frame's foot to the name's top
 constexpr double kEdgeGap = 4;             // from the picture's right edge
-constexpr double kCurveNameShift = 14;     // left of the curve's end
-constexpr double kCurveNameRise = 16;      // above it
+// Beside a curve: left of it and above, or right of it and below.
+constexpr double kNameLeft = 12;
+constexpr double kNameRise = 16;
+constexpr double kNameRight = 6;
+constexpr double kNameDrop = 1;
 
 void Print(Surface& picture, const std::string& text, double x, double y, text::Color color) {
     drawing::PrintLabel(picture, text, x, y, drawing::LabelFont(), color);
@@ -58,9 +64,47 @@ void NameAxes(Surface& picture, const GraphFrame& frame) {
           frame.bottom + kTimeAxisDrop, text::kBlack);
 }
 
-void NameCurve(Surface& picture, const GraphFrame& frame, double x, double y, const GraphName& name) {
-    Print(picture, std::string(name.name), std::max(x - kCurveNameShift, frame.left + kEdgeGap),
-          std::max(y - kCurveNameRise, frame.top + kEdgeGap), StretchColor(name.mover, name.stretch));
+/// The points of the curves of one mover, or of the other, in pixels.
+std::vector<window::Point> PointsOf(const MotionGraph& graph, const GraphScale& times,
+                                    const GraphScale& positions, int mover, bool own) {
+    std::vector<window::Point> points;
+    for (const GraphCurve& curve : graph.curves)
+        if ((curve.mover == mover) == own)
+            for (std::size_t k = 0; k < curve.times.size(); ++k)
+                points.push_back({times(curve.times[k]), positions(curve.positions[k])});
+    return points;
+}
+
+/// Height of a polyline over a place, pixels; nothing beside it.
+std::optional<double> HeightAt(const std::vector<window::Point>& line, double x) {
+    for (std::size_t k = 1; k < line.size(); ++k) {
+        const auto& [x1, y1] = line[k - 1];
+        const auto& [x2, y2] = line[k];
+        if (x1 <= x && x <= x2 && x1 < x2)
+            return y1 + (y2 - y1) * (x - x1) / (x2 - x1);
+    }
+    return std::nullopt;
+}
+
+/// A name beside its curve, where the other mover's curve is farthest, and on the side away from it.
+void NameCurve(Surface& picture, const MotionGraph& graph, const GraphScale& times,
+               const GraphScale& positions, const GraphName& name) {
+    constexpr double kShares[] = {0.75, 0.5, 0.25};  // of the way along the curve
+    const std::vector<window::Point> own = PointsOf(graph, times, positions, name.mover, true);
+    const std::vector<window::Point> other = PointsOf(graph, times, positions, name.mover, false);
+    double widest = -1;
+    window::Point place{};
+    for (const double share : kShares) {
+        const double x = own.front().x + (own.back().x - own.front().x) * share;
+        const double y = HeightAt(own, x).value_or(own.back().y);
+        const double gap = HeightAt(other, x).value_or(y) - y;
+        if (std::abs(gap) <= widest)
+            continue;
+        widest = std::abs(gap);
+        place = gap > 0 ? window::Point{x - kNameLeft, y - kNameRise}
+                        : window::Point{x + kNameRight, y + kNameDrop};
+    }
+    Print(picture, std::string(name.name), place.x, place.y, StretchColor(name.mover, name.stretch));
 }
 
 }  // namespace
@@ -80,7 +124,7 @@ void DrawMotionGraph(Surface& picture, const MotionGraph& graph, int decimals) {
     LabelRanges(picture, frame, graph, decimals);
     NameAxes(picture, frame);
     for (const GraphName& name : graph.names)
-        NameCurve(picture, frame, times(name.time), positions(name.position), name);
+        NameCurve(picture, graph, times, positions, name);
 }
 
 }  // namespace tavrelo::tools::motion
