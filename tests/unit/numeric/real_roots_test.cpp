@@ -41,6 +41,9 @@ TEST(RealRoots, OfEveryDegree) {
 TEST(CleanDifference, WhatOnlyRoundingLeavesIsZero) {
     EXPECT_EQ(CleanDifference(0.3, 0.1 * 3), 0.0);
     EXPECT_EQ(CleanDifference(1, 1), 0.0);
+    // Rounding is measured against the terms, large or small.
+    EXPECT_EQ(CleanDifference(1e6 + 1e-7, 1e6), 0.0);
+    EXPECT_NEAR(CleanDifference(1.1e-6, 1e-6), 1e-7, 1e-18);
     EXPECT_EQ(CleanDifference(1, 0), 1.0);
     EXPECT_EQ(CleanDifference(-2, 2), -4.0);
     EXPECT_NEAR(CleanDifference(1 + 1e-9, 1), 1e-9, 1e-15);

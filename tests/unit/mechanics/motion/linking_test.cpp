@@ -91,6 +91,15 @@ TEST(SolveLink, AJunctionPassedOnTheWayUpOrDown) {
     ExpectMotion(motions[1], {1.5, 3.75, -5}, {1.5, 3.75, -5}, -10, -5);
 }
 
+// Thrown up at 10 under -10, at rest at 5 when the acceleration becomes -5: 2 later it falls with 10 at -5. A
+// junction at rest is one solution, not two.
+TEST(SolveLink, AJunctionAtRestCountsOnce) {
+    const auto answer = SolveLink({{0, 0, 10}, -10, -5, {}, -5, -10});
+    ASSERT_TRUE(std::holds_alternative<LinkedMotions>(answer));
+    ASSERT_EQ(std::get<LinkedMotions>(answer).size(), 1U);
+    ExpectMotion(std::get<LinkedMotions>(answer).front(), {1, 5, 0}, {3, -5, -10}, -10, -5);
+}
+
 TEST(SolveLink, RefusesAndFails) {
     const auto refused = [](const LinkData& data) {
         const auto answer = SolveLink(data);

@@ -115,6 +115,22 @@ TEST(Relations, CountOnlyTimesOfTheStretch) {
     EXPECT_TRUE(meets()) << "a reference is no limit";
 }
 
+// 0.06/(0.3 - 0.1) is a little more than 0.3, and yet it is the typed end of the stretch.
+TEST(Relations, RoundingDoesNotPushATimeOutOfItsStretch) {
+    Problem problem = TwoPlanted({0, 0.3, 0}, {0.06, 0.1, 0});
+    const auto meets = [&] {
+        return LinesOf(ApplyRelation(problem, Relation::PositionDifference, "0", kDecimals)).size() == 2;
+    };
+    SetTime(problem, 1, 0, 0);
+    SetTime(problem, 1, 3, 0.3);
+    EXPECT_TRUE(meets());
+    SetTime(problem, 1, 3, 0.2999);
+    EXPECT_FALSE(meets());
+    SetTime(problem, 1, 0, 0.3);
+    SetTime(problem, 1, 3, 0.1);
+    EXPECT_TRUE(meets()) << "the limits in either order";
+}
+
 TEST(Relations, GoThroughTheStretchesThatHaveEquations) {
     Problem problem = TwoMovers(6, {2});
     GiveMotion(problem, 1, 1, {0, 10, 0});
