@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 #include "mechanics/projectile/parameters.h"
@@ -159,6 +160,42 @@ TEST_P(EveryPair, NeverGivesAFalseValue) {
         for (const double vy :
              ValuesOf(VerticalSpeedsFor(1, {SpeedMode::Components, start, motion.vx, {}}, data, kDecimals)))
             ASSERT_TRUE(Meets({start.t, start.x, start.y, motion.vx, vy}, data, true))
+                << Describe(motion, data);
+    }
+}
+
+/// The same from millimetres to hundreds of kilometres. Data of few digits then do not fit to the last place:
+/// judged by a thousandth.
+TEST_P(EveryPair, NeverGivesAFalseValueAtAnyScale) {
+    Throws throws(Seed() + 90);
+    for (int i = 0; i < kRounds; ++i) {
+        const double length = std::pow(10.0, throws.Between(-3, 5));
+        const double speed_scale = std::sqrt(9.8 * length);
+        const double time_scale = std::sqrt(length / 9.8);
+        const Start start = {throws.Between(-1, 1) * time_scale, throws.Between(-1, 1) * length,
+                             throws.Between(-1, 1) * length};
+        const Throw motion =
+            FromPolar(start, throws.Between(0.1, 3) * speed_scale, throws.Between(-179, 179));
+        const PairData data = {ThePair(),
+                               start.t + throws.Between(-1, 4) * time_scale,
+                               start.x + throws.Between(-3, 3) * length,
+                               start.y + throws.Between(-3, 3) * length,
+                               throws.Between(0, 3) * speed_scale,
+                               throws.Between(-179, 179)};
+        constexpr double kThousandth = 1e-3;
+        for (const double speed : ValuesOf(SpeedsFor({SpeedMode::Polar, start, {}, motion.Theta()}, data)))
+            ASSERT_TRUE(Meets(FromPolar(start, speed, motion.Theta()), data, true, kThousandth))
+                << Describe(motion, data);
+        for (const double angle : ValuesOf(AnglesFor({SpeedMode::Polar, start, motion.V0(), {}}, data)))
+            ASSERT_TRUE(Meets(FromPolar(start, motion.V0(), angle), data, false, kThousandth))
+                << Describe(motion, data);
+        for (const double vx :
+             ValuesOf(HorizontalSpeedsFor(1, {SpeedMode::Components, start, {}, motion.vy}, data, kDecimals)))
+            ASSERT_TRUE(Meets({start.t, start.x, start.y, vx, motion.vy}, data, true, kThousandth))
+                << Describe(motion, data);
+        for (const double vy :
+             ValuesOf(VerticalSpeedsFor(1, {SpeedMode::Components, start, motion.vx, {}}, data, kDecimals)))
+            ASSERT_TRUE(Meets({start.t, start.x, start.y, motion.vx, vy}, data, true, kThousandth))
                 << Describe(motion, data);
     }
 }
