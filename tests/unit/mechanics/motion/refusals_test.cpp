@@ -146,6 +146,7 @@ TEST(Refusals, OfAnUnknownSpeed) {
          // t3 = 3 t1: 3 = 0.5 a 3 t1^2 has no root with a = -2, nor with a = 0
          {"No existe solución para  v0", base, "-2", {"1", "", ""}, {"3", "3*x1", ""}},
          {"No existe solución para  v0", base, "0", {"1", "", ""}, {"3", "3*x1", ""}},
+         {"No existe solución para  v0", {"0", "0", ""}, "2", {"1", "", ""}, {"3", "3*x1", ""}},
          {"No existe solución para  v0", base, "2", {"1", "", ""}, {"3", "", "1*v1"}},
          {factor_one, base, "2", {"", "8", ""}, {"1*t1", "15", ""}},
          {factor_one, base, "2", {"", "8", ""}, {"", "15", "1*v1"}},
