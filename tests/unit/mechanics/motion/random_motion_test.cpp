@@ -480,6 +480,47 @@ TEST(RandomMotion, EveryDataSetFindsTheUnknownAcceleration) {
         CheckParameter(set, false);
 }
 
+/// The same motion in other units: micrometres and hours as well as megametres and milliseconds.
+Sample InUnits(const Sample& s, double length, double time) {
+    return {s.tn * time, s.xn * length, s.vn * length / time, s.a * length / (time * time),
+            s.ti * time, s.tf * time};
+}
+
+TEST(RandomMotion, UnitsDoNotMatter) {
+    constexpr int kMotionsOfAScale = 100;
+    for (const ParameterSet& set : ParameterSets()) {
+        SCOPED_TRACE(set.name);
+        for (const double length : {0x1p-20, 0x1p-10, 0x1p10, 0x1p20}) {
+            for (const double time : {0x1p-10, 1.0, 0x1p12}) {
+                Chance chance;
+                for (int k = 0; k < kMotionsOfAScale; ++k) {
+                    const Sample plain = chance.Next();
+                    const bool seeks_speed = k % 2 == 0;
+                    if (!set.is_possible(plain) ||
+                        (seeks_speed ? set.speed_is_refused(plain) : set.acceleration_is_refused(plain)))
+                        continue;
+                    const Sample s = InUnits(plain, length, time);
+                    Problem problem = PlantedOn(s, !seeks_speed, seeks_speed);
+                    problem.table.ClearColumn(1);
+                    SetColumn(problem, 1, set.start(s));
+                    SetColumn(problem, 2, set.end(s));
+                    const Step step =
+                        ClickPoint(problem, Procedure::SubstituteWithParameters, {1, 1, 2}, kDecimals);
+                    if (RefusalOf(step).starts_with("Error en el dato"))
+                        continue;  // an increment so small that its exponent's sign is no reference any more
+                    bool is_found = false;
+                    for (const PlantRequest& answer : Answers(step))
+                        is_found = is_found || (IsClose(answer.v.Number() / length * time, plain.vn) &&
+                                                IsClose(answer.a.Number() / length * time * time, plain.a));
+                    EXPECT_TRUE(is_found) << plain.tn << " " << plain.xn << " " << plain.vn << " " << plain.a
+                                          << " | " << plain.ti << " " << plain.tf << " length " << length
+                                          << " time " << time << " " << RefusalOf(step);
+                }
+            }
+        }
+    }
+}
+
 /// Numbers that belong to no motion in particular: whatever is answered must still fit them.
 TEST(RandomMotion, NoAnswerContradictsItsData) {
     int answered = 0;
