@@ -26,8 +26,12 @@ std::optional<std::string> Program::GlobalValue(std::string_view name) const {
 }
 
 void Program::NameGlobals() {
-    const auto movers = [this]() -> const auto& { return m_tools->motion.Problem().configuration; };
     const window::Publics& publics = m_form.publics;
+    // Of the tool in use; the motion tool's where another kind of tool is.
+    const auto movers = [this, &publics]() -> const mechanics::points::Configuration& {
+        return publics.CurrentTool == window::Tool::Projectile ? m_tools->projectile.Problem().configuration
+                                                               : m_tools->motion.Problem().configuration;
+    };
     m_globals = {
         {"CurrentTool", [&publics] { return std::to_string(static_cast<int>(publics.CurrentTool)); }},
         {"HelpTool", [&publics] { return std::to_string(publics.HelpTool); }},
@@ -44,8 +48,10 @@ void Program::NameGlobals() {
         {"GridColsShown", [this] { return std::to_string(m_tools->calculator.GridColsShown()); }},
         {"ForceCount", [this] { return std::to_string(m_tools->particle.ForceCount()); }},
         {"BackupCount", [this] { return std::to_string(m_tools->particle.BackupCount()); }},
-        {"SegCount", [this] { return std::to_string(m_tools->rigid_body.Problem().structure.segments.size()); }},
-        {"PointCount", [this] { return std::to_string(m_tools->rigid_body.Problem().structure.points.size()); }},
+        {"SegCount",
+         [this] { return std::to_string(m_tools->rigid_body.Problem().structure.segments.size()); }},
+        {"PointCount",
+         [this] { return std::to_string(m_tools->rigid_body.Problem().structure.points.size()); }},
         {"LineCount", [this] { return std::to_string(m_tools->rigid_body.Problem().lines.size()); }},
         {"BodyForceCount", [this] { return std::to_string(m_tools->rigid_body.Problem().forces.size()); }},
         {"MruaProc", [this] { return std::to_string(static_cast<int>(m_tools->motion.CurrentProcedure())); }},
@@ -58,6 +64,8 @@ void Program::NameGlobals() {
         {"ConfigPending", [movers] { return Truth(movers().stage == mechanics::points::Stage::Pending); }},
         {"LimitClicksOpen", [movers] { return Truth(movers().stage == mechanics::points::Stage::Limits); }},
         {"TableConfigured", [movers] { return Truth(movers().IsConfigured()); }},
+        {"ProjProc",
+         [this] { return std::to_string(static_cast<int>(m_tools->projectile.CurrentProcedure())); }},
         {"SolutionShown", [this] { return std::to_string(m_tools->motion.SolutionShown()); }},
         {"ClockSel", [this] { return std::to_string(m_tools->clock.ClockSel()); }},
     };

@@ -29,7 +29,7 @@ Program::Tools::Tools(window::Form1& window)
       rigid_body(window),
       points(window, help),
       motion(window, points, tool_switch),
-      projectile(points),
+      projectile(window, points, tool_switch),
       kinematics(window) {
     WireMenu();
     WireHelp();

@@ -9,8 +9,8 @@
 
 #include "drawing/draw_engine.h"
 #include "drawing/graph_frame.h"
+#include "frame/points_colors.h"
 #include "text/number_text.h"
-#include "tools/motion/stretch_colors.h"
 
 namespace tavrelo::tools::motion {
 namespace {
@@ -104,7 +104,7 @@ void NameCurve(Surface& picture, const MotionGraph& graph, const GraphScale& tim
         place = gap > 0 ? window::Point{x - kNameLeft, y - kNameRise}
                         : window::Point{x + kNameRight, y + kNameDrop};
     }
-    Print(picture, std::string(name.name), place.x, place.y, StretchColor(name.mover, name.stretch));
+    Print(picture, std::string(name.name), place.x, place.y, frame::StretchColor(name.mover, name.stretch));
 }
 
 }  // namespace
@@ -119,7 +119,7 @@ void DrawMotionGraph(Surface& picture, const MotionGraph& graph, int decimals) {
     picture.DrawWidth = kCurveWidth;
     for (const GraphCurve& curve : graph.curves)
         drawing::DrawGraphCurve(picture, times, positions, curve.times, curve.positions,
-                                StretchColor(curve.mover, curve.stretch));
+                                frame::StretchColor(curve.mover, curve.stretch));
     picture.DrawWidth = 1;
     LabelRanges(picture, frame, graph, decimals);
     NameAxes(picture, frame);

@@ -3,12 +3,12 @@
 #include <utility>
 #include <vector>
 
+#include "frame/points_board.h"
+#include "frame/points_colors.h"
 #include "frame/points_strip.h"
 #include "frame/writer.h"
 #include "mechanics/motion/typed_procedures.h"
-#include "tools/motion/motion_board.h"
 #include "tools/motion/motion_graph.h"
-#include "tools/motion/stretch_colors.h"
 #include "window/guarded.h"
 #include "window/questions.h"
 
@@ -52,11 +52,11 @@ std::vector<frame::StripLabel> LabelsOf(const Configuration& configuration) {
     for (int mover = 1; mover <= configuration.MoverCount(); ++mover) {
         int stretch = 1;  // the one that the point ends, or in which it lies
         for (int point = 0; point < configuration.MoverAt(mover).points; ++point) {
-            const text::Color left = StretchColor(mover, stretch);
+            const text::Color left = frame::StretchColor(mover, stretch);
             if (configuration.HasStretch(mover, stretch + 1) &&
                 configuration.StretchAt(mover, stretch + 1).first == point)
                 ++stretch;
-            labels.push_back({point, left, StretchColor(mover, stretch)});
+            labels.push_back({point, left, frame::StretchColor(mover, stretch)});
         }
     }
     return labels;
@@ -347,9 +347,11 @@ void Motion::Show(const mechanics::motion::Event& event) {
                    [this](const WriteLines& report) {
                        frame::WritePortions(m_form, m_controls.rtbSolve, std::span(&report.lines, 1));
                    },
-                   [this](const ClearSlot& band) { ClearBoardLine(m_controls.pic.Canvas(), band.slot); },
+                   [this](const ClearSlot& band) {
+                       frame::ClearBoardLine(m_controls.pic.Canvas(), band.slot, frame::kMotionBand);
+                   },
                    [this](const BoardLine& line) {
-                       PrintBoardLine(m_controls.pic.Canvas(), line.slot, line.markup);
+                       frame::PrintBoardLine(m_controls.pic.Canvas(), line.slot, line.markup);
                    },
                    [this](const ShowBoard&) { ShowGraph(false); },
                    [this](const ShowResults&) { m_results.Show(m_problem.results, 0); },

@@ -1,7 +1,7 @@
 #include "tools/motion/results_panel.h"
 
+#include "frame/points_colors.h"
 #include "text/number_text.h"
-#include "tools/motion/stretch_colors.h"
 #include "window/guarded.h"
 
 namespace tavrelo::tools::motion {
@@ -26,7 +26,7 @@ void ResultsPanel::Show(const mechanics::motion::Results& results, std::size_t s
     if (solution >= results.solutions.size())
         return;
     const mechanics::motion::FoundSolution& found = results.solutions[solution];
-    const text::Color color = ResultColor(results.mover, results.stretch);
+    const text::Color color = frame::ResultColor(results.mover, results.stretch);
     ShowPoint(0, &found.first, color);
     ShowPoint(1, found.second ? &*found.second : nullptr, color);
     m_shown = solution;

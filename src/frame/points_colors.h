@@ -2,7 +2,7 @@
 
 #include "text/color.h"
 
-namespace tavrelo::tools::motion {
+namespace tavrelo::frame {
 
 /// The colour of the labels and curves of a mover's stretch, both from 1: the three stretches of mover 1, and
 /// mover 2.
@@ -19,4 +19,4 @@ constexpr text::Color ResultColor(int mover, int stretch) {
     return mover == 2 ? text::FromBgr(0x800080) : StretchColor(mover, stretch);
 }
 
-}  // namespace tavrelo::tools::motion
+}  // namespace tavrelo::frame

@@ -1,0 +1,78 @@
+#include "tools/projectile/projectile_strip.h"
+
+#include <vector>
+
+#include "frame/points_colors.h"
+#include "frame/points_strip.h"
+
+namespace tavrelo::tools::projectile {
+namespace {
+
+using frame::StripBand;
+using frame::StripPlace;
+using mechanics::points::Stage;
+using mechanics::projectile::Problem;
+using mechanics::projectile::SpeedMode;
+using window::MouseButton;
+using window::MouseStroke;
+
+constexpr int kOnlyStretch = 1;
+
+Shortcut ShortcutOf(const MouseStroke& stroke) {
+    if (stroke.alt)
+        return Shortcut::OtherSide;
+    if (stroke.shift)
+        return Shortcut::Plant;
+    return stroke.ctrl ? Shortcut::Substitute : Shortcut::None;
+}
+
+StripAction ActionOf(const MouseStroke& stroke, StripBand band, Stage stage) {
+    const bool configured = stage == Stage::Configured;
+    if (band == StripBand::Outside)
+        return StripAction::Nothing;
+    if (stroke.button == MouseButton::Right) {
+        if (band == StripBand::Grey)
+            return configured ? StripAction::StartDrag : StripAction::Nothing;
+        const bool inside = stroke.y > 0 && stroke.y < frame::kLabelTop;
+        return inside ? StripAction::ClearPoint : StripAction::Nothing;
+    }
+    if (band == StripBand::Grey)
+        return stage == Stage::Unconfigured ? StripAction::Nothing : StripAction::ClickBand;
+    return configured ? StripAction::RunLabel : StripAction::AskConfiguration;
+}
+
+std::vector<frame::StripLabel> LabelsOf(const mechanics::points::Configuration& configuration) {
+    std::vector<frame::StripLabel> labels;
+    for (int mover = 1; mover <= configuration.MoverCount(); ++mover) {
+        const text::Color color = frame::StretchColor(mover, kOnlyStretch);
+        for (int point = 0; point < configuration.MoverAt(mover).points; ++point)
+            labels.push_back({point, color, color});
+    }
+    return labels;
+}
+
+}  // namespace
+
+StripMeaning MeaningOfPress(const MouseStroke& stroke, Stage stage) {
+    const StripPlace place = frame::PlaceOnStrip(stroke.x, stroke.y);
+    const StripAction action = ActionOf(stroke, place.band, stage);
+    if (action == StripAction::Nothing)
+        return {};
+    const Shortcut shortcut = action == StripAction::RunLabel ? ShortcutOf(stroke) : Shortcut::None;
+    return {action, stroke.x / frame::kStripColumn, place.column, shortcut};
+}
+
+std::optional<DragEnd> MeaningOfRelease(const MouseStroke& stroke) {
+    const StripPlace place = frame::PlaceOnStrip(stroke.x, stroke.y);
+    if (place.band != StripBand::Grey)
+        return std::nullopt;
+    return DragEnd{place.column, stroke.shift};
+}
+
+void PaintStrip(window::Recorder& strip, const Problem& problem) {
+    frame::PaintPointStrip(strip, LabelsOf(problem.configuration));
+    for (int column = 1; column <= frame::kPointColumns; ++column)
+        frame::PaintSpeedMode(strip, column, problem.ModeOf(column) == SpeedMode::Components ? "cs" : "md");
+}
+
+}  // namespace tavrelo::tools::projectile
