@@ -194,6 +194,17 @@ TEST(IntervalEquations, EveryRefusalByItsName) {
     }
 }
 
+// A typed line never has so many; whoever fills the data in by program may.
+TEST(IntervalEquations, EndsInBothGroupsAreTooMuch) {
+    IntervalData data;
+    data[IntervalDatum::ti] = 1;
+    data[IntervalDatum::tf] = 4;
+    data[IntervalDatum::xi] = 0;
+    data[IntervalDatum::xf] = 21;
+    data[IntervalDatum::a] = 2;
+    EXPECT_EQ(std::get<text::Refusal>(SolveInterval(data)).text, kInconsistentInterval);
+}
+
 TEST(IntervalEquations, WhatNoRefusalNamesFails) {
     const auto failure_of = [](const char* line) {
         return FailureOf([line] { (void)ApplyIntervalEquations(line, kDecimals); });

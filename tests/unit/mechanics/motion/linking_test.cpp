@@ -100,6 +100,16 @@ TEST(SolveLink, AJunctionAtRestCountsOnce) {
     ExpectMotion(std::get<LinkedMotions>(answer).front(), {1, 5, 0}, {3, -5, -10}, -10, -5);
 }
 
+// From rest at a with -1 all the way for 9: the junction is a itself. With 2 all the way to 81 it is c.
+TEST(SolveLink, AJunctionMayLieOnAOrC) {
+    const auto at_a = SolveLink({{0, 0, 0}, 2, -1, 9, -40.5, {}});
+    ASSERT_TRUE(std::holds_alternative<LinkedMotions>(at_a));
+    ExpectMotion(std::get<LinkedMotions>(at_a).front(), {0, 0, 0}, {9, -40.5, -9}, 2, -1);
+    const auto at_c = SolveLink({{0, 0, 0}, 2, -1, 9, 81, {}});
+    ASSERT_TRUE(std::holds_alternative<LinkedMotions>(at_c));
+    ExpectMotion(std::get<LinkedMotions>(at_c).front(), {9, 81, 18}, {9, 81, 18}, 2, -1);
+}
+
 TEST(SolveLink, RefusesAndFails) {
     const auto refused = [](const LinkData& data) {
         const auto answer = SolveLink(data);
