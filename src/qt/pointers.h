@@ -4,7 +4,7 @@
 
 namespace tavrelo::qt {
 
-/// The machine's pointer for a shape of the program's; see shell::PointerShape.
+/// The machine's pointer for a shape of the program's; see window::PointerShape.
 QCursor ToCursor(int shape);
 
 }  // namespace tavrelo::qt

@@ -1,61 +1,66 @@
 #include "qt/printing.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QApplication>
-#include <QPainter>
 #include <QPrintDialog>
-#include <QTextCursor>
-#include <QTextDocument>
+#include <algorithm>
 
 #include "numeric/checked.h"
 #include "qt/fonts.h"
-#include "qt/rich_document.h"
+#include "qt/text.h"
+#include "window/geometry.h"
 
 namespace tavrelo::qt {
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
-constexpr double kProgramDotsPerInch = 96;
 
-/// The place for text on the paper, in dots of the printer.
-QRectF ColumnOf(const QPrinter& printer, const window::PageMargins& margins) {
-    const double dots_per_twip = printer.resolution() / kTwipsPerInch;
-    const QRectF paper = printer.pageLayout().fullRectPixels(printer.resolution());
-    return paper.adjusted(margins.left * dots_per_twip, margins.top * dots_per_twip,
-                          -margins.right * dots_per_twip, -margins.bottom * dots_per_twip);
+window::Paper PaperOf(const QPrinter& printer) {
+    constexpr double kMillimetersPerInch = 25.4;
+    const QRectF paper = printer.pageLayout().fullRect(QPageLayout::Millimeter);
+    return {paper.width() * kTwipsPerInch / kMillimetersPerInch,
+            paper.height() * kTwipsPerInch / kMillimetersPerInch};
 }
 
-/// Lays the text out in pages of the column's size.
-void LayOut(QTextDocument& document, const text::RichText& text, QPrinter& printer, const QSizeF& column) {
-    document.setDocumentMargin(0);
-    document.documentLayout()->setPaintDevice(&printer);
-    document.setPageSize(column);
-    QTextCursor cursor(&document);
-    InsertRuns(cursor, text, ScreenDotsPerInch() / kProgramDotsPerInch);
-}
-
-void DrawPage(QTextDocument& document, QPainter& painter, const QRectF& column, int page) {
-    painter.save();
-    painter.translate(column.left(), column.top() - page * column.height());
-    document.drawContents(&painter, QRectF(0, page * column.height(), column.width(), column.height()));
-    painter.restore();
+/// The machine's font in dots of the device, of which the toolkit takes whole ones only.
+QFont PrintFont(const text::Font& font, double dots) {
+    QFont result = ToQFont(font, 1);
+    result.setPixelSize(std::max(1, qRound(dots)));
+    return result;
 }
 
 }  // namespace
 
+void PaintPage(QPainter& painter, const window::PrintedPage& page, double dots_per_twip) {
+    const double dots_per_pixel = window::kTwipsPerPixel * dots_per_twip;
+    for (const window::PrintedLine& line : page.lines)
+        for (const window::PrintedRun& printed : line.runs) {
+            const text::Run& run = printed.run;
+            const double dots = text::PixelsOf(run.font.size) * dots_per_pixel;
+            const QFont font = PrintFont(run.font, dots);
+            const double stretch = dots / font.pixelSize();
+            painter.save();
+            painter.setFont(font);
+            painter.setPen(ToQColor(run.color));
+            painter.translate(printed.left * dots_per_twip, (line.base_line - run.offset) * dots_per_twip);
+            painter.scale(stretch, stretch);
+            painter.drawText(QPointF(), ToQString(run.text));
+            painter.restore();
+        }
+}
+
 bool PrintPages(QPrinter& printer, const text::RichText& text, const window::PageMargins& margins) {
     printer.setPageOrientation(QPageLayout::Portrait);
     printer.setFullPage(true);
+    const auto pages = window::Paginate(text, PaperOf(printer), margins);
     QPainter painter(&printer);
     if (!painter.isActive())
         return false;
-    const QRectF column = ColumnOf(printer, margins);
-    QTextDocument document;
-    LayOut(document, text, printer, column.size());
-    for (int page = 0; page < document.pageCount(); ++page) {
-        if (page > 0)
+    const double dots_per_twip = printer.resolution() / kTwipsPerInch;
+    painter.translate(margins.left * dots_per_twip, margins.top * dots_per_twip);
+    for (const window::PrintedPage& page : pages) {
+        if (&page != &pages.front())
             printer.newPage();
-        DrawPage(document, painter, column, page);
+        PaintPage(painter, page, dots_per_twip);
     }
     return true;
 }

@@ -1,13 +1,17 @@
 #pragma once
 
+#include <QPainter>
 #include <QPrinter>
 
 #include "window/host.h"
+#include "window/pagination.h"
 
 namespace tavrelo::qt {
 
-/// Prints the text on upright pages, each filled from where the previous one ended; lines break at the width
-/// of the column on paper. False when the printer could not be started.
+/// Paints a page whose column begins at the painter's origin.
+void PaintPage(QPainter& painter, const window::PrintedPage& page, double dots_per_twip);
+
+/// Prints the text on upright pages of the printer's paper. False when the printer could not be started.
 bool PrintPages(QPrinter& printer, const text::RichText& text, const window::PageMargins& margins);
 
 /// A printer that the user chooses in the system's print dialogue.

@@ -3,30 +3,56 @@
 #include <algorithm>
 
 #include "text/utf8.h"
+#include "window/geometry.h"
 
 namespace tavrelo::window {
 namespace {
 
 struct Glyph {
     char32_t character;
-    double width;   // twips
-    double height;  // twips
+    const text::Run* run;
+    double width;  // twips
 };
 
 std::vector<Glyph> GlyphsOf(const text::RichText& text) {
     std::vector<Glyph> glyphs;
-    for (const text::Run& run : text.Runs()) {
-        const double height = text::TextHeight(run.font) * kTwipsPerPixel;
+    for (const text::Run& run : text.Runs())
         for (const char32_t character : text::ToCodePoints(run.text))
             glyphs.push_back(
-                {character, text::TextWidth(text::ToUtf8(character), run.font) * kTwipsPerPixel, height});
-    }
+                {character, &run, text::TextWidth(text::ToUtf8(character), run.font) * kTwipsPerPixel});
     return glyphs;
 }
 
-struct PrintedLine {
-    std::string text;
-    double height;
+/// A line as it is made, glyph by glyph.
+class LineBuilder {
+  public:
+    void Add(const Glyph& glyph) {
+        m_height = std::max(m_height, text::TextHeight(glyph.run->font) * kTwipsPerPixel);
+        m_line.base_line = std::max(m_line.base_line, text::TextAscent(glyph.run->font) * kTwipsPerPixel);
+        if (glyph.character < U' ')
+            return;
+        if (m_line.runs.empty() || m_run != glyph.run) {
+            m_line.runs.push_back({m_width, *glyph.run});
+            m_line.runs.back().run.text.clear();
+            m_run = glyph.run;
+        }
+        m_line.runs.back().run.text += text::ToUtf8(glyph.character);
+        m_width += glyph.width;
+    }
+
+    double Height() const { return m_height; }
+    /// The line at that distance from the top of the column.
+    PrintedLine At(double top) && {
+        m_line.top = top;
+        m_line.base_line += top;
+        return std::move(m_line);
+    }
+
+  private:
+    PrintedLine m_line{0, 0, {}};
+    const text::Run* m_run = nullptr;
+    double m_width = 0;
+    double m_height = 0;
 };
 
 /// Cuts lines off the front of the glyphs: at a line end, else behind the last blank that fits, else where it
@@ -37,17 +63,11 @@ class LineBreaker {
 
     bool AtEnd() const { return m_next == m_glyphs.size(); }
 
-    PrintedLine NextLine() {
-        const std::size_t end = EndOfLine();
-        std::u32string characters;
-        double height = 0;
-        for (std::size_t k = m_next; k < end; ++k) {
-            height = std::max(height, m_glyphs[k].height);
-            if (m_glyphs[k].character >= U' ')
-                characters += m_glyphs[k].character;
-        }
-        m_next = end;
-        return {text::ToUtf8(characters), height};
+    LineBuilder NextLine() {
+        LineBuilder line;
+        for (const std::size_t end = EndOfLine(); m_next < end; ++m_next)
+            line.Add(m_glyphs[m_next]);
+        return line;
     }
 
   private:
@@ -73,6 +93,13 @@ class LineBreaker {
 
 }  // namespace
 
+std::string PrintedLine::Text() const {
+    std::string text;
+    for (const PrintedRun& printed : runs)
+        text += printed.run.text;
+    return text;
+}
+
 std::vector<PrintedPage> Paginate(const text::RichText& text, const Paper& paper,
                                   const PageMargins& margins) {
     const double page_height = paper.height - margins.top - margins.bottom;
@@ -80,14 +107,15 @@ std::vector<PrintedPage> Paginate(const text::RichText& text, const Paper& paper
     std::vector<PrintedPage> pages;
     double used = 0;
     while (!lines.AtEnd()) {
-        PrintedLine line = lines.NextLine();
-        const bool full = used + line.height > page_height;
-        if (pages.empty() || (full && !pages.back().empty())) {
+        LineBuilder line = lines.NextLine();
+        const double height = line.Height();
+        const bool full = used + height > page_height;
+        if (pages.empty() || (full && !pages.back().lines.empty())) {
             pages.emplace_back();
             used = 0;
         }
-        pages.back().push_back(std::move(line.text));
-        used += line.height;
+        pages.back().lines.push_back(std::move(line).At(used));
+        used += height;
     }
     return pages;
 }

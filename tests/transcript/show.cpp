@@ -105,7 +105,8 @@ std::vector<std::string> PageLines(std::span<const window::PrintedPage> pages) {
     std::vector<std::string> lines;
     for (std::size_t k = 0; k < pages.size(); ++k) {
         lines.push_back("page " + std::to_string(k + 1));
-        lines.insert(lines.end(), pages[k].begin(), pages[k].end());
+        for (const window::PrintedLine& line : pages[k].lines)
+            lines.push_back(line.Text());
     }
     return lines;
 }

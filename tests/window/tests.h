@@ -90,6 +90,8 @@ class PrintingTest : public QObject {
   private slots:
     void LongTextsFillSeveralPages();
     void ShortTextsFillOne();
+    void PrintsThePagesThatAreLaidOut();
+    void RunsStandWhereTheyAreLaidOut();
 };
 
 class ClosingTest : public QObject {

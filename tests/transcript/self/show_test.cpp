@@ -62,7 +62,10 @@ TEST(Show, NamesPointers) {
 }
 
 TEST(Show, NumbersPages) {
-    const std::vector<window::PrintedPage> pages = {{"a", "b"}, {"c"}};
+    const auto line = [](const char* text) {
+        return window::PrintedLine{0, 0, {window::PrintedRun{0, text::Run{text, {}, text::kBlack, 0}}}};
+    };
+    const std::vector<window::PrintedPage> pages = {{{line("a"), line("b")}}, {{line("c")}}};
     EXPECT_EQ(PageLines(pages), (Lines{"page 1", "a", "b", "page 2", "c"}));
 }
 
