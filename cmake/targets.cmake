@@ -35,3 +35,9 @@ function(tavrelo_are_built result)
         endif()
     endforeach()
 endfunction()
+
+# tavrelo_whole_tests(window): these tests look at the program as a whole, as users get it. A check runs them in the release
+# build and all others under the sanitizers.
+function(tavrelo_whole_tests)
+    set_tests_properties(${ARGN} PROPERTIES LABELS whole)
+endfunction()
