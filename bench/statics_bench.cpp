@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "mechanics/forces/read_forces.h"
 #include "mechanics/particle/particle_solver.h"
 #include "mechanics/rigid/body_solver.h"
 #include "notation/force_parser.h"
@@ -34,8 +35,9 @@ BENCHMARK_CAPTURE(ParseVector, quadrant, std::string("p30x,10"));
 BENCHMARK_CAPTURE(ParseVector, components, std::string("3,-4"));
 
 void SolveParticle(benchmark::State& state, const std::vector<std::string>& forces) {
-    const auto table =
-        std::get<mechanics::forces::ForceTable>(mechanics::forces::ForcesOf(forces, kDecimals));
+    const auto records =
+        std::get<std::vector<notation::ForceRecord>>(mechanics::forces::ReadForces(forces, kDecimals));
+    const std::vector<notation::Force> table = mechanics::forces::ForcesOf(records);
     for (auto _ : state)
         benchmark::DoNotOptimize(mechanics::particle::SolveEquilibrium(table, kDecimals));
 }

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <span>
 #include <string_view>
 #include <variant>
 
@@ -25,16 +24,22 @@ void RequireFinite(double number) {
         std::abort();
 }
 
-void RequireFinite(std::span<const text::Value> elements) {
-    for (const text::Value& element : elements)
-        if (element.HoldsNumber())
-            RequireFinite(element.Number());
+void RequireFinite(const notation::Force& force) {
+    for (const auto& number : {force.magnitude, force.direction, force.x.number, force.y.number})
+        RequireFinite(number.value_or(0));
+    RequireFinite(force.x.coefficient);
+    RequireFinite(force.y.coefficient);
+}
+
+void RequireFinite(const notation::VectorRecord& vector) {
+    for (const double number : {vector.magnitude, vector.direction, vector.x, vector.y, vector.clock.angle})
+        RequireFinite(number);
 }
 
 void TryParsers(std::string_view text) {
     const auto force = notation::ParseForce(text, kDecimals);
     if (const auto* record = std::get_if<notation::ForceRecord>(&force))
-        RequireFinite(*record);
+        RequireFinite(record->force);
     const auto vector = notation::ParseVector(text);
     if (const auto* record = std::get_if<notation::VectorRecord>(&vector))
         RequireFinite(*record);

@@ -61,7 +61,6 @@ void Program::Tools::WireHelp() {
 }
 
 void Program::Tools::WireTools() {
-    clock.GiveVectorTo(Tool::Particle, [this] { particle.EnterForce(); });
     calculator.SolveParticle = [this](std::span<const std::string> texts) {
         if (particle.LoadForces(texts))
             particle.SolveAndReport();

@@ -33,7 +33,7 @@ struct Program::Tools {
     frame::OptionStrip option_strip;
     frame::DirectionClock clock;
     tools::calculator::CalculatorTool calculator;
-    tools::particle::Parts particle;
+    tools::particle::ParticleTool particle;
     tools::rigid::RigidTool rigid_body;
     frame::PointsPanel points;
     tools::motion::Motion motion;

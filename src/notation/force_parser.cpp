@@ -38,14 +38,13 @@ struct Reading {
     ForceRecord& record;
 };
 
-struct ComponentElements {
-    ForceElement component;
-    ForceElement coefficient;
-    ForceElement unknown;
-    ForceElement text;
+// One axis in the record.
+struct Axis {
+    ForceComponent Force::*component;
+    std::string ForceRecord::*text;
 };
-constexpr ComponentElements kX = {ForceX, ForceXCoefficient, ForceXUnknown, ForceXText};
-constexpr ComponentElements kY = {ForceY, ForceYCoefficient, ForceYUnknown, ForceYText};
+constexpr Axis kX = {&Force::x, &ForceRecord::x_text};
+constexpr Axis kY = {&Force::y, &ForceRecord::y_text};
 
 // A piece of the text: a number, or a symbol with its factor.
 struct Part {
@@ -67,59 +66,44 @@ bool IsLong(const text::FactoredSymbol& symbol) {
     return text::CharacterCount(symbol.symbol) > text::kLongestSymbol;
 }
 
-std::string WithoutMinus(std::string_view text) {
-    return std::string(text.starts_with('-') ? text.substr(1) : text);
+ForceComponent& ComponentOf(const Reading& reading, const Axis& axis) {
+    return reading.record.force.*axis.component;
 }
 
-void SetKnown(const Reading& reading, const ComponentElements& axis, double component) {
-    reading.record[axis.component] = component;
-    reading.record[axis.unknown] = "";
-    reading.record[axis.text] = text::RoundedText(component, reading.decimals);
+void SetKnown(const Reading& reading, const Axis& axis, double component) {
+    ComponentOf(reading, axis) = {.number = component};
+    reading.record.*axis.text = text::RoundedText(component, reading.decimals);
 }
 
-void SetUnknown(const Reading& reading, const ComponentElements& axis, double coefficient,
-                const std::string& unknown) {
-    reading.record[axis.component] = "";
-    reading.record[axis.coefficient] = coefficient;
-    reading.record[axis.unknown] = unknown;
-    reading.record[axis.text] = text::FactorText(coefficient, unknown, reading.decimals);
-    reading.record[ForceColour] = kUnknownColour;
+void SetUnknown(const Reading& reading, const Axis& axis, double coefficient, const UnknownTerm& unknown) {
+    ComponentOf(reading, axis) = {.coefficient = coefficient, .unknown = unknown};
+    reading.record.*axis.text = text::FactorText(coefficient, TextOf(unknown), reading.decimals);
+    reading.record.force.knowledge = Knowledge::Unknown;
 }
 
-void SetDirection(const Reading& reading, double direction, int hour, double angle) {
-    reading.record[ForceDirection] = direction;
-    reading.record[ForceHour] = hour;
-    reading.record[ForceClockAngle] = angle;
+void SetUnknown(const Reading& reading, const Axis& axis, const text::FactoredSymbol& symbol) {
+    SetUnknown(reading, axis, symbol.factor, {.magnitude = symbol.symbol});
 }
 
 void SetDirection(const Reading& reading, double direction, const numeric::ClockReading& clock) {
-    SetDirection(reading, direction, clock.hour, clock.angle);
+    reading.record.force.direction = direction;
+    reading.record.clock = clock;
 }
 
-void SetSymbol(const Reading& reading, const text::FactoredSymbol& symbol) {
-    reading.record[ForceSymbolPart] = symbol.symbol;
-    reading.record[ForceSymbolFactor] = symbol.factor;
+void SetMagnitude(const Reading& reading, double magnitude) {
+    reading.record.force.magnitude = magnitude;
+    reading.record.label = text::RoundedText(magnitude, kLabelDecimals);
 }
 
-void SetKnownMagnitude(const Reading& reading, double magnitude, const std::string& text) {
-    reading.record[ForceMagnitude] = magnitude;
-    reading.record[ForceMagnitudeText] = text;
-    reading.record[ForceShownMagnitude] = text::RoundedText(magnitude, kLabelDecimals);
+void SetMagnitude(const Reading& reading, const text::FactoredSymbol& symbol) {
+    reading.record.label = text::SymbolMarkup(symbol.factor, symbol.symbol, reading.decimals);
 }
 
-void SetUnknownMagnitude(const Reading& reading, const text::FactoredSymbol& symbol,
-                         const std::string& text) {
-    reading.record[ForceMagnitude] = symbol.symbol;
-    reading.record[ForceMagnitudeText] = text;
-    reading.record[ForceShownMagnitude] = text::SymbolMarkup(symbol.factor, symbol.symbol, reading.decimals);
-    SetSymbol(reading, symbol);
-}
-
-void SetMagnitude(const Reading& reading, const Part& magnitude, const std::string& text) {
+void SetMagnitude(const Reading& reading, const Part& magnitude) {
     if (magnitude.known)
-        SetKnownMagnitude(reading, magnitude.number, text);
+        SetMagnitude(reading, magnitude.number);
     else
-        SetUnknownMagnitude(reading, magnitude.symbol, text);
+        SetMagnitude(reading, magnitude.symbol);
 }
 
 void SetKnownAlong(const Reading& reading, double magnitude, double direction) {
@@ -129,16 +113,16 @@ void SetKnownAlong(const Reading& reading, double magnitude, double direction) {
 
 // A magnitude k S along a known direction: its components are k cos D and k sin D times S.
 void SetUnknownAlong(const Reading& reading, const text::FactoredSymbol& symbol, double direction) {
-    SetUnknown(reading, kX, symbol.factor * numeric::CosD(direction), symbol.symbol);
-    SetUnknown(reading, kY, symbol.factor * numeric::SinD(direction), symbol.symbol);
+    const UnknownTerm unknown = {.magnitude = symbol.symbol};
+    SetUnknown(reading, kX, symbol.factor * numeric::CosD(direction), unknown);
+    SetUnknown(reading, kY, symbol.factor * numeric::SinD(direction), unknown);
 }
 
-// A magnitude (with the name in front, when it has one) along an unknown direction.
-void SetUnknownDirection(const Reading& reading, double coefficient, const std::string& name_and_blank,
+// A magnitude, or its coefficient and name, along an unknown direction.
+void SetUnknownDirection(const Reading& reading, double coefficient, const std::string& magnitude,
                          const std::string& angle) {
-    reading.record[ForceDirection] = angle;
-    SetUnknown(reading, kX, coefficient, name_and_blank + "cos " + angle);
-    SetUnknown(reading, kY, coefficient, name_and_blank + "sen " + angle);
+    SetUnknown(reading, kX, coefficient, {magnitude, AngleFunction::Cos, angle});
+    SetUnknown(reading, kY, coefficient, {magnitude, AngleFunction::Sen, angle});
 }
 
 // "cAe,M"
@@ -148,7 +132,7 @@ Outcome ReadQuadrantSymbol(const Reading& reading, const text::FactoredSymbol& s
         return text::Refusal{kLongSymbol};
     if (symbol.factor <= 0)
         return text::Refusal{kNoMagnitude};
-    SetUnknownMagnitude(reading, symbol, reading.format.second);
+    SetMagnitude(reading, symbol);
     SetUnknownAlong(reading, symbol, direction);
     return {};
 }
@@ -157,7 +141,7 @@ Outcome ReadQuadrantMagnitude(const Reading& reading, double direction) {
     const Part magnitude = ReadPart(reading.format.second);
     if (!magnitude.known)
         return ReadQuadrantSymbol(reading, magnitude.symbol, direction);
-    SetKnownMagnitude(reading, magnitude.number, reading.format.second);
+    SetMagnitude(reading, magnitude.number);
     SetKnownAlong(reading, magnitude.number, direction);
     return {};
 }
@@ -167,10 +151,12 @@ Outcome ReadQuadrantMagnitude(const Reading& reading, double direction) {
 Outcome ReadQuadrantComponent(const Reading& reading, double direction) {
     if (IsVertical(direction))
         return text::Refusal{"El ángulo no debe ser 90° ó -90°."};
-    const std::string& second = reading.format.second;
+    const auto component = ReadLetteredComponent(reading.format.second);
+    if (!component)
+        return text::Refusal{kUnreadableVector};
     const double magnitude =
-        MagnitudeFromComponent(direction, text::ToNumber(WithoutLastLetter(second)), second.back());
-    SetKnownMagnitude(reading, magnitude, text::RoundedText(magnitude, reading.decimals));
+        MagnitudeFromComponent(direction, text::ToNumber(component->number), component->letter);
+    SetMagnitude(reading, magnitude);
     SetKnownAlong(reading, magnitude, direction);
     return {};
 }
@@ -179,19 +165,22 @@ using DirectedReader = Outcome (*)(const Reading&, double direction);
 
 template <DirectedReader ReadRest>
 Outcome ReadQuadrant(const Reading& reading) {
-    const auto outcome = CheckedQuadrantDirection(reading.format.first);
+    const auto marks = ReadQuadrantMarks(reading.format.first);
+    if (!marks)
+        return text::Refusal{kMissingPart};
+    const auto outcome = CheckedQuadrantDirection(*marks);
     if (const auto* refusal = std::get_if<text::Refusal>(&outcome))
         return *refusal;
     const auto& direction = std::get<QuadrantDirection>(outcome);
-    SetDirection(reading, direction.direction, direction.hour, direction.angle);
+    SetDirection(reading, direction.direction, {direction.hour, direction.angle});
     return ReadRest(reading, direction.direction);
 }
 
 // "hCx" and "vCy"
 
 struct LineFormat {
-    const ComponentElements& along;
-    const ComponentElements& across;
+    const Axis& along;
+    const Axis& across;
     int positive_hour;
     int negative_hour;
     double positive_direction;
@@ -203,26 +192,26 @@ constexpr LineFormat kVerticalLine = {kY, kX, kHourUp, kHourDown, kUpward, kDown
 
 void SetLineDirection(const Reading& reading, const LineFormat& line, double sign) {
     if (sign >= 0)
-        SetDirection(reading, line.positive_direction, line.positive_hour, 0);
+        SetDirection(reading, line.positive_direction, {line.positive_hour, 0});
     else
-        SetDirection(reading, line.negative_direction, line.negative_hour, 0);
+        SetDirection(reading, line.negative_direction, {line.negative_hour, 0});
 }
 
 // The shown text of the component is its size alone: the arrow tells the sense.
 void ReadLineNumber(const Reading& reading, const LineFormat& line, double component) {
-    SetKnownMagnitude(reading, std::abs(component), WithoutMinus(reading.format.second));
+    SetMagnitude(reading, std::abs(component));
     SetLineDirection(reading, line, component);
     SetKnown(reading, line.along, component);
-    reading.record[line.along.text] = text::RoundedText(std::abs(component), reading.decimals);
+    reading.record.*line.along.text = text::RoundedText(std::abs(component), reading.decimals);
 }
 
 void ReadLineSymbol(const Reading& reading, const LineFormat& line, text::FactoredSymbol symbol) {
     if (!symbol.symbol.starts_with('f'))
         symbol.symbol = text::ToUpper(symbol.symbol);
-    SetUnknownMagnitude(reading, symbol, WithoutMinus(reading.format.second));
+    SetMagnitude(reading, symbol);
     if (!IsLong(symbol))
         SetLineDirection(reading, line, symbol.factor);
-    SetUnknown(reading, line.along, symbol.factor, symbol.symbol);
+    SetUnknown(reading, line.along, symbol);
 }
 
 template <const LineFormat& line>
@@ -242,26 +231,24 @@ Outcome ReadLine(const Reading& reading) {
 
 void ReadKnownComponents(const Reading& reading, double x, double y) {
     const double magnitude = numeric::Finite(numeric::Hypot(x, y));
-    SetKnownMagnitude(reading, magnitude, text::RoundedText(magnitude, reading.decimals));
+    SetMagnitude(reading, magnitude);
     SetDirection(reading, numeric::AngleOf(x, y), numeric::ClockOf(x, y));
     SetKnown(reading, kX, x);
     SetKnown(reading, kY, y);
 }
 
-void SetComponent(const Reading& reading, const ComponentElements& axis, const Part& part) {
+void SetComponent(const Reading& reading, const Axis& axis, const Part& part) {
     if (part.known)
         SetKnown(reading, axis, part.number);
     else
-        SetUnknown(reading, axis, part.symbol.factor, part.symbol.symbol);
+        SetUnknown(reading, axis, part.symbol);
 }
 
 // A symbol on one axis beside a component that is zero is a magnitude along that axis.
-void LayOnAxis(const Reading& reading, const LineFormat& line, const Part& along, const Part& across,
-               const std::string& text) {
+void LayOnAxis(const Reading& reading, const LineFormat& line, const Part& along, const Part& across) {
     if (along.known || !across.known || !numeric::NearEq(across.number, 0, kOnAxisTolerance))
         return;
     SetLineDirection(reading, line, along.symbol.factor);
-    SetUnknownMagnitude(reading, along.symbol, WithoutMinus(text));
 }
 
 std::string ShownComponent(const Reading& reading, const Part& part, const std::string& text) {
@@ -272,15 +259,12 @@ std::string ShownComponent(const Reading& reading, const Part& part, const std::
 }
 
 void ReadSymbolicComponents(const Reading& reading, const Part& x, const Part& y) {
-    const std::string& first = reading.format.first;
-    const std::string& second = reading.format.second;
-    SetSymbol(reading, x.known ? y.symbol : x.symbol);
     SetComponent(reading, kX, x);
     SetComponent(reading, kY, y);
-    LayOnAxis(reading, kHorizontalLine, x, y, first);
-    LayOnAxis(reading, kVerticalLine, y, x, second);
-    reading.record[ForceShownMagnitude] =
-        ShownComponent(reading, x, first) + "," + ShownComponent(reading, y, second);
+    LayOnAxis(reading, kHorizontalLine, x, y);
+    LayOnAxis(reading, kVerticalLine, y, x);
+    reading.record.label = ShownComponent(reading, x, reading.format.first) + "," +
+                           ShownComponent(reading, y, reading.format.second);
 }
 
 Outcome ReadComponents(const Reading& reading) {
@@ -324,7 +308,7 @@ void ReadPolarAngle(const Reading& reading, const Part& magnitude, const std::st
     if (magnitude.known)
         SetUnknownDirection(reading, magnitude.number, "", angle);
     else
-        SetUnknownDirection(reading, magnitude.symbol.factor, magnitude.symbol.symbol + " ", angle);
+        SetUnknownDirection(reading, magnitude.symbol.factor, magnitude.symbol.symbol, angle);
 }
 
 Outcome ReadPolar(const Reading& reading) {
@@ -332,7 +316,7 @@ Outcome ReadPolar(const Reading& reading) {
     const Part direction = ReadPart(reading.format.second);
     if (const Outcome refusal = CheckPolar(magnitude, direction))
         return refusal;
-    SetMagnitude(reading, magnitude, reading.format.first);
+    SetMagnitude(reading, magnitude);
     if (!direction.known)
         ReadPolarAngle(reading, magnitude, direction.symbol.symbol);
     else if (magnitude.known)
@@ -348,7 +332,7 @@ Outcome ReadUnit(const Reading& reading) {
     if (reading.format.second.empty())
         return text::Refusal{kMissingAngle};
     const Part direction = ReadPart(reading.format.second);
-    SetKnownMagnitude(reading, 1, "1");
+    SetMagnitude(reading, 1.0);
     if (direction.known)
         ReadKnownPolar(reading, 1, direction.number);
     else if (direction.symbol.factor != 1)
@@ -387,24 +371,9 @@ Outcome ReadByFormat(const Reading& reading) {
 // What holds for a force of every format.
 
 Outcome CheckRanges(const ForceRecord& record) {
-    if (record[ForceMagnitude].HoldsNumber() && record[ForceMagnitude].Number() <= 0)
+    if (record.force.magnitude && *record.force.magnitude <= 0)
         return text::Refusal{kNoMagnitude};
-    return CheckAngles(record[ForceClockAngle], record[ForceDirection]);
-}
-
-std::string InCapitals(const std::string& text) {
-    if (text.starts_with('f'))
-        return "f" + text::ToUpper(std::string_view(text).substr(1));
-    return text::ToUpper(text);
-}
-
-ForceRecord EmptyRecord(std::string_view text, const VectorFormat& format) {
-    ForceRecord record;
-    record[ForceGivenText] = text;
-    record[ForceLeavesPoint] = format.not_colon ? kLeaves : kArrives;
-    record[ForceFormatCode] = format.code;
-    record[ForceColour] = kKnownColour;
-    return record;
+    return CheckAngles(record.clock, record.force.direction);
 }
 
 // The formats in which a part is a magnitude or a component: there a product of numbers stands for a number.
@@ -437,12 +406,14 @@ std::variant<text::Refusal, ForceRecord> Parse(std::string_view text, int decima
     if (!format.msg.empty())
         return text::Refusal{format.msg};
     ComputeProducts(format);
-    ForceRecord record = EmptyRecord(text, format);
+    ForceRecord record;
+    record.given_text = text;
+    record.code = format.code;
+    record.leaves = format.not_colon;
     if (const Outcome refusal = ReadByFormat({format, decimals, record}))
         return *refusal;
     if (const Outcome refusal = CheckRanges(record))
         return *refusal;
-    record[ForceMagnitudeText] = InCapitals(record[ForceMagnitudeText].Text());
     return record;
 }
 

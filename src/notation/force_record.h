@@ -1,46 +1,50 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
 
-#include "text/value.h"
+#include "notation/unknown_term.h"
+#include "numeric/angles.h"
 
 namespace tavrelo::notation {
 
-/// Elements of a force record, counted from 0.
-enum ForceElement : std::size_t {
-    ForceMagnitude,  // number, or the symbol
-    ForceDirection,  // degrees, or the symbol
-    ForceX,          // number, or the empty text of an unknown
-    ForceY,
-    ForceHour,  // clock reading of a known direction; empty otherwise
-    ForceClockAngle,
-    ForceXCoefficient,  // of the unknown in the component
-    ForceXUnknown,      // "F1", "cos A" or "F1 cos A"; the empty text for a known component
-    ForceYCoefficient,
-    ForceYUnknown,
-    ForceXText,  // the component for showing
-    ForceYText,
-    ForceDrawDirection,  // degrees at which an unknown direction is drawn; not set by the parser
-    ForceLeavesPoint,    // kLeaves or kArrives
-    ForceColour,
-    ForceGivenText,   // as typed
-    ForceSymbolPart,  // symbol of the magnitude or component, without its factor
-    ForceSymbolFactor,
-    ForceMagnitudeText,  // in capitals but for a leading "f"
-    ForceFormatCode,
-    ForceShownMagnitude,  // picture markup
-    kForceElements,
+/// One component of a force: its number, or a coefficient times an unknown.
+struct ForceComponent {
+    std::optional<double> number = {};  // nothing while it is unknown
+    double coefficient = 0;             // of the unknown
+    UnknownTerm unknown = {};           // none where the component is known from the start
+
+    friend bool operator==(const ForceComponent&, const ForceComponent&) = default;
 };
 
-using ForceRecord = std::array<text::Value, kForceElements>;
+/// What is known of a force: all of it was given, a part is unknown, or the solver has found it.
+enum class Knowledge { Given, Unknown, Found };
 
-/// Values of ForceLeavesPoint.
-inline constexpr int kLeaves = 1;
-inline constexpr int kArrives = 0;
+/// A force in the plane, from the reader or from a solver.
+struct Force {
+    std::optional<double> magnitude;  // nothing while it is unknown
+    std::optional<double> direction;  // degrees from -180 to 180; nothing while it is unknown
+    ForceComponent x, y;
+    Knowledge knowledge = Knowledge::Given;
 
-/// Arrow colours (red + 256 green + 65536 blue): black for a known force, red for one with unknown data.
-inline constexpr int kKnownColour = 0;
-inline constexpr int kUnknownColour = 255;
+    bool HasComponents() const { return x.number && y.number; }
+
+    friend bool operator==(const Force&, const Force&) = default;
+};
+
+/// A force as it was read from its text, with what only its table and its drawing show.
+struct ForceRecord {
+    Force force;
+    std::string given_text;                      // as typed
+    std::string_view code;                       // of the format, one of vector_format.h
+    bool leaves = true;                          // false: the text ended in ":", it arrives at its point
+    std::optional<numeric::ClockReading> clock;  // of a known direction; in the quadrant formats as typed
+    std::string x_text;                          // the components for showing, bare
+    std::string y_text;
+    std::string label;  // the magnitude for showing, picture markup
+
+    friend bool operator==(const ForceRecord&, const ForceRecord&) = default;
+};
 
 }  // namespace tavrelo::notation

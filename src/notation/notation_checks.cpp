@@ -4,11 +4,12 @@
 
 namespace tavrelo::notation {
 
-std::optional<text::Refusal> CheckAngles(const text::Value& clock_angle, const text::Value& direction) {
+std::optional<text::Refusal> CheckAngles(const std::optional<numeric::ClockReading>& clock,
+                                         std::optional<double> direction) {
     constexpr double kHalfTurn = 180;
-    if (clock_angle.HoldsNumber() && clock_angle.Number() < 0)
+    if (clock && clock->angle < 0)
         return text::Refusal{"Ángulo negativo."};
-    if (direction.HoldsNumber() && std::abs(direction.Number()) > kHalfTurn)
+    if (direction && std::abs(*direction) > kHalfTurn)
         return text::Refusal{"La dirección debe estar entre -180° y 180°."};
     return {};
 }

@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "numeric/angles.h"
 #include "text/refusal.h"
-#include "text/value.h"
 
 namespace tavrelo::notation {
 
@@ -21,7 +21,8 @@ inline constexpr double kUpward = 90;
 inline constexpr double kLeftward = 180;
 inline constexpr double kDownward = -90;
 
-/// Refuses a clock angle below 0, then a direction outside -180 to 180; cells without a number pass.
-std::optional<text::Refusal> CheckAngles(const text::Value& clock_angle, const text::Value& direction);
+/// Refuses a clock angle below 0, then a direction outside -180 to 180; what is unknown passes.
+std::optional<text::Refusal> CheckAngles(const std::optional<numeric::ClockReading>& clock,
+                                         std::optional<double> direction);
 
 }  // namespace tavrelo::notation

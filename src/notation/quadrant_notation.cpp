@@ -4,7 +4,6 @@
 #include <string>
 
 #include "notation/clock_direction.h"
-#include "notation/vector_format.h"
 #include "numeric/angles.h"
 #include "numeric/checked.h"
 #include "text/number_text.h"
@@ -22,7 +21,7 @@ text::Refusal AngleRefusal(const char* text) {
 
 double Tangent(double direction, char letter) {
     const double tangent = numeric::TanD(direction);
-    if (letter == kVerticalLetter.front() && std::abs(tangent) < kHorizontalTangent)
+    if (letter == kVerticalLetter && std::abs(tangent) < kHorizontalTangent)
         throw numeric::RuntimeFailure(numeric::FailureCode::DivisionByZero,
                                       "vertical component of a horizontal");
     return tangent;
@@ -30,16 +29,16 @@ double Tangent(double direction, char letter) {
 
 }  // namespace
 
-QuadrantDirection QuadrantDirectionOf(std::string_view first) {
-    const int hour = ClockHour(first.substr(0, 1), first.substr(first.size() - 1));
-    const double angle = text::ToNumber(AngleBetweenMarks(first));
+QuadrantDirection QuadrantDirectionOf(const QuadrantMarks& marks) {
+    const int hour = ClockHour(marks.quadrant, marks.axis);
+    const double angle = text::ToNumber(marks.angle);
     return {hour, angle, ClockDir(hour, angle, true)};
 }
 
-std::variant<text::Refusal, QuadrantDirection> CheckedQuadrantDirection(std::string_view first) {
-    if (!text::IsNum(AngleBetweenMarks(first)))
+std::variant<text::Refusal, QuadrantDirection> CheckedQuadrantDirection(const QuadrantMarks& marks) {
+    if (!text::IsNum(marks.angle))
         return AngleRefusal("conocerse.");
-    const QuadrantDirection direction = QuadrantDirectionOf(first);
+    const QuadrantDirection direction = QuadrantDirectionOf(marks);
     if (direction.angle < 0)
         return AngleRefusal("ser positivo.");
     if (direction.angle > kRightAngle)
@@ -51,8 +50,8 @@ bool IsVertical(double direction) { return std::abs(direction) == kRightAngle; }
 
 double MagnitudeFromComponent(double direction, double component, char letter) {
     const double tangent = Tangent(direction, letter);
-    const double partner = letter == kVerticalLetter.front() ? numeric::CheckedDivide(component, tangent)
-                                                             : numeric::CheckedMultiply(tangent, component);
+    const double partner = letter == kVerticalLetter ? numeric::CheckedDivide(component, tangent)
+                                                     : numeric::CheckedMultiply(tangent, component);
     return numeric::Finite(numeric::Hypot(component, partner));
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string_view>
 #include <variant>
 
+#include "notation/vector_format.h"
 #include "text/refusal.h"
 
 namespace tavrelo::notation {
@@ -15,10 +15,10 @@ struct QuadrantDirection {
     double direction;  // degrees
 };
 
-/// The direction of a part with quadrant marks. Fails with TypeMismatch when its angle is no number.
-QuadrantDirection QuadrantDirectionOf(std::string_view first);
+/// The direction that the marks write. Fails with TypeMismatch when their angle is no number.
+QuadrantDirection QuadrantDirectionOf(const QuadrantMarks& marks);
 /// The same, refused unless the angle is a number from 0 to 90.
-std::variant<text::Refusal, QuadrantDirection> CheckedQuadrantDirection(std::string_view first);
+std::variant<text::Refusal, QuadrantDirection> CheckedQuadrantDirection(const QuadrantMarks& marks);
 
 /// Whether a direction is exactly vertical, so that no component of it sets the magnitude by a tangent.
 bool IsVertical(double direction);

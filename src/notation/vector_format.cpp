@@ -37,23 +37,13 @@ std::string TakeColon(std::string text, bool& not_colon) {
     return text::Trim(text);
 }
 
-std::string FirstCharacter(std::string_view text) {
-    const std::u32string characters = text::ToCodePoints(text);
-    return characters.empty() ? std::string() : text::ToUtf8(characters.front());
-}
-
-std::string LastCharacter(std::string_view text) {
-    const std::u32string characters = text::ToCodePoints(text);
-    return characters.empty() ? std::string() : text::ToUtf8(characters.back());
-}
-
 bool EndsInKnownComponent(std::string_view second) {
-    return (second.ends_with(kHorizontalLetter) || second.ends_with(kVerticalLetter)) &&
-           text::IsNum(WithoutLastLetter(second));
+    const auto component = ReadLetteredComponent(second);
+    return component && text::IsNum(component->number);
 }
 
 std::string_view CommaCode(const VectorFormat& format) {
-    if (!HasQuadrantMarks(format.first))
+    if (!ReadQuadrantMarks(format.first))
         return kComponents;
     return EndsInKnownComponent(format.second) ? kQuadrantComponent : kQuadrantMagnitude;
 }
@@ -73,8 +63,6 @@ void ReadSeparated(std::string_view text, std::size_t separator, VectorFormat& f
         format.code = kPolar;
         return;
     }
-    format.head = FirstCharacter(format.first);
-    format.tail = LastCharacter(format.first);
     format.code = CommaCode(format);
 }
 
@@ -90,18 +78,21 @@ void ReadLetterFormat(std::string_view text, VectorFormat& format) {
 
 }  // namespace
 
-bool HasQuadrantMarks(std::string_view first) {
-    return text::CharacterCount(first) >= kShortestMarked &&
-           kQuadrantLetters.find(first.front()) != std::string_view::npos &&
-           kAxisLetters.find(first.back()) != std::string_view::npos;
+std::optional<QuadrantMarks> ReadQuadrantMarks(std::string_view first) {
+    if (text::CharacterCount(first) < kShortestMarked)
+        return {};
+    const std::string_view quadrant = first.substr(0, 1);
+    const std::string_view axis = first.substr(first.size() - 1);
+    if (kQuadrantLetters.find(quadrant) == std::string_view::npos ||
+        kAxisLetters.find(axis) == std::string_view::npos)
+        return {};
+    return QuadrantMarks{quadrant, text::Trim(first.substr(1, first.size() - 2)), axis};
 }
 
-std::string AngleBetweenMarks(std::string_view first) {
-    return text::Trim(first.substr(1, first.size() - 2));
-}
-
-std::string WithoutLastLetter(std::string_view second) {
-    return text::Trim(second.substr(0, second.size() - 1));
+std::optional<LetteredComponent> ReadLetteredComponent(std::string_view second) {
+    if (!second.ends_with(kHorizontalLetter) && !second.ends_with(kVerticalLetter))
+        return {};
+    return LetteredComponent{text::Trim(second.substr(0, second.size() - 1)), second.back()};
 }
 
 VectorFormat VectorFormatOf(std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,28 +16,34 @@ inline constexpr std::string_view kVertical = "vCy";             // v0.24
 inline constexpr std::string_view kUnit = "uD";                  // u156
 
 /// Last letters of a known component in the format "cAe,C".
-inline constexpr std::string_view kHorizontalLetter = "h";
-inline constexpr std::string_view kVerticalLetter = "v";
+inline constexpr char kHorizontalLetter = 'h';
+inline constexpr char kVerticalLetter = 'v';
 
-/// A vector text cut in pieces. Every piece is trimmed; `head` and `tail` are the first and the last
-/// character of `first` in the formats with a comma, and empty in the others.
+/// A vector text cut in pieces. Every piece is trimmed; `first` is empty in the formats without a separator.
 struct VectorFormat {
     std::string first;
     std::string second;
-    std::string head;
-    std::string tail;
     bool not_colon = true;  // false: the text ended in ":", the force arrives at its point
-    std::string code;
-    std::string msg;  // why the text has no format; empty otherwise
+    std::string_view code;  // one of those above; empty without a format
+    std::string msg;        // why the text has no format; empty otherwise
 };
 VectorFormat VectorFormatOf(std::string_view text);
 
-/// Whether the part before a comma is a quadrant letter, an angle and an axis letter: "p30x". The angle is
-/// not examined.
-bool HasQuadrantMarks(std::string_view first);
-/// What stands between the quadrant and the axis letter, trimmed.
-std::string AngleBetweenMarks(std::string_view first);
-/// The text without the letter of its component, trimmed: "12h" is "12".
-std::string WithoutLastLetter(std::string_view second);
+/// The part before the comma of the quadrant formats: "p30x".
+struct QuadrantMarks {
+    std::string_view quadrant;  // one letter of p, s, t, c
+    std::string angle;          // what stands between, trimmed; not examined
+    std::string_view axis;      // x or y
+};
+/// Nothing where one of the letters is missing, or all between them. The letters are pieces of `first`.
+std::optional<QuadrantMarks> ReadQuadrantMarks(std::string_view first);
+
+/// A known component behind the comma: "12h".
+struct LetteredComponent {
+    std::string number;  // what stands before the letter, trimmed; not examined
+    char letter;         // h or v
+};
+/// Nothing where no such letter ends the part.
+std::optional<LetteredComponent> ReadLetteredComponent(std::string_view second);
 
 }  // namespace tavrelo::notation

@@ -16,7 +16,7 @@
 namespace tavrelo::notation {
 namespace {
 
-using Result = std::variant<text::Refusal, VectorRecord>;
+using Result = VectorReading;
 
 struct Parts {
     std::string first;
@@ -37,51 +37,50 @@ VectorRecord Along(double magnitude, const QuadrantDirection& direction) {
             direction.direction,
             magnitude * numeric::CosD(direction.direction),
             magnitude * numeric::SinD(direction.direction),
-            direction.hour,
-            direction.angle};
+            {direction.hour, direction.angle}};
 }
 
 // p30x,5h
-Result ReadQuadrantComponent(const Parts& parts) {
-    if (!HasQuadrantMarks(parts.first))
-        return VectorRecord{};
-    const QuadrantDirection direction = QuadrantDirectionOf(parts.first);
+Result ReadQuadrantComponent(const Parts& parts, const LetteredComponent& component) {
+    const auto marks = ReadQuadrantMarks(parts.first);
+    if (!marks)
+        return NoDirection{};
+    const QuadrantDirection direction = QuadrantDirectionOf(*marks);
     if (IsVertical(direction.direction))
         return text::Refusal{"Formato incorrecto."};
-    const double component = text::ToNumber(WithoutLastLetter(parts.second));
-    return Along(MagnitudeFromComponent(direction.direction, component, parts.second.back()), direction);
+    const double number = text::ToNumber(component.number);
+    return Along(MagnitudeFromComponent(direction.direction, number, component.letter), direction);
 }
 
 // p30x,5
-Result ReadQuadrantMagnitude(const Parts& parts) {
-    const auto outcome = CheckedQuadrantDirection(parts.first);
+Result ReadQuadrantMagnitude(const QuadrantMarks& marks, const std::string& magnitude) {
+    const auto outcome = CheckedQuadrantDirection(marks);
     if (const auto* refusal = std::get_if<text::Refusal>(&outcome))
         return *refusal;
-    return Along(NumberOf(parts.second), std::get<QuadrantDirection>(outcome));
+    return Along(NumberOf(magnitude), std::get<QuadrantDirection>(outcome));
 }
 
 // 3,4
 Result ReadComponents(const Parts& parts) {
     const double x = NumberOf(parts.first);
     const double y = NumberOf(parts.second);
-    const numeric::ClockReading clock = numeric::ClockOf(x, y);
-    return VectorRecord{
-        numeric::Finite(numeric::Hypot(x, y)), numeric::AngleOf(x, y), x, y, clock.hour, clock.angle};
+    return VectorRecord{numeric::Finite(numeric::Hypot(x, y)), numeric::AngleOf(x, y), x, y,
+                        numeric::ClockOf(x, y)};
 }
 
 Result ReadCommaFormat(const Parts& parts) {
-    if (parts.second.ends_with(kHorizontalLetter) || parts.second.ends_with(kVerticalLetter))
-        return ReadQuadrantComponent(parts);
+    if (const auto component = ReadLetteredComponent(parts.second))
+        return ReadQuadrantComponent(parts, *component);
     if (LacksPart(parts))
         return text::Refusal{kMissingPart};
-    return HasQuadrantMarks(parts.first) ? ReadQuadrantMagnitude(parts) : ReadComponents(parts);
+    const auto marks = ReadQuadrantMarks(parts.first);
+    return marks ? ReadQuadrantMagnitude(*marks, parts.second) : ReadComponents(parts);
 }
 
 VectorRecord Polar(double magnitude, double direction) {
     const double x = magnitude * numeric::CosD(direction);
     const double y = magnitude * numeric::SinD(direction);
-    const numeric::ClockReading clock = numeric::ClockOf(x, y);
-    return {magnitude, direction, x, y, clock.hour, clock.angle};
+    return {magnitude, direction, x, y, numeric::ClockOf(x, y)};
 }
 
 // 5<30
@@ -97,8 +96,11 @@ Result ReadHorizontal(const std::string& rest) {
         return text::Refusal{kMissingX};
     const double component = NumberOf(rest);
     const bool right = component >= 0;
-    return VectorRecord{
-        std::abs(component), right ? kRightward : kLeftward, component, 0, right ? kHourRight : kHourLeft, 0};
+    return VectorRecord{std::abs(component),
+                        right ? kRightward : kLeftward,
+                        component,
+                        0,
+                        {right ? kHourRight : kHourLeft, 0}};
 }
 
 // v-5
@@ -107,8 +109,8 @@ Result ReadVertical(const std::string& rest) {
         return text::Refusal{kMissingY};
     const double component = NumberOf(rest);
     const bool up = component >= 0;
-    return VectorRecord{std::abs(component), up ? kUpward : kDownward, 0,
-                        component,           up ? kHourUp : kHourDown, 0};
+    return VectorRecord{
+        std::abs(component), up ? kUpward : kDownward, 0, component, {up ? kHourUp : kHourDown, 0}};
 }
 
 // u30
@@ -143,14 +145,14 @@ Result ReadByFormat(std::string_view text) {
 }
 
 Result CheckedRecord(const VectorRecord& record) {
-    if (const auto refusal = CheckAngles(record[VectorClockAngle], record[VectorDirection]))
+    if (const auto refusal = CheckAngles(record.clock, record.direction))
         return *refusal;
     return record;
 }
 
 }  // namespace
 
-std::variant<text::Refusal, VectorRecord> ParseVector(std::string_view text) {
+VectorReading ParseVector(std::string_view text) {
     try {
         const Result result = ReadByFormat(text::Trim(text));
         const auto* record = std::get_if<VectorRecord>(&result);

@@ -1,30 +1,32 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <string_view>
 #include <variant>
 
+#include "numeric/angles.h"
 #include "text/refusal.h"
-#include "text/value.h"
 
 namespace tavrelo::notation {
 
-/// Elements of a vector result, counted from 0.
-enum VectorElement : std::size_t {
-    VectorMagnitude,
-    VectorDirection,  // degrees
-    VectorX,
-    VectorY,
-    VectorHour,  // clock reading; as typed in the quadrant formats
-    VectorClockAngle,
-    kVectorElements,
+/// A vector of numbers.
+struct VectorRecord {
+    double magnitude;
+    double direction;  // degrees
+    double x, y;
+    numeric::ClockReading clock;  // of the direction; in the quadrant formats as typed
+
+    friend bool operator==(const VectorRecord&, const VectorRecord&) = default;
 };
 
-/// Numbers; all six are empty for a text like "12,5h", a known component whose direction is missing.
-using VectorRecord = std::array<text::Value, kVectorElements>;
+/// What a text like "12,5h" gives: a known component whose direction is missing. It is no refusal, but
+/// nothing can be reckoned with it.
+struct NoDirection {
+    friend bool operator==(const NoDirection&, const NoDirection&) = default;
+};
+
+using VectorReading = std::variant<text::Refusal, NoDirection, VectorRecord>;
 
 /// Reads a vector of numbers. Never throws: what cannot be read or computed is a refusal.
-std::variant<text::Refusal, VectorRecord> ParseVector(std::string_view text);
+VectorReading ParseVector(std::string_view text);
 
 }  // namespace tavrelo::notation

@@ -42,6 +42,8 @@ double NormAngle(double degrees);
 struct ClockReading {
     int hour;
     double angle;
+
+    friend bool operator==(const ClockReading&, const ClockReading&) = default;
 };
 ClockReading ClockOf(double x, double y);
 

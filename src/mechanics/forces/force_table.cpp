@@ -1,30 +1,38 @@
 #include "mechanics/forces/force_table.h"
 
-#include <algorithm>
-
-#include "notation/force_parser.h"
-
 namespace tavrelo::mechanics::forces {
+namespace {
+
+text::Value ValueOf(const std::optional<double>& number) {
+    return number ? text::Value(*number) : text::Value("");
+}
+
+void SetComponent(ForceRow& row, const ComponentColumns& columns, const notation::ForceComponent& component,
+                  const std::string& text) {
+    row[columns.component] = ValueOf(component.number);
+    row[columns.coefficient] = component.coefficient;
+    row[columns.unknown] = TextOf(component.unknown);
+    row[columns.text] = text;
+}
+
+}  // namespace
 
 ForceRow RowOf(const notation::ForceRecord& record) {
     ForceRow row;
-    std::copy(record.begin(), record.end(), row.begin() + Magnitude);
-    return row;
-}
-
-bool DirectionIsUnknown(const ForceRow& row) { return row[Hour].IsEmpty() && row[ClockAngle].IsEmpty(); }
-
-std::variant<text::Refusal, ForceTable> ForcesOf(std::span<const std::string> texts, int decimals) {
-    ForceTable table;
-    for (const std::string& text : texts) {
-        const auto parsed = notation::ParseForce(text, decimals);
-        if (const auto* refusal = std::get_if<text::Refusal>(&parsed))
-            return *refusal;
-        table.push_back(RowOf(std::get<notation::ForceRecord>(parsed)));
-        if (DirectionIsUnknown(table.back()))
-            table.back()[DrawDirection] = kDefaultDrawDirection;
+    row[Magnitude] = ValueOf(record.force.magnitude);
+    row[Direction] = ValueOf(record.force.direction);
+    SetComponent(row, kXColumns, record.force.x, record.x_text);
+    SetComponent(row, kYColumns, record.force.y, record.y_text);
+    if (record.clock) {
+        row[Hour] = record.clock->hour;
+        row[ClockAngle] = record.clock->angle;
     }
-    return table;
+    row[LeavesPoint] = record.leaves ? kLeaves : kArrives;
+    row[Colour] = record.force.knowledge == notation::Knowledge::Unknown ? kUnknown : kKnown;
+    row[GivenText] = record.given_text;
+    row[FormatCode] = record.code;
+    row[ShownMagnitude] = record.label;
+    return row;
 }
 
 }  // namespace tavrelo::mechanics::forces

@@ -25,13 +25,6 @@ bool IsZero(double value) { return numeric::NearEq(value, 0.0, kZeroTolerance); 
 double Cross(Point a, Point b) { return Finite(CheckedMultiply(a.x, b.y) - CheckedMultiply(a.y, b.x)); }
 Point ComponentsOf(const PlaneVector& v) { return {v.x, v.y}; }
 
-double NumberOf(const notation::VectorRecord& record, notation::VectorElement element) {
-    if (record[element].IsEmpty()) {
-        throw numeric::RuntimeFailure(numeric::FailureCode::TypeMismatch, "vector without a direction");
-    }
-    return record[element].Number();
-}
-
 double AngleBetween(const PlaneVector& a, const PlaneVector& b, double dot) {
     const double cosine = CheckedDivide(dot, numeric::Hypot(a.x, a.y) * numeric::Hypot(b.x, b.y));
     const bool in_line = numeric::NearEq(std::abs(cosine), 1.0, kCosineTolerance);
@@ -70,17 +63,16 @@ PlaneVector VectorFromComponents(double x, double y) {
 }
 
 std::variant<text::Refusal, PlaneVector> ReadVector(std::string_view text) {
-    const std::variant<text::Refusal, notation::VectorRecord> reading = notation::ParseVector(text);
+    const notation::VectorReading reading = notation::ParseVector(text);
     if (const text::Refusal* refusal = std::get_if<text::Refusal>(&reading)) {
         return *refusal;
     }
-    const notation::VectorRecord& record = std::get<notation::VectorRecord>(reading);
-    return PlaneVector{NumberOf(record, notation::VectorX),
-                       NumberOf(record, notation::VectorY),
-                       NumberOf(record, notation::VectorMagnitude),
-                       NumberOf(record, notation::VectorDirection),
-                       static_cast<int>(NumberOf(record, notation::VectorHour)),
-                       NumberOf(record, notation::VectorClockAngle)};
+    const auto* record = std::get_if<notation::VectorRecord>(&reading);
+    if (record == nullptr) {
+        throw numeric::RuntimeFailure(numeric::FailureCode::TypeMismatch, "vector without a direction");
+    }
+    return PlaneVector{record->x,         record->y,          record->magnitude,
+                       record->direction, record->clock.hour, record->clock.angle};
 }
 
 SumAndProducts VectorSum2(const PlaneVector& a, const PlaneVector& b) {

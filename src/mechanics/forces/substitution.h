@@ -22,28 +22,9 @@ void Substitute(ForceRow& force, const FactorOf& factor_of) {
                 numeric::CheckedMultiply(force[columns->coefficient].Number(), *factor);
     }
 }
-template <typename FactorOf>
-void Substitute(ForceTable& table, const FactorOf& factor_of) {
-    for (ForceRow& force : table)
-        Substitute(force, factor_of);
-}
-
-struct ComponentSums {
-    double x = 0;
-    double y = 0;
-};
-
-/// The sums of the components of all forces, added to `start`; nothing while a component is unknown.
-std::optional<ComponentSums> SumComponents(const ForceTable& table, ComponentSums start = {});
-
-/// Whether both sums are below the 0.001 that counts as equilibrium.
-bool InEquilibrium(const std::optional<ComponentSums>& sums);
-
 /// Rewrites a force whose components are both known as a known force: magnitude, direction, clock reading and
 /// texts from the components, no unknowns, and the colour of a solved one where it was unknown. Any other
 /// force stays.
 void MarkSolved(ForceRow& force, int decimals);
-/// The same for every force.
-void MarkSolved(ForceTable& table, int decimals);
 
 }  // namespace tavrelo::mechanics::forces

@@ -1,11 +1,7 @@
 #include "mechanics/forces/unknowns.h"
 
 #include <algorithm>
-#include <optional>
 
-#include "numeric/checked.h"
-#include "text/number_text.h"
-#include "text/symbols.h"
 #include "text/utf8.h"
 
 namespace tavrelo::mechanics::forces {
@@ -30,40 +26,6 @@ std::size_t FunctionPosition(std::string_view text) {
     return blank == std::string_view::npos ? blank : blank + 1;
 }
 
-void AddUnknown(ForceSum& sum, const std::string& unknown, double coefficient) {
-    const bool is_first = sum.first.empty();
-    (is_first ? sum.first : sum.second) = unknown;
-    (is_first ? sum.first_coef : sum.second_coef) = coefficient;
-    ++sum.unknowns;
-}
-
-// False when the component holds a third unknown.
-bool AddComponent(ForceSum& sum, const ForceRow& force, const ComponentColumns& columns) {
-    if (text::IsNum(force[columns.component])) {
-        sum.known = numeric::CheckedAdd(sum.known, force[columns.component].Number());
-        return true;
-    }
-    const std::string unknown = force[columns.unknown].Text();
-    const double coefficient = force[columns.coefficient].Number();
-    if (SameUnknown(unknown, sum.first))
-        sum.first_coef = numeric::CheckedAdd(sum.first_coef, coefficient);
-    else if (SameUnknown(unknown, sum.second))
-        sum.second_coef = numeric::CheckedAdd(sum.second_coef, coefficient);
-    else if (sum.second.empty())
-        AddUnknown(sum, unknown, coefficient);
-    else
-        return false;
-    return true;
-}
-
-std::optional<ForceSum> Collect(const ForceTable& table, const ComponentColumns& columns) {
-    ForceSum sum;
-    for (const ForceRow& force : table)
-        if (!AddComponent(sum, force, columns))
-            return {};
-    return sum;
-}
-
 }  // namespace
 
 UnknownTerm ReadUnknown(std::string_view text) {
@@ -75,20 +37,7 @@ UnknownTerm ReadUnknown(std::string_view text) {
 }
 
 bool SameUnknown(std::string_view a, std::string_view b) {
-    const UnknownTerm left = ReadUnknown(a);
-    const UnknownTerm right = ReadUnknown(b);
-    return left.function == right.function && text::SameSymbol(left.magnitude, right.magnitude) &&
-           text::SameSymbol(left.angle, right.angle);
+    return SameUnknown(ReadUnknown(a), ReadUnknown(b));
 }
-
-std::variant<text::Refusal, ForceSums> CollectSums(const ForceTable& table) {
-    const auto x = Collect(table, kXColumns);
-    const auto y = Collect(table, kYColumns);
-    if (!x || !y)
-        return text::Refusal{kTooManyUnknowns};
-    return ForceSums{*x, *y};
-}
-
-std::size_t LengthOf(std::string_view unknown) { return text::CharacterCount(unknown); }
 
 }  // namespace tavrelo::mechanics::forces

@@ -8,6 +8,7 @@
 namespace tavrelo::mechanics::particle {
 namespace {
 
+using notation::UnknownTerm;
 using text::kLongestSymbol;
 
 // An unknown of one of the sums, by its place.
@@ -20,18 +21,13 @@ struct Shape {
     bool y1_is_x1, y1_is_x2, y2_is_x1, y2_is_x2;
 };
 
-Shape ShapeOf(const mechanics::forces::ForceSums& sums) {
-    const mechanics::forces::ForceSum& x = sums.x;
-    const mechanics::forces::ForceSum& y = sums.y;
-    return {x.unknowns,
-            y.unknowns,
-            mechanics::forces::LengthOf(x.first),
-            mechanics::forces::LengthOf(x.second),
-            mechanics::forces::LengthOf(y.first),
-            mechanics::forces::SameUnknown(y.first, x.first),
-            mechanics::forces::SameUnknown(y.first, x.second),
-            mechanics::forces::SameUnknown(y.second, x.first),
-            mechanics::forces::SameUnknown(y.second, x.second)};
+Shape ShapeOf(const forces::ForceSums& sums) {
+    const UnknownTerm& x1 = sums.x.first.unknown;
+    const UnknownTerm& x2 = sums.x.second.unknown;
+    const UnknownTerm& y1 = sums.y.first.unknown;
+    const UnknownTerm& y2 = sums.y.second.unknown;
+    return {sums.x.unknowns,     sums.y.unknowns,     LengthOf(x1),        LengthOf(x2),       LengthOf(y1),
+            SameUnknown(y1, x1), SameUnknown(y1, x2), SameUnknown(y2, x1), SameUnknown(y2, x2)};
 }
 
 // Names of three characters count as a symbol and as an angle's term at once.
@@ -76,22 +72,7 @@ constexpr std::array<Row, 8> kMagnitudeAndAngleRows = {{
     {2, 2, [](const Shape& s) { return TermThenSymbol(s) && s.y1_is_x2; }, kX2, kX1, kY1, kY2, kNo, kNo},
 }};
 
-double CoefficientAt(const mechanics::forces::ForceSums& sums, Place place) {
-    switch (place) {
-        case Place::X1:
-            return sums.x.first_coef;
-        case Place::X2:
-            return sums.x.second_coef;
-        case Place::Y1:
-            return sums.y.first_coef;
-        case Place::Y2:
-            return sums.y.second_coef;
-        default:
-            return 0;
-    }
-}
-
-std::string NameAt(const mechanics::forces::ForceSums& sums, Place place) {
+forces::SumTerm TermAt(const forces::ForceSums& sums, Place place) {
     switch (place) {
         case Place::X1:
             return sums.x.first;
@@ -101,17 +82,19 @@ std::string NameAt(const mechanics::forces::ForceSums& sums, Place place) {
             return sums.y.first;
         case Place::Y2:
             return sums.y.second;
-        default:
-            return {};
+        case Place::None:
+            break;
     }
+    return {};
 }
 
-TwoUnknowns Filled(const mechanics::forces::ForceSums& sums, const Row& row) {
-    return {CoefficientAt(sums, row.a), CoefficientAt(sums, row.b), CoefficientAt(sums, row.d),
-            CoefficientAt(sums, row.e), NameAt(sums, row.first),    NameAt(sums, row.second)};
+TwoUnknowns Filled(const forces::ForceSums& sums, const Row& row) {
+    const auto coef = [&](Place place) { return TermAt(sums, place).coef; };
+    const auto unknown = [&](Place place) { return TermAt(sums, place).unknown; };
+    return {coef(row.a), coef(row.b), coef(row.d), coef(row.e), unknown(row.first), unknown(row.second)};
 }
 
-TwoUnknowns FromTable(const mechanics::forces::ForceSums& sums, std::span<const Row> rows) {
+TwoUnknowns FromTable(const forces::ForceSums& sums, std::span<const Row> rows) {
     const Shape shape = ShapeOf(sums);
     for (const Row& row : rows)
         if (row.nx == shape.nx && row.ny == shape.ny && row.fits(shape))
@@ -120,27 +103,25 @@ TwoUnknowns FromTable(const mechanics::forces::ForceSums& sums, std::span<const 
 }
 
 // The rules stand in their order of precedence, the last one first.
-void NameMagnitudeAndAngle(const mechanics::forces::ForceSums& sums, TwoUnknowns& unknowns) {
-    const std::string& x1 = sums.x.first;
-    const std::string& x2 = sums.x.second;
-    const bool symbol_stands_first =
-        IsSymbol(mechanics::forces::LengthOf(x1)) && IsTerm(mechanics::forces::LengthOf(x2));
+void NameMagnitudeAndAngle(const forces::ForceSums& sums, TwoUnknowns& unknowns) {
+    const UnknownTerm& x1 = sums.x.first.unknown;
+    const UnknownTerm& x2 = sums.x.second.unknown;
+    const UnknownTerm& y1 = sums.y.first.unknown;
+    const bool symbol_stands_first = IsSymbol(LengthOf(x1)) && IsTerm(LengthOf(x2));
     unknowns.second = symbol_stands_first ? x2 : x1;
     if (symbol_stands_first)
         unknowns.first = x1;
-    else if (!x2.empty())
+    else if (!x2.IsNone())
         unknowns.first = x2;
     else
-        unknowns.first = IsSymbol(mechanics::forces::LengthOf(sums.y.first)) ? sums.y.first : sums.y.second;
+        unknowns.first = IsSymbol(LengthOf(y1)) ? y1 : sums.y.second.unknown;
 }
 
 }  // namespace
 
-TwoUnknowns MagnitudeCoefficients(const mechanics::forces::ForceSums& sums) {
-    return FromTable(sums, kMagnitudeRows);
-}
+TwoUnknowns MagnitudeCoefficients(const forces::ForceSums& sums) { return FromTable(sums, kMagnitudeRows); }
 
-TwoUnknowns MagnitudeAndAngleCoefficients(const mechanics::forces::ForceSums& sums) {
+TwoUnknowns MagnitudeAndAngleCoefficients(const forces::ForceSums& sums) {
     TwoUnknowns unknowns = FromTable(sums, kMagnitudeAndAngleRows);
     NameMagnitudeAndAngle(sums, unknowns);
     return unknowns;

@@ -1,26 +1,23 @@
 #pragma once
 
-#include <optional>
-#include <string>
-
-#include "mechanics/forces/unknowns.h"
+#include "mechanics/forces/force_sums.h"
 
 namespace tavrelo::mechanics::particle {
 
-/// The coefficients A, B and D, E of two unknowns in the sums along x and y, with the names of the unknowns.
+/// The coefficients A, B and D, E of two unknowns in the sums along x and y, with these unknowns.
 struct TwoUnknowns {
     double a = 0, b = 0;
     double d = 0, e = 0;
-    std::string first;
-    std::string second;
+    notation::UnknownTerm first;
+    notation::UnknownTerm second;
 };
 
 /// Two unknown magnitudes. Sums whose unknowns no row of the table fits leave all coefficients 0: their
 /// system is singular, and the solver says so.
-TwoUnknowns MagnitudeCoefficients(const mechanics::forces::ForceSums& sums);
+TwoUnknowns MagnitudeCoefficients(const forces::ForceSums& sums);
 
-/// A magnitude (A, D) and the term of an unknown angle (B, E); `first` is the magnitude, `second` the text of
-/// the angle's term as the sum along x writes it.
-TwoUnknowns MagnitudeAndAngleCoefficients(const mechanics::forces::ForceSums& sums);
+/// A magnitude (A, D) and the term of an unknown angle (B, E); `first` is the magnitude, `second` the
+/// angle's term as the sum along x writes it.
+TwoUnknowns MagnitudeAndAngleCoefficients(const forces::ForceSums& sums);
 
 }  // namespace tavrelo::mechanics::particle

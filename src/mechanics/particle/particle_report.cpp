@@ -1,5 +1,8 @@
 #include "mechanics/particle/particle_report.h"
 
+#include <algorithm>
+
+#include "mechanics/forces/found_forces.h"
 #include "text/number_text.h"
 #include "text/symbols.h"
 
@@ -8,15 +11,14 @@ namespace {
 
 constexpr int kCheckDecimals = 0;
 
-std::string CheckLine(const mechanics::forces::ComponentSums& sums) {
+std::string CheckLine(const forces::ComponentSums& sums) {
     return SumLine("x", text::RoundedText(sums.x, kCheckDecimals)) + "    " +
            SumLine("y", text::RoundedText(sums.y, kCheckDecimals));
 }
 
-std::vector<std::string> ReportLines(const Report& report, const mechanics::forces::ComponentSums& check,
-                                     int decimals) {
-    std::vector<std::string> lines = {SumLine("x", mechanics::forces::EquationText(report.x, decimals)),
-                                      SumLine("y", mechanics::forces::EquationText(report.y, decimals))};
+std::vector<std::string> ReportLines(const Report& report, const forces::ComponentSums& check, int decimals) {
+    std::vector<std::string> lines = {SumLine("x", EquationMarkup(report.x, text::SubscriptName, decimals)),
+                                      SumLine("y", EquationMarkup(report.y, text::SubscriptName, decimals))};
     for (const NamedValue& value : report.values)
         lines.push_back(text::SubscriptName(value.name) + ShownValue(value, decimals));
     lines.push_back(CheckLine(check));
@@ -33,12 +35,12 @@ std::string ShownValue(const NamedValue& value, int decimals) {
     return " = " + text::RoundedText(value.value, decimals) + value.unit;
 }
 
-Solution Finish(const mechanics::forces::ForceTable& table, const Report& report,
-                const mechanics::forces::ComponentSums& start, int decimals) {
-    const auto check = mechanics::forces::SumComponents(table, start);
-    Solution solution = {table, ReportLines(report, check.value_or(start), decimals)};
-    mechanics::forces::MarkSolved(solution.table, decimals);
-    return solution;
+Solution Finish(std::vector<notation::Force> solved, const Report& report, const forces::ComponentSums& start,
+                int decimals) {
+    const auto check = forces::SumComponents(solved, start);
+    std::vector<std::string> lines = ReportLines(report, check.value_or(start), decimals);
+    std::ranges::for_each(solved, forces::CompleteFoundForce);
+    return {std::move(solved), std::move(lines)};
 }
 
 }  // namespace tavrelo::mechanics::particle

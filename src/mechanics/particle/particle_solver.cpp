@@ -1,6 +1,8 @@
 #include "mechanics/particle/particle_solver.h"
 
-#include "mechanics/particle/equilibrium_cases.h"
+#include "mechanics/forces/force_sums.h"
+#include "mechanics/particle/angle_cases.h"
+#include "mechanics/particle/magnitude_cases.h"
 #include "text/symbols.h"
 
 namespace tavrelo::mechanics::particle {
@@ -8,23 +10,23 @@ namespace {
 
 using text::kLongestSymbol;
 
-bool UnknownsStandInOneSum(const mechanics::forces::ForceSums& sums) {
+bool UnknownsStandInOneSum(const forces::ForceSums& sums) {
     return (sums.x.unknowns == 0) != (sums.y.unknowns == 0);
 }
 
-bool IsOneForce(const mechanics::forces::ForceSums& sums) {
+bool IsOneForce(const forces::ForceSums& sums) {
     return sums.x.unknowns == 1 && sums.y.unknowns == 1 &&
-           mechanics::forces::ReadUnknown(sums.x.first).function == mechanics::forces::AngleFunction::Cos &&
-           mechanics::forces::ReadUnknown(sums.y.first).function == mechanics::forces::AngleFunction::Sen;
+           sums.x.first.unknown.function == notation::AngleFunction::Cos &&
+           sums.y.first.unknown.function == notation::AngleFunction::Sen;
 }
 
 struct Lengths {
     std::size_t x1, x2, y1, y2;
 };
 
-Lengths LengthsOf(const mechanics::forces::ForceSums& sums) {
-    return {mechanics::forces::LengthOf(sums.x.first), mechanics::forces::LengthOf(sums.x.second),
-            mechanics::forces::LengthOf(sums.y.first), mechanics::forces::LengthOf(sums.y.second)};
+Lengths LengthsOf(const forces::ForceSums& sums) {
+    return {LengthOf(sums.x.first.unknown), LengthOf(sums.x.second.unknown), LengthOf(sums.y.first.unknown),
+            LengthOf(sums.y.second.unknown)};
 }
 
 bool AreMagnitudes(const Lengths& n) {
@@ -42,29 +44,29 @@ bool AreTwoAngles(const Lengths& n) {
            n.y2 >= kLongestSymbol;
 }
 
-Equilibrium SolveByCase(const mechanics::forces::ForceTable& table, const mechanics::forces::ForceSums& sums,
+Equilibrium SolveByCase(std::span<const notation::Force> forces, const forces::ForceSums& sums,
                         int decimals) {
     const Lengths lengths = LengthsOf(sums);
     if (UnknownsStandInOneSum(sums))
         return text::Refusal{kCaseNotSolved};
     if (IsOneForce(sums))
-        return SolveEquilibrant(table, sums, decimals);
+        return SolveEquilibrant(forces, sums, decimals);
     if (AreMagnitudes(lengths))
-        return SolveMagnitudes(table, sums, decimals);
+        return SolveMagnitudes(forces, sums, decimals);
     if (AreMagnitudeAndAngle(lengths))
-        return SolveMagnitudeAndAngle(table, sums, decimals);
+        return SolveForMagnitudeAndAngle(forces, sums, decimals);
     if (AreTwoAngles(lengths))
-        return SolveTwoAngles(table, sums, decimals);
+        return SolveForTwoAngles(forces, sums, decimals);
     return SilentEnd{};
 }
 
 }  // namespace
 
-Equilibrium SolveEquilibrium(const mechanics::forces::ForceTable& table, int decimals) {
-    const auto sums = mechanics::forces::CollectSums(table);
+Equilibrium SolveEquilibrium(std::span<const notation::Force> forces, int decimals) {
+    const auto sums = forces::CollectSums(forces);
     if (const auto* refusal = std::get_if<text::Refusal>(&sums))
         return *refusal;
-    return SolveByCase(table, std::get<mechanics::forces::ForceSums>(sums), decimals);
+    return SolveByCase(forces, std::get<forces::ForceSums>(sums), decimals);
 }
 
 }  // namespace tavrelo::mechanics::particle

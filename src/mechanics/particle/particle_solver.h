@@ -1,6 +1,7 @@
 #pragma once
 
-#include "mechanics/forces/force_table.h"
+#include <span>
+
 #include "mechanics/particle/equilibrium.h"
 
 namespace tavrelo::mechanics::particle {
@@ -10,9 +11,9 @@ namespace tavrelo::mechanics::particle {
 /// stand in the sums:
 ///   one force of unknown magnitude and direction: the equilibrant of the others;
 ///   two magnitudes: the linear system;
-///   a magnitude and an angle, or two angles: the trigonometric systems of Solve2, whose candidates are put
-///   back into the forces and kept when both sums are below 0.001.
+///   a magnitude and an angle, or two angles: the trigonometric systems of two_equations.h, whose
+///   roots are put back into the forces and kept when both sums are below 0.001.
 /// Fails with RuntimeFailure on overflow and on unknowns whose coefficients vanish.
-Equilibrium SolveEquilibrium(const mechanics::forces::ForceTable& table, int decimals);
+Equilibrium SolveEquilibrium(std::span<const notation::Force> forces, int decimals);
 
 }  // namespace tavrelo::mechanics::particle

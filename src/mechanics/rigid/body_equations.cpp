@@ -29,11 +29,6 @@ struct BodySums {
     BodyEquation m;
 };
 
-bool SameUnknown(const UnknownTerm& a, const UnknownTerm& b) {
-    return a.function == b.function && text::SameSymbol(a.magnitude, b.magnitude) &&
-           text::SameSymbol(a.angle, b.angle);
-}
-
 void AddTerm(BodyEquation& sum, double coef, const UnknownTerm& unknown) {
     for (BodyTerm& term : sum.terms)
         if (SameUnknown(term.unknown, unknown)) {

@@ -54,9 +54,9 @@ std::optional<text::Refusal> CheckCommandChain(std::string_view chain) {
 }
 
 std::optional<text::Refusal> CheckVector(const ForceRecord& vector, std::size_t vectors) {
-    if (!vector[notation::ForceX].HoldsNumber() || !vector[notation::ForceY].HoldsNumber())
+    if (!vector.force.HasComponents())
         return text::Refusal{"Componentes no numéricas del vector."};
-    if (vector[notation::ForceFormatCode].Text() == notation::kUnit && vectors > 1)
+    if (vector.code == notation::kUnit && vectors > 1)
         return text::Refusal{"Operación no válida con este formato."};
     return {};
 }
@@ -74,7 +74,7 @@ std::optional<Series> SeriesOf(std::string_view text) {
 }
 
 std::optional<Series> SeriesFor(const ForceRecord& first, std::string_view text) {
-    return NeedsSeries(first[notation::ForceFormatCode].Text()) ? SeriesOf(text) : Series::Magnitude;
+    return NeedsSeries(first.code) ? SeriesOf(text) : Series::Magnitude;
 }
 
 bool IsZero(double part) { return std::abs(part) <= numeric::kDirectionTolerance; }
@@ -121,14 +121,14 @@ std::variant<ChainRefusal, Step> FurtherStep(const ChainEntry& entry, const Forc
     const std::optional<double> value = notation::ReadNumberProduct(text);
     if (!value)
         return Missing(ChainField::Value, further);
-    return StepBy(*series, first[notation::ForceDirection].Number(), *value);
+    return StepBy(*series, first.force.direction.value_or(0), *value);
 }
 
 // Of the pair that begins at the letter `pair` of the chain.
 std::variant<ChainRefusal, Step> StepOf(const ChainEntry& entry, const ForceRecord& first, std::size_t pair) {
     if (pair > 0)
         return FurtherStep(entry, first, pair - 1);
-    return Step{first[notation::ForceX].Number(), first[notation::ForceY].Number()};
+    return Step{first.force.x.number.value_or(0), first.force.y.number.value_or(0)};
 }
 
 std::optional<text::Refusal> CheckPair(const std::string& from, const std::string& to,

@@ -43,25 +43,16 @@ Offset Turned(const Offset& offset, double rotation) {
 
 }  // namespace
 
-Offset AxisSlots::AxisOffset(bool leaves, const text::Value& hour, double rotation) {
-    if (!hour.HoldsNumber() || !notation::IsAxisHour(static_cast<int>(hour.Number())))
+Offset AxisSlots::AxisOffset(bool leaves, std::optional<int> hour, double rotation) {
+    if (!hour || !notation::IsAxisHour(*hour))
         return {0, 0};
-    const int direction = static_cast<int>(hour.Number());
-    const std::size_t first = FirstSlot(leaves ? direction : notation::OppositeHour(direction));
+    const std::size_t first = FirstSlot(leaves ? *hour : notation::OppositeHour(*hour));
     for (std::size_t slot = first; slot < first + kSlotsPerSide; ++slot)
         if (!m_taken[slot]) {
             m_taken[slot] = true;
             return Turned(kOffsets[slot], rotation);
         }
     return {0, 0};
-}
-
-void PlaceForce(mechanics::forces::ForceRow& row, AxisSlots& slots, double canvas_width, double canvas_height,
-                double rotation) {
-    const bool leaves = row[mechanics::forces::LeavesPoint] == text::Value(notation::kLeaves);
-    const Offset offset = slots.AxisOffset(leaves, row[mechanics::forces::Hour], rotation);
-    row[mechanics::forces::StartX] = static_cast<float>(canvas_width / 2 + offset.dx);
-    row[mechanics::forces::StartY] = static_cast<float>(canvas_height / 2 + offset.dy);
 }
 
 }  // namespace tavrelo::tools::particle

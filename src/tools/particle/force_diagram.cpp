@@ -2,9 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
+#include <span>
 
-#include "notation/clock_direction.h"
+#include "drawing/draw_engine.h"
+#include "drawing/force_color.h"
 #include "numeric/angles.h"
 #include "numeric/compare.h"
 #include "text/number_text.h"
@@ -26,6 +27,7 @@ constexpr Color kOriginColor = text::FromBgr(16711680);
 constexpr Color kAxisColor = text::FromBgr(12632256);
 constexpr Color kLetterColor = text::Rgb(0x60, 0x60, 0x60);
 constexpr int kLabelDecimals = 2;
+constexpr double kDefaultDirection = 45;  // degrees, of an unknown direction that nobody was asked for
 
 struct Middle {
     double x;
@@ -59,72 +61,63 @@ void DrawOrigin(Surface& canvas) {
 }
 
 /// World units for each unit of magnitude; 0 when no force has a magnitude to speak of.
-double ScaleOf(const mechanics::forces::ForceTable& table) {
-    std::vector<double> magnitudes;
-    for (const mechanics::forces::ForceRow& row : table)
-        if (text::IsNum(row[mechanics::forces::Magnitude]))
-            magnitudes.push_back(std::abs(row[mechanics::forces::Magnitude].Number()));
-    if (magnitudes.empty())
-        return 0;
-    const double largest = numeric::MaxArr(magnitudes);
+double ScaleOf(std::span<const notation::Force> forces) {
+    double largest = 0;
+    for (const notation::Force& force : forces)
+        largest = std::max(largest, std::abs(force.magnitude.value_or(0)));
     return numeric::NearEq(largest, 0, kNoMagnitude) ? 0 : kLongestArrow / largest;
 }
 
-double ArrowLength(const mechanics::forces::ForceRow& row, double scale) {
-    if (!text::IsNum(row[mechanics::forces::Magnitude]))
+double ArrowLength(const notation::Force& force, double scale) {
+    if (!force.magnitude)
         return kUnknownArrow;
-    return std::max(std::abs(row[mechanics::forces::Magnitude].Number()) * scale, kShortestArrow);
+    return std::max(std::abs(*force.magnitude) * scale, kShortestArrow);
 }
 
-std::string LabelOf(const mechanics::forces::ForceRow& row) {
-    if (text::IsNum(row[mechanics::forces::Magnitude]))
-        return text::RoundedText(row[mechanics::forces::Magnitude].Number(), kLabelDecimals);
-    return row[mechanics::forces::ShownMagnitude].Text();
+std::string LabelOf(const notation::Force& force, const ForceArrow& arrow) {
+    return force.magnitude ? text::RoundedText(*force.magnitude, kLabelDecimals) : arrow.label;
 }
 
-void DrawForce(Surface& canvas, DrawEng& engine, const mechanics::forces::ForceRow& row, double scale,
-               double rotation) {
+/// The direction in which a force is drawn, as the clock reads it.
+numeric::ClockReading ReadingOf(const notation::Force& force, const ForceArrow& arrow, double rotation) {
     const double direction =
-        (text::IsNum(row[mechanics::forces::DrawDirection]) ? row[mechanics::forces::DrawDirection]
-                                                            : row[mechanics::forces::Direction])
-            .Number() +
-        rotation;
-    numeric::ClockReading reading = numeric::ClockOf(numeric::CosD(direction), numeric::SinD(direction));
-    if (text::IsNum(row[mechanics::forces::Magnitude]) && row[mechanics::forces::Magnitude].Number() < 0)
-        reading.hour = notation::OppositeHour(reading.hour);
-    engine.MoveTo(canvas, row[mechanics::forces::StartX].Number(),
-                  canvas.FromBottom(row[mechanics::forces::StartY].Number()), 1);
-    engine.DrawArrow(
-        canvas, {.length = ArrowLength(row, scale),
-                 .leaves = row[mechanics::forces::LeavesPoint].Number() != notation::kArrives,
-                 .hour = reading.hour,
-                 .angle = reading.angle,
-                 .color = text::FromBgr(static_cast<std::uint32_t>(row[mechanics::forces::Colour].Number())),
-                 .label = LabelOf(row),
-                 .width = kArrowWidth});
+        arrow.asked_direction.value_or(force.direction.value_or(kDefaultDirection)) + rotation;
+    return numeric::ClockOf(numeric::CosD(direction), numeric::SinD(direction));
 }
 
-}  // namespace
+void DrawForce(Surface& canvas, DrawEng& engine, const notation::Force& force, const ForceArrow& arrow,
+               double scale, double rotation) {
+    const Middle middle = MiddleOf(canvas);
+    const numeric::ClockReading reading = ReadingOf(force, arrow, rotation);
+    engine.MoveTo(canvas, middle.x + arrow.start.dx, middle.y - arrow.start.dy, 1);
+    engine.DrawArrow(canvas, {.length = ArrowLength(force, scale),
+                              .leaves = arrow.leaves,
+                              .hour = reading.hour,
+                              .angle = reading.angle,
+                              .color = drawing::ColorOf(force.knowledge),
+                              .label = LabelOf(force, arrow),
+                              .width = kArrowWidth});
+}
 
-void DrawForceAxes(Surface& canvas, bool keep, double rotation) {
-    if (!keep)
-        canvas.Cls();
+void DrawAxes(Surface& canvas, double rotation) {
     const double cos = numeric::CosD(rotation);
     const double sin = numeric::SinD(rotation);
     DrawAxis(canvas, cos, sin, "X", 4, -2);
     DrawAxis(canvas, -sin, cos, "Y", 6, 4);
 }
 
-void DrawForces(Surface& canvas, DrawEng& engine, const mechanics::forces::ForceTable& table,
-                double rotation) {
-    if (table.empty())
+}  // namespace
+
+void DrawForces(Surface& canvas, const ForcesInView& forces, double rotation) {
+    canvas.Cls();
+    DrawAxes(canvas, rotation);
+    if (forces.IsEmpty())
         return;
-    const double scale = ScaleOf(table);
-    engine.Begin();
-    DrawForceAxes(canvas, false, rotation);
     DrawOrigin(canvas);
-    for (const mechanics::forces::ForceRow& row : table)
-        DrawForce(canvas, engine, row, scale, rotation);
+    const double scale = ScaleOf(forces.Forces());
+    DrawEng engine;
+    for (std::size_t i = 0; i < forces.Count(); ++i)
+        DrawForce(canvas, engine, forces.Forces()[i], forces.Arrows()[i], scale, rotation);
 }
 
 }  // namespace tavrelo::tools::particle

@@ -1,46 +1,49 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
-#include "drawing/draw_engine.h"
 #include "frame/direction_clock.h"
 #include "frame/tool_switch.h"
-#include "mechanics/forces/force_table.h"
 #include "mechanics/particle/equilibrium.h"
 #include "tools/particle/axis_slots.h"
-#include "window/form1.h"
+#include "tools/particle/forces_in_view.h"
+#include "tools/particle/particle_controls.h"
 
 namespace tavrelo::tools::particle {
 
 /// The tool "Estática de la partícula": the table of forces on one point, their diagram, the solution and its
 /// acceptance or undoing. The table outlasts a change of tool; only the new-problem command clears it.
-class Parts {
+class ParticleTool {
   public:
-    Parts(window::Form1& form, frame::DirectionClock& clock);
+    ParticleTool(window::Form1& form, frame::DirectionClock& clock);
 
     frame::ToolHooks Hooks();
-    /// Adds the force typed in `txtVector`; called on Enter there.
-    void EnterForce();
     /// Replaces the table by the forces of a list of texts; a refusal is shown and keeps the old table
     /// (false).
     bool LoadForces(std::span<const std::string> texts);
     /// Solves the table and writes the report. A refusal is shown in a box, and nothing changes (false).
     bool SolveAndReport();
-    void DrawForces();
 
     /// The topic of a worked example is asked for: its index from 0.
     std::function<void(int)> OnExample;
 
-    std::size_t ForceCount() const { return m_forces.size(); }
-    std::size_t BackupCount() const { return m_backup.size(); }
+    std::size_t ForceCount() const { return m_forces.Count(); }
+    std::size_t BackupCount() const { return m_backup.Count(); }
 
   private:
+    enum class Event { SecondForce, Solved, Restored, Updated, NewProblem };
+
     void ArrangeGdEqui();
     void Wire();
     void RunCommand(int index);
+    void Enable(Event event);
 
+    /// Adds the force typed in `txtVector`.
+    void EnterForce();
     void Solve();             // Resolver
     void Restore();           // Restaurar
     void Update();            // Actualizar
@@ -49,21 +52,26 @@ class Parts {
     void AskForNewProblem();  // Nuevo problema
     void RotateAxes();
 
-    /// Asks in which direction to draw a force of unknown direction; false when the user gave no number.
-    bool AskDrawDirection(mechanics::forces::ForceRow& row);
-    void AddToGrid(const mechanics::forces::ForceRow& row);
-    void PlaceAllForces();
+    /// A direction for a force that has none of its own. `cancelled` when the user gave no number.
+    struct DrawDirection {
+        std::optional<double> asked = {};
+        bool cancelled = false;
+    };
+    DrawDirection DirectionToDraw(const notation::ForceRecord& record);
+    void AddToGrid(const notation::ForceRecord& record);
     void EraseForces();
-    void SetEntering(bool entering);
+    void ShowRotation();
+    void Draw();
     void Take(mechanics::particle::Solution solution);
     std::vector<std::string> UpdateReport() const;
 
     window::Form1& m_form;
+    ParticleControls m_controls{m_form};
     frame::DirectionClock& m_clock;
-    drawing::DrawEng m_engine;
-    mechanics::forces::ForceTable m_forces;
-    mechanics::forces::ForceTable m_backup;
+    ForcesInView m_forces;
+    ForcesInView m_backup;
     AxisSlots m_slots;
+    double m_rotation = 0;   // of the axes, degrees
     bool m_entering = true;  // `fraDirec` is enabled
 };
 

@@ -18,13 +18,6 @@ using mechanics::rigid::FoundUnknown;
 
 std::string Heading(const std::string& text) { return "\\0100" + text + "\\"; }
 
-std::string TextOf(const mechanics::forces::UnknownTerm& u) {
-    if (!u.HasAngle())
-        return u.magnitude;
-    const char* f = u.function == mechanics::forces::AngleFunction::Cos ? "cos " : "sen ";
-    return (u.magnitude.empty() ? "" : u.magnitude + " ") + f + u.angle;
-}
-
 // The name as the diagrams show it. One that holds marks of the markup itself stays as it was typed.
 std::string NameMarkup(const mechanics::forces::UnknownTerm& unknown, int decimals) {
     const std::string name = TextOf(unknown);

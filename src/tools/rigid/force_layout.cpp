@@ -37,7 +37,7 @@ Color ColorOf(int colour) { return text::FromBgr(static_cast<std::uint32_t>(colo
 
 std::string SizeText(double number, int decimals) { return text::RoundedText(std::abs(number), decimals); }
 
-bool Leaves(const forces::ForceRow& row) { return row[forces::LeavesPoint].Number() != notation::kArrives; }
+bool Leaves(const forces::ForceRow& row) { return row[forces::LeavesPoint].Number() != forces::kArrives; }
 
 std::string WithoutSign(const std::string& text) { return text.starts_with('-') ? text.substr(1) : text; }
 

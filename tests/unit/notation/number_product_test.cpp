@@ -63,8 +63,8 @@ void ExpectSameForce(const SameRow& row) {
     auto product = ParseForce(row.product, kDecimals);
     const auto number = ParseForce(row.number, kDecimals);
     if (auto* record = std::get_if<ForceRecord>(&product)) {
-        EXPECT_EQ((*record)[ForceGivenText], text::Value(row.product));
-        (*record)[ForceGivenText] = row.number;
+        EXPECT_EQ(record->given_text, row.product);
+        record->given_text = row.number;
     }
     ASSERT_EQ(product.index(), number.index()) << row.product;
     EXPECT_TRUE(product == number) << row.product;

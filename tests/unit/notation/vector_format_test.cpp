@@ -52,15 +52,6 @@ TEST(VectorFormatOf, TellsTheFormatAndCutsTheText) {
     }
 }
 
-TEST(VectorFormatOf, GivesTheEndsOfTheFirstPart) {
-    const VectorFormat format = VectorFormatOf("p23x,12");
-    EXPECT_EQ(format.head, "p");
-    EXPECT_EQ(format.tail, "x");
-    EXPECT_EQ(VectorFormatOf("ñ2ú,12").head, "ñ");
-    EXPECT_EQ(VectorFormatOf("ñ2ú,12").tail, "ú");
-    EXPECT_EQ(VectorFormatOf(",12").head, "");
-}
-
 TEST(VectorFormatOf, TakesTheFinalColonOff) {
     for (const char* text : {"10<30:", "10<30 :", " 10<30: "}) {
         const VectorFormat format = VectorFormatOf(text);
@@ -82,11 +73,43 @@ TEST(VectorFormatOf, RefusesWhatMatchesNothing) {
         EXPECT_EQ(VectorFormatOf(text).msg, "Inventaste un nuevo formato") << text;
 }
 
-TEST(HasQuadrantMarks, NeedsLettersAtBothEndsAndSomethingBetween) {
-    for (const char* first : {"p30x", "s0y", "tax", "c  y"})
-        EXPECT_TRUE(HasQuadrantMarks(first)) << first;
-    for (const char* first : {"", "p", "px", "30", "p30", "30x", "P30x", "a30x"})
-        EXPECT_FALSE(HasQuadrantMarks(first)) << first;
+struct MarksRow {
+    const char* first;
+    const char* quadrant;
+    const char* angle;
+    const char* axis;
+};
+
+TEST(ReadQuadrantMarks, CutsTheLettersOffTheAngle) {
+    const MarksRow rows[] = {
+        {"p30x", "p", "30", "x"}, {"s0y", "s", "0", "y"},       {"tax", "t", "a", "x"},
+        {"c  y", "c", "", "y"},   {"c 3.5 y", "c", "3.5", "y"},
+    };
+    for (const MarksRow& row : rows) {
+        const auto marks = ReadQuadrantMarks(row.first);
+        ASSERT_TRUE(marks) << row.first;
+        EXPECT_EQ(marks->quadrant, row.quadrant) << row.first;
+        EXPECT_EQ(marks->angle, row.angle) << row.first;
+        EXPECT_EQ(marks->axis, row.axis) << row.first;
+    }
+}
+
+TEST(ReadQuadrantMarks, NeedsLettersAtBothEndsAndSomethingBetween) {
+    for (const char* first : {"", "p", "px", "30", "p30", "30x", "P30x", "a30x", "ñ30x", "p30ñ"})
+        EXPECT_FALSE(ReadQuadrantMarks(first)) << first;
+}
+
+TEST(ReadLetteredComponent, CutsTheLetterOff) {
+    const auto horizontal = ReadLetteredComponent("-5 h");
+    ASSERT_TRUE(horizontal);
+    EXPECT_EQ(horizontal->number, "-5");
+    EXPECT_EQ(horizontal->letter, 'h');
+    const auto vertical = ReadLetteredComponent("v");
+    ASSERT_TRUE(vertical);
+    EXPECT_EQ(vertical->number, "");
+    EXPECT_EQ(vertical->letter, 'v');
+    for (const char* second : {"", "5", "5H", "h5"})
+        EXPECT_FALSE(ReadLetteredComponent(second)) << second;
 }
 
 }  // namespace

@@ -4,15 +4,15 @@
 
 #include <cmath>
 
+#include "../forces/force_lists.h"
+
 namespace tavrelo::mechanics::particle {
 namespace {
 
-constexpr int kDecimals = 3;
 constexpr double kTolerance = 1e-12;
 
 forces::ForceSums SumsOf(const std::vector<std::string>& texts) {
-    return std::get<forces::ForceSums>(
-        forces::CollectSums(std::get<forces::ForceTable>(forces::ForcesOf(texts, kDecimals))));
+    return std::get<forces::ForceSums>(forces::CollectSums(forces::Forces(texts)));
 }
 
 // Every row of the table of two magnitudes: the system that the forces write by themselves.
@@ -44,8 +44,8 @@ TEST(MagnitudeCoefficients, FollowTheNamesInBothSums) {
         EXPECT_NEAR(got.b, row.b, kTolerance) << label;
         EXPECT_NEAR(got.d, row.d, kTolerance) << label;
         EXPECT_NEAR(got.e, row.e, kTolerance) << label;
-        EXPECT_EQ(got.first, row.first) << label;
-        EXPECT_EQ(got.second, row.second) << label;
+        EXPECT_EQ(TextOf(got.first), row.first) << label;
+        EXPECT_EQ(TextOf(got.second), row.second) << label;
     }
 }
 
@@ -77,8 +77,8 @@ TEST(MagnitudeAndAngleCoefficients, PutTheMagnitudeFirst) {
         EXPECT_NEAR(got.b, row.b, kTolerance) << label;
         EXPECT_NEAR(got.d, row.d, kTolerance) << label;
         EXPECT_NEAR(got.e, row.e, kTolerance) << label;
-        EXPECT_EQ(got.first, row.first) << label;
-        EXPECT_EQ(got.second, row.second) << label;
+        EXPECT_EQ(TextOf(got.first), row.first) << label;
+        EXPECT_EQ(TextOf(got.second), row.second) << label;
     }
 }
 

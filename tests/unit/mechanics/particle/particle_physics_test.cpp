@@ -9,6 +9,7 @@
 #include <optional>
 #include <random>
 
+#include "../forces/force_lists.h"
 #include "mechanics/particle/particle_solver.h"
 #include "numeric/angles.h"
 #include "text/number_text.h"
@@ -40,28 +41,29 @@ struct Problem {
 
 std::string Number(double value) { return text::NumberToText(value); }
 
-mechanics::forces::ForceTable TableOf(const Problem& problem) {
+std::vector<notation::Force> ForcesOf(const Problem& problem) {
     const double x = problem.first.magnitude * std::cos(Radians(problem.first.direction)) +
                      problem.second.magnitude * std::cos(Radians(problem.second.direction));
     const double y = problem.first.magnitude * std::sin(Radians(problem.first.direction)) +
                      problem.second.magnitude * std::sin(Radians(problem.second.direction));
     const std::vector<std::string> texts = {problem.first_text, problem.second_text,
                                             Number(-x) + "," + Number(-y)};
-    return std::get<mechanics::forces::ForceTable>(mechanics::forces::ForcesOf(texts, kDecimals));
+    return forces::Forces(texts);
 }
 
 bool Holds(const Solution& solution, const KnownForce& force, std::size_t row) {
-    return std::abs(solution.table[row][mechanics::forces::Magnitude].Number() - force.magnitude) <
-               kTolerance * force.magnitude &&
-           AngleBetween(solution.table[row][mechanics::forces::Direction].Number(), force.direction) <
-               kTolerance * 100;
+    const notation::Force& found = solution.forces[row];
+    return found.magnitude && found.direction &&
+           std::abs(*found.magnitude - force.magnitude) < kTolerance * force.magnitude &&
+           AngleBetween(*found.direction, force.direction) < kTolerance * 100;
 }
 
 void ExpectResidualsVanish(const Solution& solution) {
     double x = 0, y = 0;
-    for (const mechanics::forces::ForceRow& force : solution.table) {
-        x += force[mechanics::forces::XComponent].Number();
-        y += force[mechanics::forces::YComponent].Number();
+    for (const notation::Force& force : solution.forces) {
+        ASSERT_TRUE(force.HasComponents());
+        x += *force.x.number;
+        y += *force.y.number;
     }
     EXPECT_NEAR(x, 0, kSumTolerance);
     EXPECT_NEAR(y, 0, kSumTolerance);
@@ -78,7 +80,7 @@ std::vector<Solution> SolutionsOf(const Equilibrium& outcome) {
 // One of the offered solutions is the answer from which the problem was built, and all of them are in
 // equilibrium.
 void ExpectAnswerFound(const Problem& problem) {
-    const Equilibrium outcome = SolveEquilibrium(TableOf(problem), kDecimals);
+    const Equilibrium outcome = SolveEquilibrium(ForcesOf(problem), kDecimals);
     const std::vector<Solution> solutions = SolutionsOf(outcome);
     bool found = false;
     for (const Solution& solution : solutions) {
@@ -188,14 +190,11 @@ TEST(ParticlePhysics, TheEquilibrantIsTheOppositeOfTheResultant) {
             p.magnitude * std::sin(Radians(p.direction)) + q.magnitude * std::sin(Radians(q.direction));
         const std::vector<std::string> texts = {"R<c", Number(p.magnitude) + "<" + Number(p.direction),
                                                 Number(q.magnitude) + "<" + Number(q.direction)};
-        const auto outcome = SolveEquilibrium(
-            std::get<mechanics::forces::ForceTable>(mechanics::forces::ForcesOf(texts, kDecimals)),
-            kDecimals);
+        const auto outcome = SolveEquilibrium(forces::Forces(texts), kDecimals);
         const Solution& solution = std::get<Solution>(outcome);
         ExpectResidualsVanish(solution);
-        EXPECT_NEAR(solution.table[0][mechanics::forces::Magnitude].Number(), std::hypot(x, y), kTolerance);
-        EXPECT_NEAR(AngleBetween(solution.table[0][mechanics::forces::Direction].Number(),
-                                 std::atan2(-y, -x) / Radians(1)),
+        EXPECT_NEAR(solution.forces[0].magnitude.value_or(0), std::hypot(x, y), kTolerance);
+        EXPECT_NEAR(AngleBetween(solution.forces[0].direction.value_or(0), std::atan2(-y, -x) / Radians(1)),
                     0, 1e-4);
     }
 }
@@ -221,8 +220,8 @@ TEST(ParticlePhysics, TurningAllForcesTurnsTheSolution) {
                 continue;
             ++made;
             ExpectAnswerFound(*turned);
-            const auto before = SolutionsOf(SolveEquilibrium(TableOf(*problem), kDecimals));
-            const auto after = SolutionsOf(SolveEquilibrium(TableOf(*turned), kDecimals));
+            const auto before = SolutionsOf(SolveEquilibrium(ForcesOf(*problem), kDecimals));
+            const auto after = SolutionsOf(SolveEquilibrium(ForcesOf(*turned), kDecimals));
             EXPECT_EQ(before.size(), after.size()) << problem->first_text << ' ' << problem->second_text;
         }
     }

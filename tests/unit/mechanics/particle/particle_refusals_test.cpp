@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "mechanics/forces/unknowns.h"
+#include "../forces/force_lists.h"
+#include "mechanics/forces/force_sums.h"
 #include "mechanics/particle/particle_solver.h"
 #include "numeric/checked.h"
 
@@ -11,10 +12,7 @@ constexpr int kDecimals = 3;
 
 using Texts = std::vector<std::string>;
 
-Equilibrium Solved(const Texts& forces) {
-    return SolveEquilibrium(
-        std::get<mechanics::forces::ForceTable>(mechanics::forces::ForcesOf(forces, kDecimals)), kDecimals);
-}
+Equilibrium Solved(const Texts& forces) { return SolveEquilibrium(forces::Forces(forces), kDecimals); }
 
 std::string Joined(const Texts& texts) {
     std::string joined;
@@ -42,14 +40,14 @@ TEST(SolveEquilibriumRefuses, ADirectionAlone) {
 }
 
 TEST(SolveEquilibriumRefuses, MoreUnknownsThanEquations) {
-    ExpectRefusals(mechanics::forces::kTooManyUnknowns, {{"hF", "hQ", "hR"},
-                                                         {"p30x,F", "s30x,Q", "v-R"},
-                                                         {"10<a", "20<b", "30<c"},
-                                                         {"p30x,F2", "F1<a", "v-10"},
-                                                         {"F1<a", "p30x,F2", "v-10"},
-                                                         {"F1<a", "F2<b", "v-10"},
-                                                         {"F1<a", "20<b", "v-10"},
-                                                         {"20<b", "F1<a", "v-10"}});
+    ExpectRefusals(forces::kTooManyUnknowns, {{"hF", "hQ", "hR"},
+                                              {"p30x,F", "s30x,Q", "v-R"},
+                                              {"10<a", "20<b", "30<c"},
+                                              {"p30x,F2", "F1<a", "v-10"},
+                                              {"F1<a", "p30x,F2", "v-10"},
+                                              {"F1<a", "F2<b", "v-10"},
+                                              {"F1<a", "20<b", "v-10"},
+                                              {"20<b", "F1<a", "v-10"}});
 }
 
 TEST(SolveEquilibriumRefuses, OneUnknownInBothSums) {

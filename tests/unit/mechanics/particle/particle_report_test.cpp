@@ -3,20 +3,19 @@
 #include <cmath>
 #include <numbers>
 
+#include "../forces/force_lists.h"
 #include "mechanics/particle/particle_solver.h"
 
 namespace tavrelo::mechanics::particle {
 namespace {
 
 using Lines = std::vector<std::string>;
-using text::Value;
 
 constexpr int kDecimals = 3;
 constexpr double kTolerance = 1e-9;
 
 Equilibrium Solved(const std::vector<std::string>& forces, int decimals = kDecimals) {
-    return SolveEquilibrium(
-        std::get<mechanics::forces::ForceTable>(mechanics::forces::ForcesOf(forces, decimals)), decimals);
+    return SolveEquilibrium(forces::Forces(forces), decimals);
 }
 
 struct ReportRow {
@@ -79,7 +78,7 @@ TEST(SolveEquilibrium, ReportsTheEquilibrantOfKnownForces) {
     });
 }
 
-TEST(SolveEquilibrium, ReportsTheGoodCandidateAndGoesOnFromTheSumsOfTheLast) {
+TEST(SolveEquilibrium, ReportsTheGoodRootAndGoesOnFromTheSumsOfTheLast) {
     ExpectReports({
         // 20 sin A = 10 and F1 > 0 leave A = 150 alone, which was tested last: the check is clean.
         {{"hF1", "20<a", "v-10"},
@@ -100,12 +99,12 @@ TEST(SolveEquilibrium, ReportsTheGoodCandidateAndGoesOnFromTheSumsOfTheLast) {
     });
 }
 
-TEST(SolveEquilibrium, OffersTwoGoodCandidatesUnderATitle) {
+TEST(SolveEquilibrium, OffersTwoGoodRoots) {
     // The legs 30 to the right and 20 at A hold F1 to the left: sin A = 1 twice.
     const Equilibrium outcome = Solved({"h-F1", "20<a", "30,-20"});
     ASSERT_TRUE(std::holds_alternative<Choice>(outcome));
     const Choice& choice = std::get<Choice>(outcome);
-    EXPECT_EQ(choice.title, "Tavrelo");
+    EXPECT_FALSE(choice.between_angles);
     EXPECT_EQ(choice.question,
               "Existen dos soluciones (posiblemente iguales) que son:\n"
               "F1 = 30, A = 90°\n"
@@ -117,12 +116,12 @@ TEST(SolveEquilibrium, OffersTwoGoodCandidatesUnderATitle) {
     EXPECT_EQ(choice.solutions[1].report, report);
 }
 
-TEST(SolveEquilibrium, OffersTwoAnglesWithoutATitle) {
+TEST(SolveEquilibrium, OffersTwoAngles) {
     // The 3-4-5 triangle and its mirror image: acos(3/5) = 53.13, acos(4/5) = 36.87 degrees.
     const Equilibrium outcome = Solved({"3<a1", "4<b", "h-5"});
     ASSERT_TRUE(std::holds_alternative<Choice>(outcome));
     const Choice& choice = std::get<Choice>(outcome);
-    EXPECT_EQ(choice.title, "");
+    EXPECT_TRUE(choice.between_angles);
     EXPECT_EQ(choice.question,
               "Existen dos soluciones (posiblemente iguales) que son:\n"
               "A1 = 53.13°, B = -36.87°\n"
@@ -143,38 +142,26 @@ TEST(SolveEquilibrium, TellsTheSumsOfKnownForces) {
 }
 
 TEST(SolveEquilibrium, EscapesTheMarksOfANameInItsReport) {
-    const Equilibrium outcome = Solved({"hF/", "v#", "3,4"});
+    const Equilibrium outcome = Solved({"hF/", "vQ#", "3,4"});
     ASSERT_TRUE(std::holds_alternative<Solution>(outcome));
     EXPECT_EQ(std::get<Solution>(outcome).report[0], ";SF!x =  F!// + 3 = 0");
-    EXPECT_EQ(std::get<Solution>(outcome).report[3], "## = -4");
+    EXPECT_EQ(std::get<Solution>(outcome).report[3], "Q!## = -4");
 }
 
 TEST(SolveEquilibrium, RewritesTheForcesAsKnownOnes) {
     const Equilibrium outcome = Solved({"p30x,F1", "s45x,F2:", "v-100", "p90x,0.5", "v-0.5"});
     ASSERT_TRUE(std::holds_alternative<Solution>(outcome));
-    const mechanics::forces::ForceTable& table = std::get<Solution>(outcome).table;
+    const std::vector<notation::Force>& solved = std::get<Solution>(outcome).forces;
     const double f1 = 100 * std::sin(std::numbers::pi / 4) / std::sin(7 * std::numbers::pi / 12);
-    EXPECT_NEAR(table[0][mechanics::forces::Magnitude].Number(), f1, kTolerance);
-    EXPECT_NEAR(table[0][mechanics::forces::Direction].Number(), 30, kTolerance);
-    EXPECT_EQ(table[0][mechanics::forces::Hour], Value(2));
-    EXPECT_NEAR(table[0][mechanics::forces::ClockAngle].Number(), 30, kTolerance);
-    EXPECT_EQ(table[0][mechanics::forces::XUnknown], Value(""));
-    EXPECT_EQ(table[0][mechanics::forces::YUnknown], Value(""));
-    EXPECT_EQ(table[0][mechanics::forces::XText], Value("63.397"));  // F1 cos 30
-    EXPECT_EQ(table[0][mechanics::forces::YText], Value("36.603"));
-    EXPECT_EQ(table[0][mechanics::forces::Colour], Value(mechanics::forces::kSolved));
-    EXPECT_EQ(table[0][mechanics::forces::GivenText], Value("p30x,F1"));
-    EXPECT_EQ(table[1][mechanics::forces::Colour], Value(mechanics::forces::kSolved));
-    EXPECT_EQ(table[1][mechanics::forces::LeavesPoint], Value(notation::kArrives));
-    EXPECT_EQ(table[2][mechanics::forces::Colour], Value(mechanics::forces::kKnown));
-    EXPECT_EQ(table[2][mechanics::forces::YText], Value("-100"));
-    EXPECT_EQ(table[3][mechanics::forces::Hour], Value(12));  // typed as hour 2 with 90 degrees
-}
-
-TEST(SolveEquilibrium, ForgetsTheDrawingDirectionOfASolvedForce) {
-    const Equilibrium outcome = Solved({"F<a", "-30,-40"});
-    EXPECT_TRUE(std::get<Solution>(outcome).table[0][mechanics::forces::DrawDirection].IsEmpty());
-    EXPECT_EQ(std::get<Solution>(outcome).table[0][mechanics::forces::Hour], Value(1));
+    EXPECT_NEAR(solved[0].magnitude.value_or(0), f1, kTolerance);
+    EXPECT_NEAR(solved[0].direction.value_or(0), 30, kTolerance);
+    EXPECT_TRUE(solved[0].x.unknown.IsNone());
+    EXPECT_TRUE(solved[0].y.unknown.IsNone());
+    EXPECT_NEAR(solved[0].x.number.value_or(0), f1 * std::cos(std::numbers::pi / 6), kTolerance);
+    EXPECT_EQ(solved[0].knowledge, notation::Knowledge::Found);
+    EXPECT_EQ(solved[1].knowledge, notation::Knowledge::Found);
+    EXPECT_EQ(solved[2].knowledge, notation::Knowledge::Given);
+    EXPECT_NEAR(solved[2].direction.value_or(0), -90, kTolerance);
 }
 
 }  // namespace

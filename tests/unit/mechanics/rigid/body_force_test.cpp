@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <span>
+
 #include "numeric/checked.h"
 
 namespace tavrelo::mechanics::rigid {
@@ -95,7 +97,7 @@ TEST(ReadBodyForce, HasTheColumnsOfTheParsedForce) {
     EXPECT_EQ(force.force[mechanics::forces::XCoefficient], Value(-2.0));
     EXPECT_EQ(force.force[mechanics::forces::XUnknown], Value("F"));
     EXPECT_EQ(force.force[mechanics::forces::YComponent], Value(0.0));
-    EXPECT_EQ(force.force[mechanics::forces::LeavesPoint], Value(notation::kArrives));
+    EXPECT_EQ(force.force[mechanics::forces::LeavesPoint], Value(mechanics::forces::kArrives));
     EXPECT_EQ(force.force[mechanics::forces::Colour], Value(mechanics::forces::kUnknown));
 }
 

@@ -59,7 +59,7 @@ TEST(AxisOffset, GivesNoneBetweenTheAxes) {
         for (int i = 0; i < 4; ++i)
             ExpectOffset(slots.AxisOffset(true, hour, 0), 0, 0, hour);
     for (int i = 0; i < 4; ++i)
-        ExpectOffset(slots.AxisOffset(true, text::Value(), 0), 0, 0, 0);
+        ExpectOffset(slots.AxisOffset(true, std::nullopt, 0), 0, 0, 0);
     slots.AxisOffset(true, 3, 0);
     ExpectOffset(slots.AxisOffset(true, 3, 0), 5, -5, 3);  // nothing above took a place
 }
@@ -78,21 +78,6 @@ TEST(AxisSlots, AreFreeAgainWhenCleared) {
     slots.Clear();
     ExpectOffset(slots.AxisOffset(true, 3, 0), 0, 0, 3);
     ExpectOffset(slots.AxisOffset(true, 3, 0), 5, -5, 3);
-}
-
-TEST(PlaceForce, MovesTheStartFromTheMiddleOfTheCanvas) {
-    AxisSlots slots;
-    mechanics::forces::ForceRow row;
-    row[mechanics::forces::Hour] = 12;
-    row[mechanics::forces::LeavesPoint] = notation::kLeaves;
-    PlaceForce(row, slots, 397, 385, 0);
-    PlaceForce(row, slots, 397, 385, 0);
-    EXPECT_EQ(row[mechanics::forces::StartX], text::Value(203.5));
-    EXPECT_EQ(row[mechanics::forces::StartY], text::Value(196.5));
-    row[mechanics::forces::LeavesPoint] = notation::kArrives;
-    PlaceForce(row, slots, 397, 385, 0);  // arrives from below
-    EXPECT_EQ(row[mechanics::forces::StartX], text::Value(198.5));
-    EXPECT_EQ(row[mechanics::forces::StartY], text::Value(192.5));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "mechanics/particle/solve2.h"
+#include "mechanics/particle/two_equations.h"
 
 #include <cmath>
 #include <optional>
@@ -16,7 +16,7 @@ using numeric::CosD;
 using numeric::Finite;
 using numeric::NormAngle;
 using numeric::SinD;
-using Result = std::variant<text::Refusal, std::vector<double>>;
+using Outcome = std::variant<text::Refusal, TwoRoots>;
 
 constexpr double kZeroTolerance = 1e-6;
 constexpr double kHalfTurn = 180;
@@ -26,74 +26,72 @@ constexpr const char* kSingular = "El determinante del sistema es cero.";
 constexpr const char* kNotSolved = "No resuelvo este caso.";
 constexpr const char* kNoSolution = "No existe solución.";
 
-// A u + B w + C = 0, D u + E w + F = 0, with the second unknown under a cosine above and a sine below in some
-// kinds.
-struct System {
-    double a, b, c;
-    double d, e, f;
-};
-
-struct Pair {
-    double magnitude;
-    double angle;
-};
-
 bool IsZero(double value) { return numeric::NearEq(value, 0, kZeroTolerance); }
 
-Pair Flipped(const Pair& pair) {
-    if (pair.magnitude >= 0)
-        return pair;
-    return {-pair.magnitude, NormAngle(kHalfTurn + pair.angle)};
+// A magnitude that is not negative, and its angle.
+Root Flipped(const Root& root) {
+    if (root.first >= 0)
+        return root;
+    return {-root.first, NormAngle(kHalfTurn + root.second)};
 }
 
-Result Candidates(const Pair& first, const Pair& second) {
-    return std::vector<double>{first.magnitude, first.angle, second.magnitude, second.angle};
-}
-
-Result SolveLinear(const System& s) {
-    const double determinant = Finite(s.a * s.e - s.b * s.d);
-    if (IsZero(determinant))
-        return text::Refusal{kSingular};
-    return std::vector<double>{CheckedDivide(-(s.c * s.e - s.b * s.f), determinant),
-                               CheckedDivide(-(s.a * s.f - s.c * s.d), determinant)};
-}
-
-Pair FromFirstEquation(const System& s, double angle) {
+Root FromFirstEquation(const TwoEquations& s, double angle) {
     return Flipped({CheckedDivide(-s.c - s.b * CosD(angle), s.a), angle});
 }
 
-Pair FromSecondEquation(const System& s, double angle) {
+Root FromSecondEquation(const TwoEquations& s, double angle) {
     return Flipped({CheckedDivide(-s.f - s.e * SinD(angle), s.d), angle});
 }
 
 // A = 0: the first equation holds the angle alone.
-Result SolveByCosine(const System& s) {
+Outcome SolveByCosine(const TwoEquations& s) {
     const double cosine = CheckedDivide(-s.c, s.b);
     if (std::abs(cosine) > 1)
         return text::Refusal{kNoSolution};
     const double angle = numeric::ArcCosD(cosine);
-    return Candidates(FromSecondEquation(s, angle), FromSecondEquation(s, -angle));
+    return TwoRoots{FromSecondEquation(s, angle), FromSecondEquation(s, -angle)};
 }
 
 // D = 0: the second equation holds the angle alone.
-Result SolveBySine(const System& s) {
+Outcome SolveBySine(const TwoEquations& s) {
     const double sine = CheckedDivide(-s.f, s.e);
     if (std::abs(sine) > 1)
         return text::Refusal{kNoSolution};
     const double angle = numeric::ArcSinD(sine);
-    return Candidates(FromFirstEquation(s, angle), FromFirstEquation(s, NormAngle(kHalfTurn - angle)));
+    return TwoRoots{FromFirstEquation(s, angle), FromFirstEquation(s, NormAngle(kHalfTurn - angle))};
 }
 
 // Without u: B D cos t - A E sin t + (C D - A F) = 0.
-Result SolveByElimination(const System& s) {
+Outcome SolveByElimination(const TwoEquations& s) {
     const auto roots =
         numeric::SolveCosSin(Finite(s.b * s.d), Finite(-s.a * s.e), Finite(s.c * s.d - s.a * s.f));
     if (!roots)
         return text::Refusal{kNoSolution};
-    return Candidates(FromFirstEquation(s, roots->first), FromFirstEquation(s, roots->second));
+    return TwoRoots{FromFirstEquation(s, roots->first), FromFirstEquation(s, roots->second)};
 }
 
-Result SolveMagnitudeAndAngle(const System& s) {
+double FirstAngle(const TwoEquations& s, double second_angle) {
+    return numeric::AngleOf(CheckedDivide(-s.c - s.b * CosD(second_angle), s.a),
+                            CheckedDivide(-s.f - s.e * SinD(second_angle), s.a));
+}
+
+std::optional<Root> SharedMagnitude(double constant, double factor, double angle) {
+    if (IsZero(factor))
+        return {};
+    return Flipped({CheckedDivide(-constant, factor), angle});
+}
+
+}  // namespace
+
+std::variant<text::Refusal, Root> SolveTwoMagnitudes(const TwoEquations& s) {
+    const double determinant = Finite(s.a * s.e - s.b * s.d);
+    if (IsZero(determinant))
+        return text::Refusal{kSingular};
+    return Root{CheckedDivide(-(s.c * s.e - s.b * s.f), determinant),
+                CheckedDivide(-(s.a * s.f - s.c * s.d), determinant)};
+}
+
+Outcome SolveMagnitudeAndAngle(const TwoEquations& s) {
     if (IsZero(s.b) || IsZero(s.e))
         return text::Refusal{kNotSolved};
     if (IsZero(s.a) && IsZero(s.d))
@@ -105,30 +103,19 @@ Result SolveMagnitudeAndAngle(const System& s) {
     return SolveByElimination(s);
 }
 
-double FirstAngle(const System& s, double second_angle) {
-    return numeric::AngleOf(CheckedDivide(-s.c - s.b * CosD(second_angle), s.a),
-                            CheckedDivide(-s.f - s.e * SinD(second_angle), s.a));
-}
-
 // Squared and added: 2BC cos b + 2BF sin b + (B^2 - A^2 + C^2 + F^2) = 0. The second root comes first.
-Result SolveTwoAngles(const System& s) {
+Outcome SolveTwoAngles(const TwoEquations& s) {
     const auto roots = numeric::SolveCosSin(Finite(2 * s.c * s.b), Finite(2 * s.f * s.b),
                                             Finite(s.b * s.b - s.a * s.a + s.c * s.c + s.f * s.f));
     if (!roots)
         return text::Refusal{kNoSolution};
-    return std::vector<double>{FirstAngle(s, roots->second), roots->second, FirstAngle(s, roots->first),
-                               roots->first};
-}
-
-std::optional<Pair> SharedMagnitude(double constant, double factor, double angle) {
-    if (IsZero(factor))
-        return {};
-    return Flipped({CheckedDivide(-constant, factor), angle});
+    return TwoRoots{Root{FirstAngle(s, roots->second), roots->second},
+                    Root{FirstAngle(s, roots->first), roots->first}};
 }
 
 // Divided by each other: B F cos t - C E sin t + (A F - C D) = 0. The second root is tried with the cosine in
 // the equation of the sine: it is never the true root, and the sums of the forces reject it.
-Result SolveSharedMagnitude(const System& s) {
+Outcome SolveSharedMagnitude(const TwoEquations& s) {
     const auto roots =
         numeric::SolveCosSin(Finite(s.b * s.f), Finite(-s.c * s.e), Finite(s.a * s.f - s.c * s.d));
     if (!roots)
@@ -137,25 +124,7 @@ Result SolveSharedMagnitude(const System& s) {
     const auto second = SharedMagnitude(s.f, s.d + s.e * CosD(roots->second), roots->second);
     if (!first && !second)
         return text::Refusal{kNoSolution};
-    return Candidates(first ? *first : *second, second ? *second : *first);
-}
-
-}  // namespace
-
-Result Solve2(int kind, double a, double b, double c, double d, double e, double f) {
-    const System system = {a, b, c, d, e, f};
-    switch (kind) {
-        case kLinear:
-            return SolveLinear(system);
-        case kMagnitudeAndAngle:
-            return SolveMagnitudeAndAngle(system);
-        case kTwoAngles:
-            return SolveTwoAngles(system);
-        case kSharedMagnitude:
-            return SolveSharedMagnitude(system);
-        default:
-            return text::Refusal{kBadData};
-    }
+    return TwoRoots{first ? *first : *second, second ? *second : *first};
 }
 
 }  // namespace tavrelo::mechanics::particle
