@@ -33,11 +33,6 @@ void RequireFinite(double number) {
         std::abort();
 }
 
-void RequireFinite(const text::Value& value) {
-    if (value.HoldsNumber())
-        RequireFinite(value.Number());
-}
-
 std::vector<std::string> LinesOf(std::string_view text) {
     std::vector<std::string> lines = {""};
     for (const char each : text)
@@ -121,8 +116,10 @@ void Solve(BodyForces& forces, std::string_view suppressed) {
         RequireFinite(found.value);
     forces = WithResults(forces, results, kDecimals);
     for (const BodyForce& force : forces)
-        for (const text::Value& cell : force.force)
-            RequireFinite(cell);
+        if (force.force)
+            for (const auto& number :
+                 {force.force->force.magnitude, force.force->force.x.number, force.force->force.y.number})
+                RequireFinite(number.value_or(0));
     EquilibriumReport(bodies, *equations, results, kDecimals);
 }
 

@@ -16,8 +16,6 @@ using numeric::NearEq;
 
 constexpr double kCoefficientTolerance = 1e-8;
 constexpr std::string_view kFactorCharacters = "-.0123456789";
-constexpr std::array<std::string_view, 2> kAngleFunctions = {"cos", "sen"};
-constexpr std::size_t kAngleFunctionLength = 3;
 
 bool BeginsWithSmallF(std::string_view symbol) { return symbol.starts_with('f'); }
 
@@ -57,37 +55,8 @@ std::string WithCapital(std::string_view symbol) {
            text::ToUtf8(std::u32string_view(characters).substr(1));
 }
 
-// Where the first angle function of a text begins; npos without one.
-std::size_t AngleFunctionPosition(std::string_view text) {
-    std::size_t position = std::string_view::npos;
-    for (std::string_view function : kAngleFunctions)
-        position = std::min(position, text.find(function));
-    return position;
-}
-
 std::string SmallSubscript(const std::string& subscript) {
     return subscript == "X" || subscript == "Y" ? subscript : text::ToLower(subscript);
-}
-
-std::string PlainSymbolMarkup(std::string_view symbol) {
-    const std::string shown = BeginsWithSmallF(symbol) ? std::string(symbol) : text::ToUpper(symbol);
-    const std::u32string characters = text::ToCodePoints(shown);
-    const auto at = [&](std::size_t i) { return text::ToUtf8(characters[i]); };
-    if (characters.size() == 2)
-        return at(0) + "!" + SmallSubscript(at(1));
-    if (characters.size() == 3)
-        return at(0) + "!" + at(1) + "!" + at(2);
-    return shown;
-}
-
-std::string MarkedSymbol(std::string_view symbol) {
-    const std::size_t function = AngleFunctionPosition(symbol);
-    if (function == std::string_view::npos)
-        return PlainSymbolMarkup(symbol);
-    const std::string_view argument = symbol.substr(function + kAngleFunctionLength);
-    return PlainSymbolMarkup(text::Trim(symbol.substr(0, function))) + " " +
-           std::string(symbol.substr(function, kAngleFunctionLength)) + " " +
-           PlainSymbolMarkup(text::Trim(argument));
 }
 
 }  // namespace
@@ -115,8 +84,19 @@ std::string FactorText(double coef, std::string_view symbol, int decimals) {
     return text::RoundedText(coef, decimals) + " " + std::string(symbol);
 }
 
+std::string SymbolMarkup(std::string_view symbol) {
+    const std::string shown = BeginsWithSmallF(symbol) ? std::string(symbol) : text::ToUpper(symbol);
+    const std::u32string characters = text::ToCodePoints(shown);
+    const auto at = [&](std::size_t i) { return text::ToUtf8(characters[i]); };
+    if (characters.size() == 2)
+        return at(0) + "!" + SmallSubscript(at(1));
+    if (characters.size() == 3)
+        return at(0) + "!" + at(1) + "!" + at(2);
+    return shown;
+}
+
 std::string SymbolMarkup(double factor, std::string_view symbol, int decimals) {
-    return FactorText(std::abs(factor), MarkedSymbol(symbol), decimals);
+    return FactorText(std::abs(factor), SymbolMarkup(symbol), decimals);
 }
 
 std::string SubscriptName(std::string_view symbol) {

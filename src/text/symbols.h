@@ -26,8 +26,9 @@ bool IsSymbolName(std::string_view text);
 /// Coefficients within 1e-8 of 0, 1 and -1 count as these.
 std::string FactorText(double coef, std::string_view symbol, int decimals);
 
-/// The symbol in picture markup ("F12" is "F!1!2"), in capitals but for a leading "f" and the angle
-/// functions; a factor other than 1 stands in front by its absolute value.
+/// The symbol in picture markup ("F12" is "F!1!2"), in capitals but for a leading "f" and a single subscript.
+std::string SymbolMarkup(std::string_view symbol);
+/// The same, a factor other than 1 in front by its absolute value.
 std::string SymbolMarkup(double factor, std::string_view symbol, int decimals);
 
 /// A symbol of two or three characters in rich-text markup, its subscripts in capitals; any other stays.

@@ -1,7 +1,5 @@
 #include "mechanics/particle/particle_report.h"
 
-#include <algorithm>
-
 #include "mechanics/forces/found_forces.h"
 #include "text/number_text.h"
 #include "text/symbols.h"
@@ -39,7 +37,8 @@ Solution Finish(std::vector<notation::Force> solved, const Report& report, const
                 int decimals) {
     const auto check = forces::SumComponents(solved, start);
     std::vector<std::string> lines = ReportLines(report, check.value_or(start), decimals);
-    std::ranges::for_each(solved, forces::CompleteFoundForce);
+    for (notation::Force& force : solved)
+        forces::CompleteFoundForce(force);
     return {std::move(solved), std::move(lines)};
 }
 

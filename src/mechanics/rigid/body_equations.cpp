@@ -11,7 +11,7 @@
 namespace tavrelo::mechanics::rigid {
 namespace {
 
-using forces::UnknownTerm;
+using notation::UnknownTerm;
 using numeric::CheckedAdd;
 using numeric::CheckedMultiply;
 using numeric::CheckedSubtract;
@@ -41,37 +41,36 @@ void AddTerm(BodyEquation& sum, double coef, const UnknownTerm& unknown) {
 void AddConstant(BodyEquation& sum, double value) { sum.constant = CheckedAdd(sum.constant, value); }
 
 // Adds a component times `arm`: 1 in its own sum, the lever in the sum of moments.
-void AddComponent(BodyEquation& sum, double arm, const forces::ForceRow& force,
-                  const forces::ComponentColumns& columns) {
-    const std::string unknown = force[columns.unknown].Text();
-    if (unknown.empty())
-        AddConstant(sum, CheckedMultiply(arm, force[columns.component].Number()));
+void AddComponent(BodyEquation& sum, double arm, const notation::ForceComponent& component) {
+    if (component.unknown.IsNone())
+        AddConstant(sum, CheckedMultiply(arm, component.number.value_or(0)));
     else
-        AddTerm(sum, CheckedMultiply(arm, force[columns.coefficient].Number()), forces::ReadUnknown(unknown));
+        AddTerm(sum, CheckedMultiply(arm, component.coefficient), component.unknown);
 }
 
 void AddCouple(BodyEquation& moments, const Couple& couple) {
     if (couple.IsKnown())
         AddConstant(moments, *couple.value);
     else
-        AddTerm(moments, couple.sign, {couple.symbol, forces::AngleFunction::None, {}});
+        AddTerm(moments, couple.sign, {couple.symbol, notation::AngleFunction::None, {}});
 }
 
 // The moment of a force is rx Fy - ry Fx.
-void AddForceMoment(BodyEquation& moments, const ChosenBody& body, const BodyForce& row) {
-    AddComponent(moments, CheckedSubtract(body.y0, row.y), row.force, forces::kXColumns);
-    AddComponent(moments, CheckedSubtract(row.x, body.x0), row.force, forces::kYColumns);
+void AddForceMoment(BodyEquation& moments, const ChosenBody& body, const BodyForce& row,
+                    const notation::Force& force) {
+    AddComponent(moments, CheckedSubtract(body.y0, row.y), force.x);
+    AddComponent(moments, CheckedSubtract(row.x, body.x0), force.y);
 }
 
 void AddRow(BodySums& sums, const ChosenBody& body, const BodyForce& row) {
-    if (row.HasForce()) {
-        AddComponent(sums.x, 1, row.force, forces::kXColumns);
-        AddComponent(sums.y, 1, row.force, forces::kYColumns);
+    if (row.force) {
+        AddComponent(sums.x, 1, row.force->force.x);
+        AddComponent(sums.y, 1, row.force->force.y);
     }
     if (body.is_particle)
         return;
-    if (row.HasForce())
-        AddForceMoment(sums.m, body, row);
+    if (row.force)
+        AddForceMoment(sums.m, body, row, row.force->force);
     if (row.couple)
         AddCouple(sums.m, *row.couple);
 }

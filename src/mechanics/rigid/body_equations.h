@@ -7,8 +7,8 @@
 #include <variant>
 #include <vector>
 
-#include "mechanics/forces/unknowns.h"
 #include "mechanics/rigid/body_force.h"
+#include "notation/unknown_term.h"
 
 namespace tavrelo::mechanics::rigid {
 
@@ -28,7 +28,7 @@ struct ChosenBody {
 /// A coefficient and the unknown that it multiplies, as the first force that holds it writes it.
 struct BodyTerm {
     double coef;
-    forces::UnknownTerm unknown;
+    notation::UnknownTerm unknown;
 };
 
 /// A sum equal to zero. An empty one still counts as an equation.

@@ -89,10 +89,10 @@ std::optional<text::Refusal> SetCouple(BodyForce& row, const std::string& text) 
 }
 
 std::optional<text::Refusal> SetForce(BodyForce& row, const std::string& text, int decimals) {
-    const auto parsed = notation::ParseForce(text, decimals);
+    auto parsed = notation::ParseForce(text, decimals);
     if (const auto* refusal = std::get_if<text::Refusal>(&parsed))
         return *refusal;
-    row.force = forces::RowOf(std::get<notation::ForceRecord>(parsed));
+    row.force = std::get<notation::ForceRecord>(std::move(parsed));
     return {};
 }
 

@@ -6,8 +6,8 @@
 #include <variant>
 #include <vector>
 
-#include "mechanics/forces/force_table.h"
 #include "mechanics/rigid/structure.h"
+#include "notation/force_record.h"
 
 namespace tavrelo::mechanics::rigid {
 
@@ -24,15 +24,14 @@ struct Couple {
 
 /// One force, couple or both on a point of a body.
 struct BodyForce {
-    forces::ForceRow force;  // of a couple alone: all columns empty
-    int body = 1;            // system 1 to 5
+    std::optional<notation::ForceRecord> force;  // nothing for a couple alone
+    int body = 1;                                // system 1 to 5
     std::string point;
     double x = 0;  // of the point of application, from the origin
     double y = 0;
     std::string text;  // as typed
     std::optional<Couple> couple;
 
-    bool HasForce() const { return !force[forces::GivenText].IsEmpty(); }
     friend bool operator==(const BodyForce&, const BodyForce&) = default;
 };
 using BodyForces = std::vector<BodyForce>;

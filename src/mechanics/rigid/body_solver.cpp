@@ -5,10 +5,10 @@
 #include <string_view>
 #include <utility>
 
-#include "mechanics/forces/substitution.h"
-#include "mechanics/forces/unknowns.h"
+#include "mechanics/forces/found_forces.h"
 #include "mechanics/rigid/equilibrium_check.h"
 #include "mechanics/rigid/unknown_angle.h"
+#include "notation/unknown_term.h"
 #include "numeric/checked.h"
 #include "numeric/linear_systems.h"
 #include "text/number_text.h"
@@ -56,6 +56,12 @@ BodyOutcome SolveLinearEquations(const BodyEquations& system) {
     return results;
 }
 
+void UpdateForce(notation::ForceRecord& force, const BodyResults& results, int decimals) {
+    forces::PutFoundValues(force.force,
+                           [&](const notation::UnknownTerm& unknown) { return FactorOf(results, unknown); });
+    forces::CompleteFoundForce(force, decimals);
+}
+
 void UpdateCouple(Couple& couple, const BodyResults& results) {
     if (couple.IsKnown())
         return;
@@ -73,9 +79,8 @@ BodyOutcome SolveEquations(const BodyEquations& equations, std::size_t bodies) {
 
 BodyForces WithResults(BodyForces forces, const BodyResults& results, int decimals) {
     for (BodyForce& row : forces) {
-        forces::Substitute(
-            row.force, [&](const std::string& text) { return FactorOf(results, forces::ReadUnknown(text)); });
-        forces::MarkSolved(row.force, decimals);
+        if (row.force)
+            UpdateForce(*row.force, results, decimals);
         if (row.couple)
             UpdateCouple(*row.couple, results);
     }

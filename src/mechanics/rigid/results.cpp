@@ -13,14 +13,14 @@ std::optional<double> ValueOf(const BodyResults& results, std::string_view name,
     return {};
 }
 
-std::optional<double> FactorOf(const BodyResults& results, const forces::UnknownTerm& unknown) {
+std::optional<double> FactorOf(const BodyResults& results, const notation::UnknownTerm& unknown) {
     if (!unknown.HasAngle())
         return ValueOf(results, unknown.magnitude, false);
     const auto magnitude = unknown.HasBoth() ? ValueOf(results, unknown.magnitude, false) : 1.0;
     const auto angle = ValueOf(results, unknown.angle, true);
     if (!magnitude || !angle)
         return {};
-    const bool is_cos = unknown.function == forces::AngleFunction::Cos;
+    const bool is_cos = unknown.function == notation::AngleFunction::Cos;
     return numeric::CheckedMultiply(*magnitude, is_cos ? numeric::CosD(*angle) : numeric::SinD(*angle));
 }
 

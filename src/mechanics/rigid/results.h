@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "mechanics/forces/unknowns.h"
+#include "notation/unknown_term.h"
 
 namespace tavrelo::mechanics::rigid {
 
@@ -22,6 +22,6 @@ std::optional<double> ValueOf(const BodyResults& results, std::string_view name,
 
 /// What the coefficient of an unknown is to be multiplied by; nothing while a part of it is unknown. Fails
 /// with Overflow.
-std::optional<double> FactorOf(const BodyResults& results, const forces::UnknownTerm& unknown);
+std::optional<double> FactorOf(const BodyResults& results, const notation::UnknownTerm& unknown);
 
 }  // namespace tavrelo::mechanics::rigid

@@ -132,11 +132,11 @@ std::optional<std::string> MagnitudeAtAngle(const BodyEquations& equations) {
     return magnitude;
 }
 
-Column& ColumnOf(Rows& rows, const forces::UnknownTerm& unknown, const std::string& first) {
+Column& ColumnOf(Rows& rows, const notation::UnknownTerm& unknown, const std::string& first) {
     switch (unknown.function) {
-        case forces::AngleFunction::Cos:
+        case notation::AngleFunction::Cos:
             return rows.cosine;
-        case forces::AngleFunction::Sen:
+        case notation::AngleFunction::Sen:
             return rows.sine;
         default:
             return text::SameSymbol(unknown.magnitude, first) ? rows.first : rows.second;

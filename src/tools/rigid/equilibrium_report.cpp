@@ -1,6 +1,6 @@
 #include "tools/rigid/equilibrium_report.h"
 
-#include "mechanics/forces/equation_text.h"
+#include "mechanics/forces/sum_equation.h"
 #include "text/markup.h"
 #include "text/number_text.h"
 #include "text/symbols.h"
@@ -19,10 +19,9 @@ using mechanics::rigid::FoundUnknown;
 std::string Heading(const std::string& text) { return "\\0100" + text + "\\"; }
 
 // The name as the diagrams show it. One that holds marks of the markup itself stays as it was typed.
-std::string NameMarkup(const mechanics::forces::UnknownTerm& unknown, int decimals) {
-    const std::string name = TextOf(unknown);
+std::string NameMarkup(const std::string& name) {
     const std::string escaped = text::EscapeMarks(name);
-    return escaped == name ? text::Trim(text::SymbolMarkup(1, name, decimals)) : escaped;
+    return escaped == name ? text::SymbolMarkup(name) : escaped;
 }
 
 Lines Opening(const BodyEquations& equations) {
@@ -59,10 +58,10 @@ std::string ResultLine(const BodyResults& results, int decimals) {
 }  // namespace
 
 std::string EquationLine(const BodyEquation& equation, int decimals) {
-    mechanics::forces::Equation shown = {{}, equation.constant};
+    mechanics::forces::SumEquation shown = {{}, equation.constant};
     for (const BodyTerm& term : equation.terms)
-        shown.terms.push_back({term.coef, NameMarkup(term.unknown, decimals)});
-    const std::string text = mechanics::forces::EquationText(shown, decimals);
+        shown.terms.push_back({term.coef, term.unknown});
+    const std::string text = mechanics::forces::EquationMarkup(shown, NameMarkup, decimals);
     return std::string(LetterOf(equation.sum)) + (text.starts_with(' ') ? ":" : ": ") + text;
 }
 

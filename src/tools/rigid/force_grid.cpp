@@ -9,7 +9,6 @@
 namespace tavrelo::tools::rigid {
 namespace {
 
-namespace forces = mechanics::forces;
 using mechanics::rigid::BodyForce;
 
 /// In the order of the columns.
@@ -19,17 +18,13 @@ constexpr window::GridColumn kColumns[] = {
     {"Fx", 900}, {"Fy", 900},   {"Mom.", 900},
 };
 
-std::optional<double> NumberIn(const text::Value& cell) {
-    return text::IsNum(cell) ? std::optional(cell.Number()) : std::nullopt;
-}
-
 }  // namespace
 
 void ArrangeForces(window::Grid& grid) { window::ArrangeColumns(grid, kColumns); }
 
 void AddForceRow(window::Grid& grid, const BodyForce& force) {
     grid.AddRow({std::to_string(grid.Rows()), std::to_string(force.body), force.point, force.text,
-                 force.force[forces::XText].Text(), force.force[forces::YText].Text(),
+                 force.force ? force.force->x_text : "", force.force ? force.force->y_text : "",
                  force.couple ? force.couple->text : ""});
 }
 
@@ -41,8 +36,10 @@ void ShowKnownValues(window::Grid& grid, const mechanics::rigid::BodyForces& for
     };
     for (const BodyForce& force : forces) {
         ++row;
-        show(kXComponent, NumberIn(force.force[forces::XComponent]));
-        show(kYComponent, NumberIn(force.force[forces::YComponent]));
+        if (force.force) {
+            show(kXComponent, force.force->force.x.number);
+            show(kYComponent, force.force->force.y.number);
+        }
         if (force.couple)
             show(kCouple, force.couple->value);
     }

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <iterator>
 
-#include "mechanics/forces/unknowns.h"
+#include "drawing/force_color.h"
 #include "notation/clock_direction.h"
 #include "notation/vector_format.h"
 #include "numeric/angles.h"
@@ -16,15 +15,14 @@
 namespace tavrelo::tools::rigid {
 namespace {
 
-namespace forces = mechanics::forces;
 using mechanics::rigid::BodyForce;
 using mechanics::rigid::Couple;
+using notation::Force;
+using notation::ForceRecord;
 using text::Color;
 using window::Point;
 
 constexpr double kNoComponent = 1e-8;  // largest component that is not drawn
-constexpr Color kKnownColor = text::kBlack;
-constexpr Color kUnknownColor = text::Rgb(255, 0, 0);
 
 /// An arrow that a row asks for.
 struct ForceArrow {
@@ -33,75 +31,69 @@ struct ForceArrow {
     std::string label;
 };
 
-Color ColorOf(int colour) { return text::FromBgr(static_cast<std::uint32_t>(colour)); }
-
 std::string SizeText(double number, int decimals) { return text::RoundedText(std::abs(number), decimals); }
-
-bool Leaves(const forces::ForceRow& row) { return row[forces::LeavesPoint].Number() != forces::kArrives; }
 
 std::string WithoutSign(const std::string& text) { return text.starts_with('-') ? text.substr(1) : text; }
 
 /// The arrow along one axis of a force that is drawn by its components; its label carries no sign, so the
 /// arrow does.
 struct ComponentArrow {
-    const forces::ComponentColumns& columns;
+    notation::ForceComponent Force::*component;
     int positive_hour;
 };
-constexpr ComponentArrow kComponentArrows[] = {{forces::kXColumns, notation::kHourRight},
-                                               {forces::kYColumns, notation::kHourUp}};
+constexpr ComponentArrow kComponentArrows[] = {{&Force::x, notation::kHourRight},
+                                               {&Force::y, notation::kHourUp}};
 
-void AddComponent(std::vector<ForceArrow>& arrows, const forces::ForceRow& row, const ComponentArrow& axis,
-                  int decimals) {
-    const text::Value& component = row[axis.columns.component];
-    const std::string unknown = row[axis.columns.unknown].Text();
-    const bool is_known = text::IsNum(component);
-    const double number = (is_known ? component : row[axis.columns.coefficient]).Number();
-    if (is_known && numeric::NearEq(number, 0, kNoComponent))
-        return;
-    const int known_colour = unknown.empty() ? forces::kKnown : forces::kSolved;
-    arrows.push_back(
-        {{number < 0 ? notation::OppositeHour(axis.positive_hour) : axis.positive_hour, 0, Leaves(row)},
-         ColorOf(is_known ? known_colour : forces::kUnknown),
-         is_known ? SizeText(number, decimals) : text::SymbolMarkup(number, unknown, decimals)});
+Color ColorOf(const notation::ForceComponent& component) {
+    if (!component.number)
+        return drawing::kUnknownColor;
+    return component.unknown.IsNone() ? drawing::kGivenColor : drawing::kFoundColor;
 }
 
-bool HasUnknownDirection(const forces::ForceRow& row) {
-    return forces::ReadUnknown(row[forces::XUnknown].Text()).HasAngle();
+void AddComponent(std::vector<ForceArrow>& arrows, const ForceRecord& record, const ComponentArrow& axis,
+                  int decimals) {
+    const notation::ForceComponent& component = record.force.*axis.component;
+    const double number = component.number.value_or(component.coefficient);
+    if (component.number && numeric::NearEq(number, 0, kNoComponent))
+        return;
+    const int hour = number < 0 ? notation::OppositeHour(axis.positive_hour) : axis.positive_hour;
+    arrows.push_back({{hour, 0, record.leaves},
+                      ColorOf(component),
+                      component.number ? SizeText(number, decimals)
+                                       : text::SymbolMarkup(number, component.unknown.magnitude, decimals)});
 }
 
 /// A force given by components shows these while one of them is unknown.
-bool IsDrawnByComponents(const forces::ForceRow& row) {
-    const bool is_known = text::IsNum(row[forces::XComponent]) && text::IsNum(row[forces::YComponent]);
-    const bool has_components = row[forces::FormatCode].Text() == notation::kComponents;
-    return !is_known && !HasUnknownDirection(row) && (has_components || !text::IsNum(row[forces::Hour]));
+bool IsDrawnByComponents(const ForceRecord& record) {
+    return !record.force.HasComponents() && !record.force.x.unknown.HasAngle() &&
+           (record.code == notation::kComponents || !record.clock);
 }
 
 /// The clock reading of a force; of the direction that the user wants, or of the default one, while its own
 /// is unknown.
-numeric::ClockReading ReadingOf(const forces::ForceRow& row, std::optional<double> wanted) {
-    if (text::IsNum(row[forces::Hour]))
-        return {static_cast<int>(row[forces::Hour].Number()), row[forces::ClockAngle].Number()};
-    const double direction = wanted.value_or(forces::kDefaultDrawDirection);
+numeric::ClockReading ReadingOf(const ForceRecord& record, std::optional<double> wanted) {
+    if (record.clock)
+        return *record.clock;
+    const double direction = wanted.value_or(kDefaultDrawDirection);
     return numeric::ClockOf(numeric::CosD(direction), numeric::SinD(direction));
 }
 
-ForceArrow WholeArrow(const forces::ForceRow& row, std::optional<double> wanted, int decimals) {
-    const bool is_known = text::IsNum(row[forces::Magnitude]);
-    numeric::ClockReading reading = ReadingOf(row, wanted);
-    if (is_known && row[forces::Magnitude].Number() < 0)
+ForceArrow WholeArrow(const ForceRecord& record, std::optional<double> wanted, int decimals) {
+    const std::optional<double>& magnitude = record.force.magnitude;
+    numeric::ClockReading reading = ReadingOf(record, wanted);
+    if (magnitude && *magnitude < 0)
         reading.hour = notation::OppositeHour(reading.hour);
-    return {{reading.hour, reading.angle, Leaves(row)},
-            ColorOf(static_cast<int>(row[forces::Colour].Number())),
-            is_known ? SizeText(row[forces::Magnitude].Number(), decimals)
-                     : WithoutSign(row[forces::ShownMagnitude].Text())};
+    return {{reading.hour, reading.angle, record.leaves},
+            drawing::ColorOf(record.force.knowledge),
+            magnitude ? SizeText(*magnitude, decimals) : WithoutSign(record.label)};
 }
 
-std::vector<ForceArrow> ArrowsOf(const forces::ForceRow& row, std::optional<double> wanted, int decimals) {
+std::vector<ForceArrow> ArrowsOf(const ForceRecord& record, std::optional<double> wanted, int decimals) {
     std::vector<ForceArrow> arrows;
-    if (!IsDrawnByComponents(row))
-        return {WholeArrow(row, wanted, decimals)};
+    if (!IsDrawnByComponents(record))
+        return {WholeArrow(record, wanted, decimals)};
     for (const ComponentArrow& axis : kComponentArrows)
-        AddComponent(arrows, row, axis, decimals);
+        AddComponent(arrows, record, axis, decimals);
     return arrows;
 }
 
@@ -134,21 +126,23 @@ using RowLabels = std::vector<WantedLabel>;
 
 RowLabels AddForce(DiagramLayout& layout, const SeenForce& force, int decimals) {
     RowLabels labels;
-    if (force.row.HasForce())
-        for (const ForceArrow& arrow : ArrowsOf(force.row.force, force.wanted, decimals))
+    if (force.row.force)
+        for (const ForceArrow& arrow : ArrowsOf(*force.row.force, force.wanted, decimals))
             labels.push_back(
                 {arrow.label, layout.AddForce(force.place, arrow.sense, arrow.color), arrow.color});
     return labels;
 }
 
 WantedLabel AddCouple(DiagramLayout& layout, Point place, const Couple& couple, int decimals) {
-    const Color color = couple.IsKnown() ? kKnownColor : kUnknownColor;
+    const Color color = couple.IsKnown() ? drawing::kGivenColor : drawing::kUnknownColor;
     return {LabelOf(couple, decimals), layout.AddCouple(place, IsCounterclockwise(couple), color), color};
 }
 
 }  // namespace
 
-bool NeedsDrawDirection(const BodyForce& force) { return HasUnknownDirection(force.force); }
+bool NeedsDrawDirection(const BodyForce& force) {
+    return force.force && force.force->force.x.unknown.HasAngle();
+}
 
 void AddForces(DiagramLayout& layout, const RigidScene& scene, const PointPlaces& places) {
     const std::vector<SeenForce> seen = ForcesInView(scene, places);

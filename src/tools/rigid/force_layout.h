@@ -4,6 +4,9 @@
 
 namespace tavrelo::tools::rigid {
 
+/// Direction in degrees in which an unknown one is drawn when the user tells none.
+inline constexpr double kDefaultDrawDirection = 45;
+
 /// Whether the force is to be drawn in a direction that only the user knows.
 bool NeedsDrawDirection(const mechanics::rigid::BodyForce& force);
 

@@ -18,9 +18,9 @@ constexpr const char* kDirectionQuestion = "¿A qué ángulo deseas trazar esta 
 /// The direction that the user answered with; the default one for an answer that is no number.
 double DirectionOf(const std::optional<std::string>& answer) {
     if (!answer || !text::IsNum(*answer))
-        return mechanics::forces::kDefaultDrawDirection;
+        return kDefaultDrawDirection;
     const text::LiteralReading reading = text::ReadLiteral(*answer);
-    return reading.failure ? mechanics::forces::kDefaultDrawDirection : reading.value;
+    return reading.failure ? kDefaultDrawDirection : reading.value;
 }
 
 }  // namespace

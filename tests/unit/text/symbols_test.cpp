@@ -93,15 +93,6 @@ TEST(SymbolMarkup, WritesTheFactorByItsAbsoluteValue) {
         EXPECT_EQ(SymbolMarkup(row.factor, row.symbol, kDecimals), row.markup) << row.factor << row.symbol;
 }
 
-TEST(SymbolMarkup, TreatsBothSidesOfAnAngleFunction) {
-    const MarkupRow rows[] = {
-        {1, "cos A1", " cos A!1"},    {1, "sen a1", " sen A!1"},    {1, "F1 cos A1", "F!1 cos A!1"},
-        {1, "T sen Ab", "T sen A!b"}, {1, "f cos f1", "f cos f!1"}, {1, "cos Alfa", " cos ALFA"},
-    };
-    for (const MarkupRow& row : rows)
-        EXPECT_EQ(SymbolMarkup(row.factor, row.symbol, kDecimals), row.markup) << row.symbol;
-}
-
 TEST(SubscriptName, MarksTwoAndThreeCharacters) {
     const std::pair<const char*, const char*> rows[] = {
         {"F", "F"},       {"F1", "F!1"}, {"Ab", "A!B"}, {"T12", "T!1!2"},   {"fab", "f!A!B"},

@@ -24,8 +24,8 @@ BodyEquations BuiltOfBody1(const BodyForces& forces, std::string_view suppressed
 }
 
 // "cos Q", "2 F", "- F cos Q": a sign only where the term is negative.
-std::string TermOf(double coef, const forces::UnknownTerm& unknown) {
-    const char* function = unknown.function == forces::AngleFunction::Cos ? "cos" : "sen";
+std::string TermOf(double coef, const notation::UnknownTerm& unknown) {
+    const char* function = unknown.function == notation::AngleFunction::Cos ? "cos" : "sen";
     std::string text = text::RoundedText(std::abs(coef), kDecimals);
     if (text == "1")
         text.clear();

@@ -4,12 +4,11 @@
 
 #include <span>
 
+#include "notation/force_parser.h"
 #include "numeric/checked.h"
 
 namespace tavrelo::mechanics::rigid {
 namespace {
-
-using text::Value;
 
 constexpr int kDecimals = 3;
 constexpr double kTolerance = 1e-9;
@@ -26,7 +25,7 @@ std::string Negated(std::string_view text) { return std::get<std::string>(Negate
 
 struct ReadRow {
     const char* text;
-    Value force;  // the text that the parser was given
+    const char* force;  // the text that the parser was given; null for a couple alone
     std::optional<Couple> couple;
 };
 
@@ -47,8 +46,8 @@ TEST(ReadBodyForce, PartsForceAndCouple) {
     };
     for (const ReadRow& row : table) {
         const BodyForce force = Force(row.text);
-        EXPECT_EQ(force.force[mechanics::forces::GivenText], row.force) << row.text;
-        EXPECT_TRUE(force.HasForce()) << row.text;
+        ASSERT_TRUE(force.force) << row.text;
+        EXPECT_EQ(force.force->given_text, row.force) << row.text;
         EXPECT_EQ(force.couple, row.couple) << row.text;
         EXPECT_EQ(force.text, row.text);
     }
@@ -56,27 +55,26 @@ TEST(ReadBodyForce, PartsForceAndCouple) {
 
 TEST(ReadBodyForce, TakesATextWithoutTheMarksOfAForceForACouple) {
     const ReadRow table[] = {
-        {"250", {}, Known("250", 250)},
-        {" -12.5 ", {}, Known("-12.5", -12.5)},
-        {"0", {}, Known("0", 0)},
-        {"1E+3", {}, Known("1E+3", 1000)},
-        {"MA", {}, Unknown("MA", "MA")},
-        {"ma", {}, Unknown("ma", "MA")},
-        {"-m1", {}, Unknown("-m1", "M1", -1)},
-        {"- m1", {}, Unknown("- m1", "M1", -1)},
-        {"xyz", {}, Unknown("xyz", "XYZ")},
-        {"MABCD", {}, Unknown("MABCD", "MABCD")},
-        {"H5", {}, Unknown("H5", "H5")},
-        {"PER", {}, Unknown("PER", "PER")},
-        {"ñ", {}, Unknown("ñ", "Ñ")},
-        {"250/", {}, Known("250", 250)},
-        {"/50", {}, Known("50", 50)},
-        {"/h5", {}, Unknown("h5", "H5")},
+        {"250", nullptr, Known("250", 250)},
+        {" -12.5 ", nullptr, Known("-12.5", -12.5)},
+        {"0", nullptr, Known("0", 0)},
+        {"1E+3", nullptr, Known("1E+3", 1000)},
+        {"MA", nullptr, Unknown("MA", "MA")},
+        {"ma", nullptr, Unknown("ma", "MA")},
+        {"-m1", nullptr, Unknown("-m1", "M1", -1)},
+        {"- m1", nullptr, Unknown("- m1", "M1", -1)},
+        {"xyz", nullptr, Unknown("xyz", "XYZ")},
+        {"MABCD", nullptr, Unknown("MABCD", "MABCD")},
+        {"H5", nullptr, Unknown("H5", "H5")},
+        {"PER", nullptr, Unknown("PER", "PER")},
+        {"ñ", nullptr, Unknown("ñ", "Ñ")},
+        {"250/", nullptr, Known("250", 250)},
+        {"/50", nullptr, Known("50", 50)},
+        {"/h5", nullptr, Unknown("h5", "H5")},
     };
     for (const ReadRow& row : table) {
         const BodyForce force = Force(row.text);
-        EXPECT_FALSE(force.HasForce()) << row.text;
-        EXPECT_EQ(force.force, mechanics::forces::ForceRow{}) << row.text;
+        EXPECT_FALSE(force.force) << row.text;
         EXPECT_EQ(force.couple, row.couple) << row.text;
         EXPECT_EQ(force.text, row.text);
     }
@@ -92,13 +90,9 @@ TEST(ReadBodyForce, StandsOnItsBodyAndPoint) {
     }
 }
 
-TEST(ReadBodyForce, HasTheColumnsOfTheParsedForce) {
-    const BodyForce force = Force("h-2F:/250");
-    EXPECT_EQ(force.force[mechanics::forces::XCoefficient], Value(-2.0));
-    EXPECT_EQ(force.force[mechanics::forces::XUnknown], Value("F"));
-    EXPECT_EQ(force.force[mechanics::forces::YComponent], Value(0.0));
-    EXPECT_EQ(force.force[mechanics::forces::LeavesPoint], Value(mechanics::forces::kArrives));
-    EXPECT_EQ(force.force[mechanics::forces::Colour], Value(mechanics::forces::kUnknown));
+TEST(ReadBodyForce, HoldsTheForceThatWasRead) {
+    EXPECT_EQ(Force("h-2F:/250").force,
+              std::get<notation::ForceRecord>(notation::ParseForce("h-2F:", kDecimals)));
 }
 
 struct RefusedText {
@@ -242,25 +236,23 @@ const std::vector<std::string>& AllTexts() {
     return texts;
 }
 
-void ExpectSameCell(const Value& got, const Value& expected, double sign, const std::string& text) {
-    if (expected.HoldsNumber())
-        EXPECT_NEAR(got.Number(), sign * expected.Number(), kTolerance) << text;
-    else
-        EXPECT_EQ(got, expected) << text;
+void ExpectComponent(const notation::ForceComponent& got, const notation::ForceComponent& expected,
+                     double sign, const std::string& text) {
+    ASSERT_EQ(got.number.has_value(), expected.number.has_value()) << text;
+    EXPECT_NEAR(got.number.value_or(0), sign * expected.number.value_or(0), kTolerance) << text;
+    EXPECT_NEAR(got.coefficient, sign * expected.coefficient, kTolerance) << text;
+    EXPECT_EQ(got.unknown, expected.unknown) << text;
 }
 
 // Components of `got` are `sign` times those of `expected`, unknown by unknown; it acts in the same way.
 void ExpectForce(const BodyForce& got, const BodyForce& expected, double sign, const std::string& text) {
-    for (const mechanics::forces::ComponentColumns& axis :
-         {mechanics::forces::kXColumns, mechanics::forces::kYColumns}) {
-        ExpectSameCell(got.force[axis.component], expected.force[axis.component], sign, text);
-        ExpectSameCell(got.force[axis.coefficient], expected.force[axis.coefficient], sign, text);
-        EXPECT_EQ(got.force[axis.unknown], expected.force[axis.unknown]) << text;
-    }
-    EXPECT_EQ(got.force[mechanics::forces::LeavesPoint], expected.force[mechanics::forces::LeavesPoint])
-        << text;
-    EXPECT_EQ(got.force[mechanics::forces::FormatCode], expected.force[mechanics::forces::FormatCode])
-        << text;
+    ASSERT_EQ(got.force.has_value(), expected.force.has_value()) << text;
+    if (!got.force)
+        return;
+    ExpectComponent(got.force->force.x, expected.force->force.x, sign, text);
+    ExpectComponent(got.force->force.y, expected.force->force.y, sign, text);
+    EXPECT_EQ(got.force->leaves, expected.force->leaves) << text;
+    EXPECT_EQ(got.force->code, expected.force->code) << text;
 }
 
 TEST(NegateForceText, GivesTheOppositeForce) {

@@ -16,7 +16,6 @@ namespace tavrelo::mechanics::rigid {
 namespace {
 
 using tavrelo::testing::FailureOf;
-using text::Value;
 
 constexpr double kTolerance = 1e-9;
 constexpr double kResidual = 1e-6;
@@ -372,21 +371,22 @@ TEST(SolveEquations, FailsOnResultsPastTheRangeOfNumbers) {
 TEST(WithResults, RewritesAForceThatBecomesKnown) {
     BodyForces forces = {RowAt(4, 0, "s30x,2F")};
     forces = WithResults(forces, {{"f", 7}, {"F", -10}}, 2);
-    const BodyForce& row = forces[0];
+    const notation::ForceRecord record = forces[0].force.value();
+    const notation::Force& force = record.force;
     // 20 at 150 degrees, pushed: 20 at -30.
-    EXPECT_NEAR(row.force[mechanics::forces::XComponent].Number(), 10 * std::sqrt(3), kTolerance);
-    EXPECT_NEAR(row.force[mechanics::forces::YComponent].Number(), -10, kTolerance);
-    EXPECT_NEAR(row.force[mechanics::forces::Magnitude].Number(), 20, kTolerance);
-    EXPECT_NEAR(row.force[mechanics::forces::Direction].Number(), -30, kTolerance);
-    EXPECT_EQ(row.force[mechanics::forces::Hour], Value(4));
-    EXPECT_NEAR(row.force[mechanics::forces::ClockAngle].Number(), 30, kTolerance);
-    EXPECT_EQ(row.force[mechanics::forces::XUnknown], Value(""));
-    EXPECT_EQ(row.force[mechanics::forces::YUnknown], Value(""));
-    EXPECT_EQ(row.force[mechanics::forces::XText], Value("17.32"));
-    EXPECT_EQ(row.force[mechanics::forces::YText], Value("-10"));
-    EXPECT_EQ(row.force[mechanics::forces::Colour], Value(mechanics::forces::kSolved));
-    EXPECT_EQ(row.force[mechanics::forces::GivenText], Value("s30x,2F"));
-    EXPECT_EQ(row.text, "s30x,2F");
+    EXPECT_NEAR(force.x.number.value(), 10 * std::sqrt(3), kTolerance);
+    EXPECT_NEAR(force.y.number.value(), -10, kTolerance);
+    EXPECT_NEAR(force.magnitude.value(), 20, kTolerance);
+    EXPECT_NEAR(force.direction.value(), -30, kTolerance);
+    EXPECT_EQ(record.clock.value().hour, 4);
+    EXPECT_NEAR(record.clock.value().angle, 30, kTolerance);
+    EXPECT_TRUE(force.x.unknown.IsNone());
+    EXPECT_TRUE(force.y.unknown.IsNone());
+    EXPECT_EQ(record.x_text, "17.32");
+    EXPECT_EQ(record.y_text, "-10");
+    EXPECT_EQ(force.knowledge, notation::Knowledge::Found);
+    EXPECT_EQ(record.given_text, "s30x,2F");
+    EXPECT_EQ(forces[0].text, "s30x,2F");
 }
 
 TEST(WithResults, PutsValuesWhereverTheirSymbolsStand) {
@@ -401,28 +401,26 @@ TEST(WithResults, PutsValuesWhereverTheirSymbolsStand) {
     const double q = std::asin(0.6) * 180 / std::numbers::pi;
     for (const Row& row : rows) {
         BodyForces forces = {RowAt(0, 0, row.text, 3)};
-        const bool was_known = forces[0].force[mechanics::forces::Colour] == Value(mechanics::forces::kKnown);
-        forces[0].force[mechanics::forces::DrawDirection] = 45;
+        const bool was_given = forces[0].force->force.knowledge == notation::Knowledge::Given;
         forces =
             WithResults(forces, {{"F", 30}, {"f1", 20}, {"F1", 20}, {"Q", q, true}, {"Q", 999}}, kDecimals);
-        EXPECT_NEAR(forces[0].force[mechanics::forces::XComponent].Number(), row.x, kTolerance) << row.text;
-        EXPECT_NEAR(forces[0].force[mechanics::forces::YComponent].Number(), row.y, kTolerance) << row.text;
-        EXPECT_EQ(forces[0].force[mechanics::forces::Colour],
-                  Value(was_known ? mechanics::forces::kKnown : mechanics::forces::kSolved))
+        const notation::Force& force = forces[0].force->force;
+        EXPECT_NEAR(force.x.number.value(), row.x, kTolerance) << row.text;
+        EXPECT_NEAR(force.y.number.value(), row.y, kTolerance) << row.text;
+        EXPECT_EQ(force.knowledge, was_given ? notation::Knowledge::Given : notation::Knowledge::Found)
             << row.text;
-        EXPECT_TRUE(forces[0].force[mechanics::forces::DrawDirection].IsEmpty()) << row.text;
     }
 }
 
 TEST(WithResults, KeepsWhatIsStillUnknown) {
     BodyForces forces = {RowAt(0, 0, "F,G"), RowAt(0, 0, "F<A"), RowAt(0, 0, "hf"), RowAt(0, 0, "20<F")};
     forces = WithResults(forces, {{"F", 30}}, kDecimals);
-    EXPECT_EQ(forces[0].force[mechanics::forces::XComponent], Value(30));
-    EXPECT_EQ(forces[0].force[mechanics::forces::YComponent], Value(""));
+    EXPECT_EQ(forces[0].force->force.x.number, 30);
+    EXPECT_FALSE(forces[0].force->force.y.number);
     for (const BodyForce& row : forces)
-        EXPECT_EQ(row.force[mechanics::forces::Colour], Value(mechanics::forces::kUnknown)) << row.text;
+        EXPECT_EQ(row.force->force.knowledge, notation::Knowledge::Unknown) << row.text;
     for (std::size_t i = 1; i < forces.size(); ++i)
-        EXPECT_EQ(forces[i].force[mechanics::forces::XComponent], Value("")) << forces[i].text;
+        EXPECT_FALSE(forces[i].force->force.x.number) << forces[i].text;
 }
 
 TEST(WithResults, GivesACoupleItsValue) {
@@ -435,7 +433,7 @@ TEST(WithResults, GivesACoupleItsValue) {
     };
     for (const Row& row : rows) {
         BodyForces forces = {RowAt(0, 0, row.text)};
-        const mechanics::forces::ForceRow force = forces[0].force;
+        const std::optional<notation::ForceRecord> force = forces[0].force;
         const Couple typed = forces[0].couple.value();
         forces = WithResults(forces, {{"MA", 250}, {"Q", 30, true}}, kDecimals);
         EXPECT_EQ(forces[0].couple->value, row.value) << row.text;
@@ -493,9 +491,9 @@ Wrench TotalOf(const BodyForces& forces, int body) {
     Wrench total;
     for (const BodyForce& row : forces)
         if (row.body == body) {
-            if (row.HasForce())
-                total = total + At({row.x, row.y}, row.force[mechanics::forces::XComponent].Number(),
-                                   row.force[mechanics::forces::YComponent].Number());
+            if (row.force)
+                total = total + At({row.x, row.y}, row.force->force.x.number.value(),
+                                   row.force->force.y.number.value());
             if (row.couple)
                 total.m += row.couple->value.value();
         }
@@ -542,8 +540,7 @@ TEST(BodyPhysics, TwoBodiesJoinedByAPinStandStillWithTheirReactions) {
         ExpectEquilibrium(forces, 4);
         // About the pin the roller alone holds the load.
         const double moment = (load.x - pin.x) * fy - (load.y - pin.y) * fx + couple;
-        EXPECT_NEAR(forces[4].force[mechanics::forces::Magnitude].Number(), std::abs(moment / arm),
-                    kResidual);
+        EXPECT_NEAR(forces[4].force->force.magnitude.value(), std::abs(moment / arm), kResidual);
     }
 }
 

@@ -12,7 +12,7 @@ namespace {
 // R u + load = 0 alone.
 BodyEquations Pull(double load, double coef = 1) {
     BodyEquations equations;
-    equations.equations = {{1, BodySum::X, {{coef, {"R", forces::AngleFunction::None, {}}}}, load}};
+    equations.equations = {{1, BodySum::X, {{coef, {"R", notation::AngleFunction::None, {}}}}, load}};
     return equations;
 }
 
@@ -34,8 +34,8 @@ TEST(HoldsWith, AllowsAThousandthOfAUnitAndOfTheLargestTerm) {
 
 TEST(HoldsWith, PutsAnglesIn) {
     BodyEquations equations = Pull(-3, 1);
-    equations.equations[0].terms = {{10, {"", forces::AngleFunction::Cos, "Q"}},
-                                    {1, {"R", forces::AngleFunction::Sen, "Q"}}};
+    equations.equations[0].terms = {{10, {"", notation::AngleFunction::Cos, "Q"}},
+                                    {1, {"R", notation::AngleFunction::Sen, "Q"}}};
     // 10 · 0.5 + R · 0.866 = 3
     EXPECT_TRUE(HoldsWith(equations, {{"R", -2 / std::sqrt(0.75)}, {"q", 60, true}}));
     EXPECT_FALSE(HoldsWith(equations, {{"R", -2 / std::sqrt(0.75)}, {"Q", 59, true}}));

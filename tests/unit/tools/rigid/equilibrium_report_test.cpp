@@ -10,8 +10,6 @@
 namespace tavrelo::tools::rigid {
 namespace {
 
-using mechanics::forces::AngleFunction;
-using mechanics::forces::UnknownTerm;
 using mechanics::rigid::BodyChoice;
 using mechanics::rigid::BodyEquation;
 using mechanics::rigid::BodyEquations;
@@ -20,6 +18,8 @@ using mechanics::rigid::BodySum;
 using mechanics::rigid::ChosenBody;
 using mechanics::rigid::kDecimals;
 using mechanics::rigid::RowAt;
+using notation::AngleFunction;
+using notation::UnknownTerm;
 using Texts = std::vector<std::string>;
 
 UnknownTerm Plain(const char* name) { return {name, AngleFunction::None, {}}; }

@@ -257,7 +257,7 @@ TEST(RigidPicture, TheArrowsOfATextAtAPoint) {
 
 TEST(RigidPicture, ANegativeMagnitudeTakesTheOppositeHour) {
     DrawnProblem beam = BeamWith("p30x,40");
-    beam.problem.forces[0].force[mechanics::forces::Magnitude] = -40.0;
+    beam.problem.forces[0].force->force.magnitude = -40.0;
     const Seen seen = beam.Draw();
     EXPECT_NEAR(seen.forces.at(0).Degrees(), 210, 1e-6);
     EXPECT_EQ(seen.Text("40").text, "40");
@@ -265,8 +265,8 @@ TEST(RigidPicture, ANegativeMagnitudeTakesTheOppositeHour) {
 
 TEST(RigidPicture, SolvedForcesAreMagenta) {
     DrawnProblem beam = BeamWith("vB/MB");
-    beam.problem.forces[0].force[mechanics::forces::Magnitude] = 12.3456;
-    beam.problem.forces[0].force[mechanics::forces::Colour] = mechanics::forces::kSolved;
+    beam.problem.forces[0].force->force.magnitude = 12.3456;
+    beam.problem.forces[0].force->force.knowledge = notation::Knowledge::Found;
     beam.problem.forces[0].couple->value = -7.5;
     const Seen seen = beam.Draw();
     EXPECT_EQ(seen.forces.at(0).color, kMagenta);
@@ -277,7 +277,7 @@ TEST(RigidPicture, SolvedForcesAreMagenta) {
 /// By has no value yet, but Bx has.
 TEST(RigidPicture, AFoundComponentBesideAnUnknownOne) {
     DrawnProblem beam = BeamWith("Bx,By");
-    beam.problem.forces[0].force[mechanics::forces::XComponent] = -8.0;
+    beam.problem.forces[0].force->force.x.number = -8.0;
     const Seen seen = beam.Draw();
     ASSERT_EQ(seen.forces.size(), 2u);
     EXPECT_NEAR(seen.forces[0].Degrees(), 180, 1e-6);
