@@ -47,13 +47,16 @@ void ShowArguments(window::Picture& panel, std::span<const std::string_view> lin
     }
 }
 
+/// A cell of the bitmap of configurations.
+window::Icon IconAt(int cell) {
+    constexpr int kIconWidth = 30;  // pixels
+    constexpr int kIconHeight = 26;
+    return {"table_buttons", {cell * kIconWidth, 0, kIconWidth, kIconHeight}};
+}
+
 }  // namespace
 
 PointsPanel::PointsPanel(window::Form1& form, HelpPanel& help) : m_form(form), m_help(help) {
-    constexpr int kIconWidth = 30;  // pixels
-    constexpr int kIconHeight = 26;
-    for (const auto& [index, button] : m_controls.cmdTable.Items())
-        button->SetPicture({"table_buttons", {index * kIconWidth, 0, kIconWidth, kIconHeight}});
     PaintEmptyStrip(m_controls.picAccel.Canvas());
     BindTable();
     BindStrip();
@@ -182,6 +185,7 @@ void PointsPanel::ShowConfigurations() {
         const bool offered = index < static_cast<int>(texts.configurations.size());
         label->SetVisible(offered);
         m_controls.cmdTable[index].SetVisible(offered);
+        m_controls.cmdTable[index].SetPicture(IconAt(texts.first_icon + index));
         if (offered)
             label->SetCaption(std::string(texts.configurations[static_cast<std::size_t>(index)]));
         label->SetUnderlined(index == m_tool->view.configuration);

@@ -18,6 +18,7 @@ struct PointsTexts {
     std::string_view split_tip;                        // tooltip of the second of these buttons
     std::span<const std::string_view> procedure_rows;  // of `imgProcs`
     std::span<const std::string_view> procedure_list;  // of `cboProcs`
+    int first_icon = 0;                                // cell of the bitmap for the first of these buttons
 };
 
 /// What the panel of points shows for a tool apart from the tool's problem; kept while another tool is in

@@ -107,9 +107,10 @@ constexpr auto kListTitles = TitlesOf(kList);
 
 constexpr std::string_view kRowLabels[] = {" t", " x", " y", " v", " θ"};
 constexpr std::string_view kConfigurations[] = {"   Un móvil", "   Dos móviles"};
-constexpr frame::PointsTexts kTexts = {kRowLabels, kConfigurations,
-                                       "Un clic en la tabla, en el espacio gris arriba de los encabezados",
-                                       kRowTitles, kListTitles};
+constexpr int kFirstIcon = 4;  // behind those of motion along a line
+constexpr frame::PointsTexts kTexts = {
+    kRowLabels, kConfigurations, "Un clic en la tabla, en el espacio gris arriba de los encabezados",
+    kRowTitles, kListTitles,     kFirstIcon};
 
 constexpr std::string_view kHelpFile = "\\HelpTP.txt";
 

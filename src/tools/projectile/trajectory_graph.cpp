@@ -25,7 +25,8 @@ constexpr int kOnlyStretch = 1;
 constexpr double kHeightNameShift = 13;  // from the frame's left side to the name's left edge
 constexpr double kAcrossNameDrop = 19;   // from the frame's foot to the name's top
 constexpr double kEdgeGap = 4;           // from the picture's right edge
-constexpr double kNameGap = 6;           // right of a curve's last point
+constexpr double kNameShift = 3;         // from the curve's highest point to the name's left edge
+constexpr double kNameDrop = 4;          // and to its top
 constexpr double kLabelGap = 8;          // between the two labels below the frame
 
 double WidthOf(const std::string& label) { return text::MarkupWidth(label, drawing::LabelFont()); }
@@ -65,12 +66,13 @@ void DrawCurve(Surface& picture, const GraphFrame& frame, const Graph& graph, co
     picture.DrawWidth = 1;
 }
 
-/// Beside the curve at a third of its way, on the right.
+/// Under the highest point of the curve, inside its arch.
 void NameCurve(Surface& picture, const GraphFrame& frame, const Graph& graph, const GraphCurve& curve) {
     if (curve.points.empty())
         return;
-    const window::Point at = PixelOf(frame, graph, curve.points[curve.points.size() / 3]);
-    drawing::PrintLabel(picture, curve.name, at.x + kNameGap, at.y, drawing::LabelFont(),
+    const numeric::Point& highest = *std::ranges::max_element(curve.points, {}, &numeric::Point::y);
+    const window::Point at = PixelOf(frame, graph, highest);
+    drawing::PrintLabel(picture, curve.name, at.x - kNameShift, at.y + kNameDrop, drawing::LabelFont(),
                         frame::StretchColor(curve.mover, kOnlyStretch));
 }
 
