@@ -5,7 +5,6 @@
 
 #include "drawing/print_markup.h"
 #include "frame/points_strip.h"
-#include "text/number_text.h"
 #include "window/guarded.h"
 
 namespace tavrelo::frame {
@@ -69,15 +68,14 @@ void PointsPanel::BindTable() {
     m_rules.allowed = kCellCharacters;
     m_rules.on_content = [this](window::CellPlace place, const std::string& content) {
         mechanics::points::Cell& cell = m_tool->Table().At(place.row, place.col);
-        cell.stored = content.empty() ? text::Value() : text::Value(content);
+        cell = mechanics::points::TextCell(content);
         cell.shown = m_controls.Gd2.Cell(place.row, place.col);
     };
     m_rules.content_of = [this](window::CellPlace place) {
         return m_tool->Table().Stored(place.row, place.col).Text();
     };
     m_rules.shown = [this](const std::string& content) {
-        return text::IsNum(content) ? text::RoundedText(text::ToNumber(content), m_form.publics.Decimals)
-                                    : content;
+        return mechanics::points::PastedCell(content, m_form.publics.Decimals).shown;
     };
     On(m_form, grid.OnKeyPress, [this](char32_t character) { return KeyPress(character); });
     On(m_form, grid.OnKeyDown, [this](const window::KeyStroke& stroke) {
@@ -114,13 +112,12 @@ void PointsPanel::BindProcedures() {
             m_tool->view.data = m_controls.txtProcs.Text();
     });
     On(m_form, m_controls.tabMrua.OnClick, [this](int) { ShowArgumentPage(); });
-    OnClick(
-        m_form, m_controls.cmdProcs,
-        [this] {
-            if (m_tool)
-                m_tool->RunEntry();
-        },
-        kInstructionFailed);
+    const auto run = [this] {
+        if (m_tool)
+            m_tool->RunEntry();
+    };
+    OnClick(m_form, m_controls.cmdProcs, run, kInstructionFailed);
+    OnEnter(m_form, m_controls.txtProcs, run, kInstructionFailed);
     OnClick(m_form, m_controls.cmdHelpTable, [this](int button) { ShowHelp(button); });
 }
 
@@ -284,7 +281,7 @@ void PointsPanel::ChooseEntry() {
 void PointsPanel::EraseTable() {
     if (!m_tool)
         return;
-    m_tool->Table().Clear();
+    m_tool->EraseTable();
     ShowCells();
 }
 

@@ -52,6 +52,7 @@ class PointsTool {
 
     virtual const PointsTexts& Texts() const = 0;
     virtual mechanics::points::Table& Table() = 0;
+    virtual void EraseTable() = 0;
     virtual std::optional<TopicPlace> HelpTopic(PointsHelp button) const = 0;
 
     /// A button `cmdTable`: the strip is empty again and the choice underlined.

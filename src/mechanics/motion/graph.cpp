@@ -84,10 +84,9 @@ void SetRange(MotionGraph& graph) {
     numeric::CheckedSubtract(graph.greatest_position, graph.least_position);
 }
 
-GraphName NameAtEnd(const GraphCurve& curve) {
-    // The curve goes by the name of the mover's position, whatever the stretch in which it ends.
-    return {points::NamesOf(curve.mover, 1).position, curve.mover, curve.stretch, curve.times.back(),
-            curve.positions.back()};
+/// A curve goes by the name of its mover's position, whatever the stretch.
+GraphName NameOf(const GraphCurve& curve) {
+    return {points::NamesOf(curve.mover, 1).position, curve.mover, curve.stretch};
 }
 
 std::optional<std::string_view> WhyNoInterval(const Problem& problem, const points::PointPlace& first,
@@ -124,7 +123,7 @@ std::variant<Refusal, MotionGraph> GraphBetween(const Problem& problem, const po
     for (const Leg& leg : LegsOfOther(problem, other, graph.first_time, graph.last_time))
         graph.curves.push_back(CurveOf(leg, duration));
     if (graph.curves.size() > legs.size())
-        graph.names.push_back(NameAtEnd(graph.curves.back()));
+        graph.names.push_back(NameOf(graph.curves.back()));
     SetRange(graph);
     return graph;
 }

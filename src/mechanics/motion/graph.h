@@ -26,13 +26,11 @@ struct GraphCurve {
     std::vector<double> positions;
 };
 
-/// A curve's name and the point where it stands, the end of the curve.
+/// A curve's name, and one of its stretches, whose colour it takes.
 struct GraphName {
     std::string_view name;
     int mover = 1;
     int stretch = 1;
-    double time = 0;
-    double position = 0;
 };
 
 /// Curves in one frame: from the first to the last time, and from the least to the greatest position of all

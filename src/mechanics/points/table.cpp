@@ -4,52 +4,23 @@
 
 #include "numeric/checked.h"
 #include "text/number_text.h"
-#include "text/utf8.h"
 
 namespace tavrelo::mechanics::points {
-namespace {
-
-constexpr std::string_view kCellCharacters = "0123456789.+-txyv*/ ";
-constexpr std::string_view kLineEnd = "\r\n";
-
-Cell TextCell(std::string shown) {
-    if (shown.empty())
-        return {};
-    text::Value stored(shown);
-    return {std::move(stored), std::move(shown)};
-}
-
-}  // namespace
 
 Cell NumberCell(double number, int decimals) { return {number, text::RoundedText(number, decimals)}; }
 
-bool IsCellCharacter(char character) { return kCellCharacters.find(character) != std::string_view::npos; }
-
-Cell WithTyped(const Cell& cell, char character) {
-    return IsCellCharacter(character) ? TextCell(cell.shown + character) : cell;
+Cell TextCell(std::string_view text) {
+    if (text.empty())
+        return {};
+    return {text::Value(text), std::string(text)};
 }
 
-Cell WithoutLast(const Cell& cell) {
-    if (cell.shown.empty())
-        return cell;
-    std::u32string characters = text::ToCodePoints(cell.shown);
-    characters.pop_back();
-    return TextCell(text::ToUtf8(characters));
-}
-
-Cell PastedCell(std::string_view clipboard, int decimals) {
-    std::string content = text::Trim(clipboard);
-    if (content.ends_with(kLineEnd))
-        content = text::Trim(std::string_view(content).substr(0, content.size() - kLineEnd.size()));
+Cell PastedCell(std::string_view content, int decimals) {
     Cell cell = TextCell(content);
     if (text::IsNum(content))
         cell.shown = text::RoundedText(text::ToNumber(content), decimals);
     return cell;
 }
-
-Cell Hidden(const Cell& cell) { return {cell.stored, {}}; }
-
-std::string CopiedText(const Cell& cell) { return cell.stored.Text(); }
 
 const Cell& Table::At(int row, int column) const {
     if (row < 0 || row >= m_rows || column < 1 || column > kMostPoints)

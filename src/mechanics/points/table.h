@@ -41,19 +41,11 @@ struct Cell {
 /// A cell with a computed number: all digits stored, rounded to `decimals` in view.
 Cell NumberCell(double number, int decimals);
 
-/// The characters that may be typed into a cell.
-bool IsCellCharacter(char character);
-/// The cell after a character typed behind what it shows, or after the removal of the last one: the text in
-/// view becomes what is stored. A character that no cell takes, and a removal from an empty view, change
-/// nothing.
-Cell WithTyped(const Cell& cell, char character);
-Cell WithoutLast(const Cell& cell);
-/// A pasted text: trimmed, a last line end cut; a number is stored with all its digits and shown rounded.
-Cell PastedCell(std::string_view clipboard, int decimals);
-/// The view emptied, the value kept.
-Cell Hidden(const Cell& cell);
-/// What copying a cell gives: all the digits of what is stored.
-std::string CopiedText(const Cell& cell);
+/// A cell as its text was typed; an empty text stores nothing.
+Cell TextCell(std::string_view text);
+/// A cell with a pasted content: a number is stored as it was written and shown rounded. Fails with Overflow
+/// past the range of a double.
+Cell PastedCell(std::string_view content, int decimals);
 
 /// The cells of a table, all empty at first. An index out of range fails with SubscriptRange.
 class Table {

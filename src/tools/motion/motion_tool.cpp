@@ -119,6 +119,8 @@ int Motion::ConfigurationChosen() const {
 
 const frame::PointsTexts& Motion::Texts() const { return MotionTexts(); }
 
+void Motion::EraseTable() { m_problem = WithEmptyTable(m_problem); }
+
 std::optional<frame::TopicPlace> Motion::HelpTopic(frame::PointsHelp button) const {
     return MotionTopic(button, view.procedure_row, view.procedure_entry);
 }

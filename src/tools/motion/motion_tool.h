@@ -42,6 +42,7 @@ class Motion : public frame::PointsTool {
 
     const frame::PointsTexts& Texts() const override;
     mechanics::points::Table& Table() override { return m_problem.table; }
+    void EraseTable() override;
     std::optional<frame::TopicPlace> HelpTopic(frame::PointsHelp button) const override;
     void Configure(int configuration) override;
     void PressStrip(const window::MouseStroke& stroke) override;

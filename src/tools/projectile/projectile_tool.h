@@ -35,6 +35,7 @@ class Projectile : public frame::PointsTool {
 
     const frame::PointsTexts& Texts() const override;
     mechanics::points::Table& Table() override { return m_problem.table; }
+    void EraseTable() override { m_problem = WithEmptyTable(m_problem); }
     std::optional<frame::TopicPlace> HelpTopic(frame::PointsHelp button) const override;
     void Configure(int configuration) override;
     void PressStrip(const window::MouseStroke& stroke) override;

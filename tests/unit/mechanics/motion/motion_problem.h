@@ -23,10 +23,7 @@ struct Column {
 inline void Fill(Problem& problem, int mover, int point, const Column& column) {
     const int number = points::ColumnOfPoint(problem.configuration, mover, point);
     const auto type = [&](int row, const std::string& text) {
-        points::Cell& cell = problem.table.At(row, number);
-        cell = {};
-        for (const char character : text)
-            cell = points::WithTyped(cell, character);
+        problem.table.At(row, number) = points::TextCell(text);
     };
     type(points::kTimeRow, column.t);
     type(points::kPositionRow, column.x);

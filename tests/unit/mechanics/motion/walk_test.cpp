@@ -161,8 +161,7 @@ TEST(Graph, TheOtherMoverJoinsWhereItIsInTheTable) {
     EXPECT_EQ(graph.greatest_position, 440);
     ASSERT_EQ(graph.names.size(), 1U);
     EXPECT_EQ(graph.names[0].name, "X");
-    EXPECT_EQ(graph.names[0].time, 20);
-    EXPECT_EQ(graph.names[0].position, 400);
+    EXPECT_EQ(graph.names[0].mover, 2);
     SetTime(problem, 2, 4, 10);
     EXPECT_EQ(GraphOf(problem, {1, 1, 0}, {1, 1, 3}).curves[1].times.back(), 10);
     SetTime(problem, 2, 0, 21);
