@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "mechanics/rigid/structure_changes.h"
+#include "numeric/checked.h"
 
 namespace tavrelo::mechanics::rigid {
 namespace {
@@ -13,6 +14,8 @@ namespace {
 constexpr int kWhole = 1;  // the system of all points
 
 std::string& SystemOf(RigidProblem& problem, int system) {
+    if (system < 1 || system > kSystems)
+        throw numeric::RuntimeFailure(numeric::FailureCode::SubscriptRange, "system of points");
     return problem.systems[static_cast<std::size_t>(system) - 1];
 }
 

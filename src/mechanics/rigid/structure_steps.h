@@ -32,7 +32,7 @@ StructureStep WithoutLastVector(const RigidProblem& problem, std::string_view or
 /// Seen from another origin; refused when that has no coordinates. Fails with Overflow.
 std::variant<text::Refusal, RigidProblem> WithOrigin(const RigidProblem& problem, std::string_view origin);
 
-/// With these letters as a system (1 to 5).
+/// With these letters as a system (1 to 5); fails with SubscriptRange for any other number.
 RigidProblem WithSystem(RigidProblem problem, int system, std::string_view letters);
 
 /// With a line drawn, or without a cancelled one; a line that is not there cannot be cancelled, and an entry

@@ -22,8 +22,14 @@ struct DiagramView {
     std::optional<double> DirectionOf(std::size_t force) const {
         return force < directions.size() ? directions[force] : std::nullopt;
     }
-    bool IsShown(int system) const { return shown[static_cast<std::size_t>(system) - 1]; }
-    void Show(int system, bool in_view) { shown[static_cast<std::size_t>(system) - 1] = in_view; }
+    /// Systems count from 1; one that does not exist is never in view.
+    bool IsShown(int system) const { return IsSystem(system) && shown[static_cast<std::size_t>(system) - 1]; }
+    void Show(int system, bool in_view) {
+        if (IsSystem(system))
+            shown[static_cast<std::size_t>(system) - 1] = in_view;
+    }
+
+    static bool IsSystem(int system) { return system >= 1 && system <= mechanics::rigid::kSystems; }
 };
 
 }  // namespace tavrelo::tools::rigid
