@@ -60,16 +60,18 @@ constexpr TypedForce kFrame[] = {
     {4, "B", 1, 2, "Bx, By"},   {4, "D", 3, 2, "Dx, Dy"},   {4, "F", 2, 2, "v-60"},
 };
 
-mechanics::rigid::BodyForces FrameForces() {
-    mechanics::rigid::BodyForces forces;
+std::vector<mechanics::rigid::ReadForce> FrameForces() {
+    std::vector<mechanics::rigid::ReadForce> forces;
     for (const auto& [body, point, x, y, text] : kFrame)
-        forces.push_back(std::get<mechanics::rigid::BodyForce>(
+        forces.push_back(std::get<mechanics::rigid::ReadForce>(
             mechanics::rigid::ReadBodyForce(body, {point, x, y}, text, kDecimals)));
     return forces;
 }
 
 void SolveFrame(benchmark::State& state) {
-    const mechanics::rigid::BodyForces forces = FrameForces();
+    mechanics::rigid::BodyForces forces;
+    for (const auto& [force, written] : FrameForces())
+        forces.push_back(force);
     const std::vector<mechanics::rigid::ChosenBody> bodies = {
         {2, false, 0, 0}, {3, false, 0, 0}, {4, false, 0, 0}};
     for (auto _ : state) {
@@ -82,13 +84,15 @@ BENCHMARK(SolveFrame);
 
 void DrawFrame(benchmark::State& state) {
     mechanics::rigid::RigidProblem problem;
-    problem.forces = FrameForces();
-    for (const auto& force : problem.forces)
+    tools::rigid::DiagramView view = {.shown = {false, true, true, true}};
+    for (const auto& [force, written] : FrameForces()) {
+        problem.forces.push_back(force);
+        view.looks.push_back(tools::rigid::LookOf(written));
         if (!mechanics::rigid::FindPoint(problem.structure.points, force.point))
             problem.structure.points.push_back({force.point, force.x, force.y});
+    }
     problem.lines = {{"ABC", 2}, {"CDE", 3}, {"BFD", 4}};
     problem.systems = {"ABCDEF", "ABC", "CDE", "BFD"};
-    const tools::rigid::DiagramView view = {.shown = {false, true, true, true}};
     window::Recorder canvas(397, 385);
     for (auto _ : state)
         tools::rigid::RedrawAll(canvas, {problem, view, kDecimals});

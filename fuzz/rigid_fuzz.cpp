@@ -1,6 +1,6 @@
-// Whatever is typed in the rigid-body tool. A structure is built from the lines of the input and solved; the
-// only exception that leaves is the documented failure, every number of a result is finite, and the opposite
-// of a force is read again.
+// Whatever is typed in the rigid-body tool. A structure is built from the lines of the input, its forces are
+// read, drawn and solved; the only exception that leaves is the documented failure, every number of a result
+// is finite, results satisfy the equations, and the opposite of a force is read again.
 
 #include <cmath>
 #include <cstdint>
@@ -10,10 +10,9 @@
 #include <variant>
 #include <vector>
 
-#include "mechanics/rigid/body_solver.h"
-#include "mechanics/rigid/chain_vectors.h"
-#include "mechanics/rigid/line_command.h"
-#include "mechanics/rigid/rigid_problem.h"
+#include "mechanics/rigid/equilibrium_check.h"
+#include "mechanics/rigid/force_steps.h"
+#include "mechanics/rigid/structure_steps.h"
 #include "numeric/checked.h"
 #include "tools/rigid/equilibrium_report.h"
 #include "tools/rigid/rigid_picture.h"
@@ -24,17 +23,20 @@ namespace {
 using namespace tavrelo;
 using namespace tavrelo::mechanics::rigid;
 using tools::rigid::EquilibriumReport;
+using Lines = std::vector<std::string>;
 
 constexpr int kDecimals = 3;
 constexpr double kPictureSide = 400;
 
-void RequireFinite(double number) {
-    if (!std::isfinite(number))
+void Require(bool holds) {
+    if (!holds)
         std::abort();
 }
 
-std::vector<std::string> LinesOf(std::string_view text) {
-    std::vector<std::string> lines = {""};
+void RequireFinite(std::optional<double> number) { Require(std::isfinite(number.value_or(0))); }
+
+Lines LinesOf(std::string_view text) {
+    Lines lines = {""};
     for (const char each : text)
         if (each == '\n')
             lines.emplace_back();
@@ -43,97 +45,116 @@ std::vector<std::string> LinesOf(std::string_view text) {
     return lines;
 }
 
-/// Triangle ABC, and a chain of its own for the typed vector.
-void TryChain(const std::vector<std::string>& lines, SegTable& segments, PointTable& points) {
-    segments = {{"A", "B", 4, 0}, {"B", "C", 0, 3}};
-    points = std::get<PointTable>(ComputeCoords(segments));
+RigidProblem Triangle() {
+    RigidProblem problem;
+    for (const auto& [chain, vector] : {std::pair{"AB", "h4"}, {"BC", "v3"}})
+        problem =
+            std::get<StructureStep>(WithVectors(problem, {chain, vector, "", {}}, "A", kDecimals)).problem;
+    return WithSystem(WithSystem(problem, 2, "AB"), 3, "C");
+}
+
+/// The triangle, and a chain of its own for the typed vector.
+RigidProblem Structured(const Lines& lines) {
+    RigidProblem problem = Triangle();
     CheckChain(lines.front());
-    const std::vector<std::string> texts(lines.begin(), lines.end());
-    const auto rows = ChainRows({"CDE", lines.front(), lines.back(), texts}, points, kDecimals);
-    if (!std::holds_alternative<SegTable>(rows))
-        return;
-    SegTable longer = segments;
-    for (const SegRow& row : std::get<SegTable>(rows))
-        longer.push_back(row);
-    const auto coords = ComputeCoords(longer);
-    if (!std::holds_alternative<PointTable>(coords))
-        return;
-    segments = longer;
-    points = std::get<PointTable>(coords);
-    for (const PointRecord& point : points) {
+    const auto outcome =
+        WithVectors(problem, {"CDE", lines.front(), lines.back(), lines}, lines.back(), kDecimals);
+    if (const auto* step = std::get_if<StructureStep>(&outcome)) {
+        problem = step->problem;
+        WithoutLastVector(problem, lines.back());
+    }
+    for (const PointRecord& point : problem.structure.points) {
         RequireFinite(point.x);
         RequireFinite(point.y);
     }
+    const auto& [segments, points, origin] = problem.structure;
     CoordLines(segments, points, kDecimals);
     SepLines(segments, kDecimals);
+    const auto line = ReadLine(lines.back(), problem.systems, points);
+    if (const auto* command = std::get_if<LineCommand>(&line))
+        problem = WithLine(problem, *command);
+    return problem;
 }
 
-void TryOpposite(const std::string& text, const PointRecord& point) {
+void TryOpposite(const RigidProblem& problem, const std::string& text) {
+    ReadRowReference(text);
     const auto opposite = NegateForceText(text);
     if (const auto* negated = std::get_if<std::string>(&opposite))
-        ReadBodyForce(1, point, *negated, kDecimals);
+        WithForces(problem, {1, "A", *negated, {}}, kDecimals);
 }
 
-BodyForces ForcesOf(const std::vector<std::string>& lines, const PointTable& points) {
-    BodyForces forces;
+/// Each line is a force on one of the points; the lines are a series, too.
+RigidProblem Loaded(RigidProblem problem, const Lines& lines, tools::rigid::DiagramView& view) {
+    constexpr const char* kPoints[] = {"A", "B", "C", "ABC"};
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const PointRecord& point = points[i % points.size()];
-        ReadRowReference(lines[i]);
-        const auto read = ReadBodyForce(1, point, lines[i], kDecimals);
-        if (const auto* force = std::get_if<BodyForce>(&read)) {
-            forces.push_back(*force);
-            if (force->couple)
-                RequireFinite(force->couple->value.value_or(0));
-            TryOpposite(lines[i], point);
-        }
+        TryOpposite(problem, lines[i]);
+        auto outcome = WithForces(problem, {1, kPoints[i % std::size(kPoints)], lines[i], lines}, kDecimals);
+        auto* step = std::get_if<ForceStep>(&outcome);
+        if (!step)
+            continue;
+        problem = step->problem;
+        for (const auto& written : step->written)
+            view.looks.push_back(tools::rigid::LookOf(written));
     }
-    return forces;
+    for (const BodyForce& row : problem.forces)
+        if (row.couple)
+            RequireFinite(row.couple->value);
+    return problem;
 }
 
-void Draw(const RigidProblem& problem) {
+void Draw(const RigidProblem& problem, const tools::rigid::DiagramView& view) {
     window::Recorder canvas(kPictureSide, kPictureSide);
-    tools::rigid::DiagramView view;
-    view.Show(1, true);
     tools::rigid::RedrawAll(canvas, {problem, view, kDecimals});
 }
 
-void Solve(BodyForces& forces, std::string_view suppressed) {
-    const std::vector<ChosenBody> bodies = {{1, false, 0, 0}};
-    const auto built = BuildEquations(forces, bodies, suppressed);
-    const auto* equations = std::get_if<BodyEquations>(&built);
-    if (!equations)
-        return;
-    EquilibriumReport(bodies, *equations, {}, kDecimals);
-    const auto outcome = SolveEquations(*equations, bodies.size());
-    BodyResults results;
+BodyResults ResultsOf(const BodyOutcome& outcome) {
     if (const auto* choice = std::get_if<BodyChoice>(&outcome)) {
         tools::rigid::QuestionBetween(*choice, kDecimals);
-        results = choice->front();
-    } else if (const auto* only = std::get_if<BodyResults>(&outcome)) {
-        results = *only;
+        return choice->front();
     }
+    const auto* only = std::get_if<BodyResults>(&outcome);
+    return only ? *only : BodyResults{};
+}
+
+void RequireFinite(const BodyForces& forces) {
+    for (const BodyForce& row : forces)
+        if (row.force) {
+            RequireFinite(row.force->x.number);
+            RequireFinite(row.force->y.number);
+            RequireFinite(row.force->magnitude);
+            RequireFinite(row.force->direction);
+        }
+}
+
+RigidProblem Solved(RigidProblem problem, std::string_view suppressed) {
+    const std::vector<ChosenBody> bodies = {{1, false, 0, 0}};
+    const auto built = BuildEquations(problem.forces, bodies, suppressed);
+    const auto* equations = std::get_if<BodyEquations>(&built);
+    if (!equations)
+        return problem;
+    EquilibriumReport(bodies, *equations, {}, kDecimals);
+    const BodyResults results = ResultsOf(SolveEquations(*equations, bodies.size()));
+    if (results.empty())
+        return problem;
     for (const FoundUnknown& found : results)
         RequireFinite(found.value);
-    forces = WithResults(forces, results, kDecimals);
-    for (const BodyForce& force : forces)
-        if (force.force)
-            for (const auto& number :
-                 {force.force->force.magnitude, force.force->force.x.number, force.force->force.y.number})
-                RequireFinite(number.value_or(0));
+    Require(HoldsWith(*equations, results));
     EquilibriumReport(bodies, *equations, results, kDecimals);
+    problem.forces = WithResults(problem.forces, results);
+    RequireFinite(problem.forces);
+    return problem;
 }
 
 void Try(std::string_view text) {
-    const std::vector<std::string> lines = LinesOf(text);
-    RigidProblem problem;
-    problem.systems = {"ABC", "AB", "C"};
-    TryChain(lines, problem.structure.segments, problem.structure.points);
-    const auto line = ReadLine(lines.back(), problem.systems, problem.structure.points);
-    if (const auto* command = std::get_if<LineCommand>(&line))
-        problem.lines.push_back(command->line);
-    problem.forces = ForcesOf(lines, problem.structure.points);
-    Solve(problem.forces, lines.back());
-    Draw(problem);
+    const Lines lines = LinesOf(text);
+    tools::rigid::DiagramView view;
+    view.Show(1, true);
+    const RigidProblem problem = Loaded(Structured(lines), lines, view);
+    Draw(problem, view);
+    const RigidProblem solved = Solved(problem, lines.back());
+    for (std::size_t i = 0; i < view.looks.size(); ++i)
+        view.looks[i] = tools::rigid::SolvedLook(view.looks[i], solved.forces[i], kDecimals);
+    Draw(solved, view);
 }
 
 }  // namespace

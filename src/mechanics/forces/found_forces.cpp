@@ -2,7 +2,6 @@
 
 #include "numeric/angles.h"
 #include "numeric/checked.h"
-#include "text/number_text.h"
 
 namespace tavrelo::mechanics::forces {
 
@@ -24,16 +23,6 @@ void CompleteFoundForce(notation::Force& force) {
     force.y.unknown = {};
     if (force.knowledge == notation::Knowledge::Unknown)
         force.knowledge = notation::Knowledge::Found;
-}
-
-void CompleteFoundForce(notation::ForceRecord& record, int decimals) {
-    notation::Force& force = record.force;
-    if (!force.HasComponents())
-        return;
-    CompleteFoundForce(force);
-    record.clock = numeric::ClockOf(*force.x.number, *force.y.number);
-    record.x_text = text::RoundedText(*force.x.number, decimals);
-    record.y_text = text::RoundedText(*force.y.number, decimals);
 }
 
 }  // namespace tavrelo::mechanics::forces

@@ -19,7 +19,4 @@ void PutFoundValues(notation::Force& force, const FactorOf& factor_of);
 /// Overflow.
 void CompleteFoundForce(notation::Force& force);
 
-/// The same for a force of a table, with the texts of its components and its clock reading.
-void CompleteFoundForce(notation::ForceRecord& record, int decimals);
-
 }  // namespace tavrelo::mechanics::forces

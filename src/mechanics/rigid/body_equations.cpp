@@ -11,6 +11,7 @@
 namespace tavrelo::mechanics::rigid {
 namespace {
 
+using notation::ForceComponent;
 using notation::UnknownTerm;
 using numeric::CheckedAdd;
 using numeric::CheckedMultiply;
@@ -31,7 +32,7 @@ struct BodySums {
 
 void AddTerm(BodyEquation& sum, double coef, const UnknownTerm& unknown) {
     for (BodyTerm& term : sum.terms)
-        if (SameUnknown(term.unknown, unknown)) {
+        if (notation::SameUnknown(term.unknown, unknown)) {
             term.coef = CheckedAdd(term.coef, coef);
             return;
         }
@@ -41,7 +42,7 @@ void AddTerm(BodyEquation& sum, double coef, const UnknownTerm& unknown) {
 void AddConstant(BodyEquation& sum, double value) { sum.constant = CheckedAdd(sum.constant, value); }
 
 // Adds a component times `arm`: 1 in its own sum, the lever in the sum of moments.
-void AddComponent(BodyEquation& sum, double arm, const notation::ForceComponent& component) {
+void AddComponent(BodyEquation& sum, double arm, const ForceComponent& component) {
     if (component.unknown.IsNone())
         AddConstant(sum, CheckedMultiply(arm, component.number.value_or(0)));
     else
@@ -52,25 +53,24 @@ void AddCouple(BodyEquation& moments, const Couple& couple) {
     if (couple.IsKnown())
         AddConstant(moments, *couple.value);
     else
-        AddTerm(moments, couple.sign, {couple.symbol, notation::AngleFunction::None, {}});
+        AddTerm(moments, couple.sign, {.magnitude = couple.symbol});
 }
 
 // The moment of a force is rx Fy - ry Fx.
-void AddForceMoment(BodyEquation& moments, const ChosenBody& body, const BodyForce& row,
-                    const notation::Force& force) {
-    AddComponent(moments, CheckedSubtract(body.y0, row.y), force.x);
-    AddComponent(moments, CheckedSubtract(row.x, body.x0), force.y);
+void AddForceMoment(BodyEquation& moments, const ChosenBody& body, const BodyForce& row) {
+    AddComponent(moments, CheckedSubtract(body.y0, row.y), row.force->x);
+    AddComponent(moments, CheckedSubtract(row.x, body.x0), row.force->y);
 }
 
 void AddRow(BodySums& sums, const ChosenBody& body, const BodyForce& row) {
     if (row.force) {
-        AddComponent(sums.x, 1, row.force->force.x);
-        AddComponent(sums.y, 1, row.force->force.y);
+        AddComponent(sums.x, 1, row.force->x);
+        AddComponent(sums.y, 1, row.force->y);
     }
     if (body.is_particle)
         return;
     if (row.force)
-        AddForceMoment(sums.m, body, row, row.force->force);
+        AddForceMoment(sums.m, body, row);
     if (row.couple)
         AddCouple(sums.m, *row.couple);
 }

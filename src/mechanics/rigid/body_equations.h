@@ -7,8 +7,8 @@
 #include <variant>
 #include <vector>
 
+#include "mechanics/forces/sum_equation.h"
 #include "mechanics/rigid/body_force.h"
-#include "notation/unknown_term.h"
 
 namespace tavrelo::mechanics::rigid {
 
@@ -26,10 +26,7 @@ struct ChosenBody {
 };
 
 /// A coefficient and the unknown that it multiplies, as the first force that holds it writes it.
-struct BodyTerm {
-    double coef;
-    notation::UnknownTerm unknown;
-};
+using BodyTerm = forces::SumTerm;
 
 /// A sum equal to zero. An empty one still counts as an equation.
 struct BodyEquation {

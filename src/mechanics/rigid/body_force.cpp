@@ -88,11 +88,12 @@ std::optional<text::Refusal> SetCouple(BodyForce& row, const std::string& text) 
     return {};
 }
 
-std::optional<text::Refusal> SetForce(BodyForce& row, const std::string& text, int decimals) {
+std::optional<text::Refusal> SetForce(ReadForce& read, const std::string& text, int decimals) {
     auto parsed = notation::ParseForce(text, decimals);
     if (const auto* refusal = std::get_if<text::Refusal>(&parsed))
         return *refusal;
-    row.force = std::get<notation::ForceRecord>(std::move(parsed));
+    read.written = std::get<notation::ForceRecord>(std::move(parsed));
+    read.force.force = read.written->force;
     return {};
 }
 
@@ -182,9 +183,10 @@ int RowNumber(const std::string& text) {
 
 }  // namespace
 
-std::variant<text::Refusal, BodyForce> ReadBodyForce(int body, const PointRecord& point,
+std::variant<text::Refusal, ReadForce> ReadBodyForce(int body, const PointRecord& point,
                                                      std::string_view text, int decimals) {
-    BodyForce row;
+    ReadForce read;
+    BodyForce& row = read.force;
     row.body = body;
     row.point = point.name;
     row.x = point.x;
@@ -192,12 +194,12 @@ std::variant<text::Refusal, BodyForce> ReadBodyForce(int body, const PointRecord
     row.text = text;
     const Sides sides = SidesOf(text);
     if (!IsCoupleAlone(sides))
-        if (const auto refusal = SetForce(row, sides.force, decimals))
+        if (const auto refusal = SetForce(read, sides.force, decimals))
             return *refusal;
     if (!sides.couple.empty())
         if (const auto refusal = SetCouple(row, sides.couple))
             return *refusal;
-    return row;
+    return read;
 }
 
 BodyForces AtPoints(BodyForces forces, const PointTable& points) {

@@ -24,8 +24,8 @@ struct Couple {
 
 /// One force, couple or both on a point of a body.
 struct BodyForce {
-    std::optional<notation::ForceRecord> force;  // nothing for a couple alone
-    int body = 1;                                // system 1 to 5
+    std::optional<notation::Force> force;  // nothing for a couple alone
+    int body = 1;                          // system 1 to 5
     std::string point;
     double x = 0;  // of the point of application, from the origin
     double y = 0;
@@ -36,10 +36,16 @@ struct BodyForce {
 };
 using BodyForces = std::vector<BodyForce>;
 
+/// A force that was read, and what only its table and its drawing show of it: nothing for a couple alone.
+struct ReadForce {
+    BodyForce force;
+    std::optional<notation::ForceRecord> written;
+};
+
 /// Reads "force", "force/couple" or a pure couple; an empty side counts as missing. A couple's symbol may be
 /// of any length here. An empty text gives no row: not to be called with one. Fails with Overflow on a couple
 /// past the range of a double.
-std::variant<text::Refusal, BodyForce> ReadBodyForce(int body, const PointRecord& point,
+std::variant<text::Refusal, ReadForce> ReadBodyForce(int body, const PointRecord& point,
                                                      std::string_view text, int decimals);
 
 /// The forces at the coordinates that their points have now.

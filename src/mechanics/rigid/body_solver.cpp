@@ -8,7 +8,6 @@
 #include "mechanics/forces/found_forces.h"
 #include "mechanics/rigid/equilibrium_check.h"
 #include "mechanics/rigid/unknown_angle.h"
-#include "notation/unknown_term.h"
 #include "numeric/checked.h"
 #include "numeric/linear_systems.h"
 #include "text/number_text.h"
@@ -56,12 +55,6 @@ BodyOutcome SolveLinearEquations(const BodyEquations& system) {
     return results;
 }
 
-void UpdateForce(notation::ForceRecord& force, const BodyResults& results, int decimals) {
-    forces::PutFoundValues(force.force,
-                           [&](const notation::UnknownTerm& unknown) { return FactorOf(results, unknown); });
-    forces::CompleteFoundForce(force, decimals);
-}
-
 void UpdateCouple(Couple& couple, const BodyResults& results) {
     if (couple.IsKnown())
         return;
@@ -77,10 +70,13 @@ BodyOutcome SolveEquations(const BodyEquations& equations, std::size_t bodies) {
     return equations.angles.empty() ? SolveLinearEquations(equations) : SolveWithAngle(equations);
 }
 
-BodyForces WithResults(BodyForces forces, const BodyResults& results, int decimals) {
+BodyForces WithResults(BodyForces forces, const BodyResults& results) {
+    const auto factor_of = [&](const notation::UnknownTerm& unknown) { return FactorOf(results, unknown); };
     for (BodyForce& row : forces) {
-        if (row.force)
-            UpdateForce(*row.force, results, decimals);
+        if (row.force) {
+            forces::PutFoundValues(*row.force, factor_of);
+            forces::CompleteFoundForce(*row.force);
+        }
         if (row.couple)
             UpdateCouple(*row.couple, results);
     }

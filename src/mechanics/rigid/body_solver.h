@@ -22,8 +22,7 @@ using BodyOutcome = std::variant<text::Refusal, BodyResults, BodyChoice>;
 BodyOutcome SolveEquations(const BodyEquations& equations, std::size_t bodies);
 
 /// The forces with the results in all rows that hold their symbols, of whatever body. A force that becomes
-/// known is rewritten as a known one with the colour of a solved one, a couple has its number; texts as typed
-/// stay. Fails with Overflow.
-BodyForces WithResults(BodyForces forces, const BodyResults& results, int decimals);
+/// known counts as found, a couple has its number; texts as typed stay. Fails with Overflow.
+BodyForces WithResults(BodyForces forces, const BodyResults& results);
 
 }  // namespace tavrelo::mechanics::rigid

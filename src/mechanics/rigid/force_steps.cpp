@@ -54,7 +54,7 @@ std::string ForceTextAt(const ForceEntry& entry, std::size_t place) {
 }
 
 // Appends the force that is typed for a point; an empty text gives its point no force.
-std::optional<text::Refusal> AddForceAt(BodyForces& forces, const ForceEntry& entry, std::size_t place,
+std::optional<text::Refusal> AddForceAt(ForceStep& step, const ForceEntry& entry, std::size_t place,
                                         const PointRecord& point, int decimals) {
     const std::string text = ForceTextAt(entry, place);
     if (text.empty())
@@ -65,7 +65,9 @@ std::optional<text::Refusal> AddForceAt(BodyForces& forces, const ForceEntry& en
     auto read = ReadBodyForce(entry.body, point, text, decimals);
     if (const auto* refusal = std::get_if<text::Refusal>(&read))
         return *refusal;
-    forces.push_back(std::get<BodyForce>(std::move(read)));
+    auto& [force, written] = std::get<ReadForce>(read);
+    step.problem.forces.push_back(std::move(force));
+    step.written.push_back(std::move(written));
     return {};
 }
 
@@ -87,20 +89,20 @@ std::optional<text::Refusal> CheckSeries(std::string_view force) {
     return text::Refusal{kNoSeries};
 }
 
-std::variant<ForceRefusal, RigidProblem> WithForces(const RigidProblem& problem, const ForceEntry& entry,
-                                                    int decimals) {
+std::variant<ForceRefusal, ForceStep> WithForces(const RigidProblem& problem, const ForceEntry& entry,
+                                                 int decimals) {
     const std::vector<std::string> points = LettersOf(entry.points);
     if (!Exist(problem, points))
         return ForceRefusal{{kNoPoint}, {}};
     if (auto refusal = CheckForcePoints(problem, entry.body, entry.points))
         return ForceRefusal{*std::move(refusal), {}};
-    RigidProblem longer = problem;
+    ForceStep step{problem, {}};
     for (std::size_t place = 0; place < points.size(); ++place) {
         const PointRecord& point = *FindPoint(problem.structure.points, points[place]);
-        if (auto refusal = AddForceAt(longer.forces, entry, place, point, decimals))
+        if (auto refusal = AddForceAt(step, entry, place, point, decimals))
             return ForceRefusal{*std::move(refusal), place};
     }
-    return longer;
+    return step;
 }
 
 std::vector<std::size_t> ForcesToCopy(const RigidProblem& problem, int body) {

@@ -35,9 +35,14 @@ std::optional<text::Refusal> CheckForcePoints(const RigidProblem& problem, int b
 /// Why the force on the first of several points begins no series; nothing for one that does.
 std::optional<text::Refusal> CheckSeries(std::string_view force);
 
-/// With the forces behind the others; all of them, or none after a refusal. Fails with Overflow.
-std::variant<ForceRefusal, RigidProblem> WithForces(const RigidProblem& problem, const ForceEntry& entry,
-                                                    int decimals);
+/// A problem with forces more, behind the others, and how each new one was written.
+struct ForceStep {
+    RigidProblem problem;
+    std::vector<std::optional<notation::ForceRecord>> written;
+};
+/// Adds all forces of an entry, or none after a refusal. Fails with Overflow.
+std::variant<ForceRefusal, ForceStep> WithForces(const RigidProblem& problem, const ForceEntry& entry,
+                                                 int decimals);
 
 /// The rows (from 0) of the forces of the whole that act on points of the body and that it does not have yet.
 std::vector<std::size_t> ForcesToCopy(const RigidProblem& problem, int body);

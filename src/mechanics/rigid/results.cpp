@@ -20,8 +20,8 @@ std::optional<double> FactorOf(const BodyResults& results, const notation::Unkno
     const auto angle = ValueOf(results, unknown.angle, true);
     if (!magnitude || !angle)
         return {};
-    const bool is_cos = unknown.function == notation::AngleFunction::Cos;
-    return numeric::CheckedMultiply(*magnitude, is_cos ? numeric::CosD(*angle) : numeric::SinD(*angle));
+    return numeric::CheckedMultiply(*magnitude,
+                                    unknown.IsCos() ? numeric::CosD(*angle) : numeric::SinD(*angle));
 }
 
 }  // namespace tavrelo::mechanics::rigid

@@ -260,7 +260,7 @@ void ConfigurationPage::CancelLastVector() {
 }
 
 void ConfigurationPage::EraseStructure() {
-    m_view.Take({});
+    m_view.Take(mechanics::rigid::RigidProblem{});
     Clear();
     m_view.Draw();
     OnErased();

@@ -186,7 +186,7 @@ void DiagramsPage::AddForces() {
         const int box = refused->point ? kForceBox + static_cast<int>(*refused->point) : kPointsBox;
         return m_view.Refuse(refused->refusal, m_controls.txtBody[box]);
     }
-    m_view.Take(std::get<mechanics::rigid::RigidProblem>(std::move(outcome)));
+    m_view.Take(std::get<mechanics::rigid::ForceStep>(std::move(outcome)));
     m_view.Redraw();
     for (int index = kForceBox; index <= kLastValueBox; ++index)
         m_controls.txtBody[index].SetText("");

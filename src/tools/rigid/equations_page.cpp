@@ -18,7 +18,6 @@ namespace {
 using mechanics::rigid::BodyEquations;
 using mechanics::rigid::BodyResults;
 using mechanics::rigid::ChosenBody;
-using mechanics::rigid::RigidProblem;
 
 // Indexes of cmdVMb.
 enum Command { kSolve = 0, kRestore = 1, kNewProblem = 2, kUpdate = 3 };
@@ -141,10 +140,8 @@ void EquationsPage::SolveDCL() {
     const auto results = Results(mechanics::rigid::SolveEquations(system->equations, system->bodies.size()));
     if (!results)
         return;
-    RigidProblem solved = Problem();
-    solved.forces = mechanics::rigid::WithResults(std::move(solved.forces), *results, m_view.Decimals());
+    m_view.TakeSolution(*results);
     Write(*system, *results);
-    m_view.Take(std::move(solved));
     m_view.Redraw();
 }
 

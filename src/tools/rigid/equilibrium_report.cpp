@@ -4,7 +4,6 @@
 #include "text/markup.h"
 #include "text/number_text.h"
 #include "text/symbols.h"
-#include "text/utf8.h"
 
 namespace tavrelo::tools::rigid {
 namespace {
@@ -13,7 +12,6 @@ using frame::Lines;
 using mechanics::rigid::BodyEquation;
 using mechanics::rigid::BodyEquations;
 using mechanics::rigid::BodyResults;
-using mechanics::rigid::BodyTerm;
 using mechanics::rigid::FoundUnknown;
 
 std::string Heading(const std::string& text) { return "\\0100" + text + "\\"; }
@@ -58,10 +56,8 @@ std::string ResultLine(const BodyResults& results, int decimals) {
 }  // namespace
 
 std::string EquationLine(const BodyEquation& equation, int decimals) {
-    mechanics::forces::SumEquation shown = {{}, equation.constant};
-    for (const BodyTerm& term : equation.terms)
-        shown.terms.push_back({term.coef, term.unknown});
-    const std::string text = mechanics::forces::EquationMarkup(shown, NameMarkup, decimals);
+    const std::string text =
+        mechanics::forces::EquationMarkup({equation.terms, equation.constant}, NameMarkup, decimals);
     return std::string(LetterOf(equation.sum)) + (text.starts_with(' ') ? ":" : ": ") + text;
 }
 

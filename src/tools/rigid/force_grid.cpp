@@ -22,10 +22,9 @@ constexpr window::GridColumn kColumns[] = {
 
 void ArrangeForces(window::Grid& grid) { window::ArrangeColumns(grid, kColumns); }
 
-void AddForceRow(window::Grid& grid, const BodyForce& force) {
+void AddForceRow(window::Grid& grid, const BodyForce& force, const ForceLook& look) {
     grid.AddRow({std::to_string(grid.Rows()), std::to_string(force.body), force.point, force.text,
-                 force.force ? force.force->x_text : "", force.force ? force.force->y_text : "",
-                 force.couple ? force.couple->text : ""});
+                 look.x_text, look.y_text, force.couple ? force.couple->text : ""});
 }
 
 void ShowKnownValues(window::Grid& grid, const mechanics::rigid::BodyForces& forces, int decimals) {
@@ -37,8 +36,8 @@ void ShowKnownValues(window::Grid& grid, const mechanics::rigid::BodyForces& for
     for (const BodyForce& force : forces) {
         ++row;
         if (force.force) {
-            show(kXComponent, force.force->force.x.number);
-            show(kYComponent, force.force->force.y.number);
+            show(kXComponent, force.force->x.number);
+            show(kYComponent, force.force->y.number);
         }
         if (force.couple)
             show(kCouple, force.couple->value);

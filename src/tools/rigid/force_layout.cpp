@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <iterator>
 
 #include "drawing/force_color.h"
 #include "notation/clock_direction.h"
-#include "notation/vector_format.h"
 #include "numeric/angles.h"
 #include "numeric/compare.h"
 #include "text/number_text.h"
@@ -17,8 +17,7 @@ namespace {
 
 using mechanics::rigid::BodyForce;
 using mechanics::rigid::Couple;
-using notation::Force;
-using notation::ForceRecord;
+using notation::Knowledge;
 using text::Color;
 using window::Point;
 
@@ -35,65 +34,59 @@ std::string SizeText(double number, int decimals) { return text::RoundedText(std
 
 std::string WithoutSign(const std::string& text) { return text.starts_with('-') ? text.substr(1) : text; }
 
-/// The arrow along one axis of a force that is drawn by its components; its label carries no sign, so the
-/// arrow does.
-struct ComponentArrow {
-    notation::ForceComponent Force::*component;
-    int positive_hour;
+/// A force in view, how it is shown, and where its point stands.
+struct SeenForce {
+    const BodyForce& row;
+    const ForceLook& look;
+    Point place;
 };
-constexpr ComponentArrow kComponentArrows[] = {{&Force::x, notation::kHourRight},
-                                               {&Force::y, notation::kHourUp}};
 
-Color ColorOf(const notation::ForceComponent& component) {
-    if (!component.number)
-        return drawing::kUnknownColor;
-    return component.unknown.IsNone() ? drawing::kGivenColor : drawing::kFoundColor;
-}
-
-void AddComponent(std::vector<ForceArrow>& arrows, const ForceRecord& record, const ComponentArrow& axis,
-                  int decimals) {
-    const notation::ForceComponent& component = record.force.*axis.component;
+/// The arrow along one axis of a force that is drawn by its components; its label carries no sign, so the
+/// arrow does. Nothing for a component of no size.
+std::optional<ForceArrow> ComponentArrow(const notation::ForceComponent& component, int positive_hour,
+                                         bool leaves, int decimals) {
     const double number = component.number.value_or(component.coefficient);
     if (component.number && numeric::NearEq(number, 0, kNoComponent))
-        return;
-    const int hour = number < 0 ? notation::OppositeHour(axis.positive_hour) : axis.positive_hour;
-    arrows.push_back({{hour, 0, record.leaves},
-                      ColorOf(component),
+        return {};
+    const int hour = number < 0 ? notation::OppositeHour(positive_hour) : positive_hour;
+    const Knowledge known = component.unknown.IsNone() ? Knowledge::Given : Knowledge::Found;
+    return ForceArrow{{hour, 0, leaves},
+                      drawing::ColorOf(component.number ? known : Knowledge::Unknown),
                       component.number ? SizeText(number, decimals)
-                                       : text::SymbolMarkup(number, component.unknown.magnitude, decimals)});
+                                       : text::SymbolMarkup(number, component.unknown.magnitude, decimals)};
 }
 
 /// A force given by components shows these while one of them is unknown.
-bool IsDrawnByComponents(const ForceRecord& record) {
-    return !record.force.HasComponents() && !record.force.x.unknown.HasAngle() &&
-           (record.code == notation::kComponents || !record.clock);
+bool IsDrawnByComponents(const notation::Force& force, const ForceLook& look) {
+    return !force.HasComponents() && !force.x.unknown.HasAngle() && (look.by_components || !look.clock);
 }
 
 /// The clock reading of a force; of the direction that the user wants, or of the default one, while its own
 /// is unknown.
-numeric::ClockReading ReadingOf(const ForceRecord& record, std::optional<double> wanted) {
-    if (record.clock)
-        return *record.clock;
-    const double direction = wanted.value_or(kDefaultDrawDirection);
+numeric::ClockReading ReadingOf(const ForceLook& look) {
+    if (look.clock)
+        return *look.clock;
+    const double direction = look.asked_direction.value_or(kDefaultDirection);
     return numeric::ClockOf(numeric::CosD(direction), numeric::SinD(direction));
 }
 
-ForceArrow WholeArrow(const ForceRecord& record, std::optional<double> wanted, int decimals) {
-    const std::optional<double>& magnitude = record.force.magnitude;
-    numeric::ClockReading reading = ReadingOf(record, wanted);
-    if (magnitude && *magnitude < 0)
+ForceArrow WholeArrow(const notation::Force& force, const ForceLook& look, int decimals) {
+    numeric::ClockReading reading = ReadingOf(look);
+    if (force.magnitude && *force.magnitude < 0)
         reading.hour = notation::OppositeHour(reading.hour);
-    return {{reading.hour, reading.angle, record.leaves},
-            drawing::ColorOf(record.force.knowledge),
-            magnitude ? SizeText(*magnitude, decimals) : WithoutSign(record.label)};
+    return {{reading.hour, reading.angle, look.leaves},
+            drawing::ColorOf(force.knowledge),
+            force.magnitude ? SizeText(*force.magnitude, decimals) : WithoutSign(look.label)};
 }
 
-std::vector<ForceArrow> ArrowsOf(const ForceRecord& record, std::optional<double> wanted, int decimals) {
+std::vector<ForceArrow> ArrowsOf(const notation::Force& force, const ForceLook& look, int decimals) {
+    if (!IsDrawnByComponents(force, look))
+        return {WholeArrow(force, look, decimals)};
     std::vector<ForceArrow> arrows;
-    if (!IsDrawnByComponents(record))
-        return {WholeArrow(record, wanted, decimals)};
-    for (const ComponentArrow& axis : kComponentArrows)
-        AddComponent(arrows, record, axis, decimals);
+    for (const auto& [component, hour] :
+         {std::pair{&force.x, notation::kHourRight}, {&force.y, notation::kHourUp}})
+        if (auto arrow = ComponentArrow(*component, hour, look.leaves, decimals))
+            arrows.push_back(*std::move(arrow));
     return arrows;
 }
 
@@ -104,20 +97,14 @@ std::string LabelOf(const Couple& couple, int decimals) {
                             : text::SymbolMarkup(1, couple.symbol, decimals);
 }
 
-/// A force in view and where its point stands.
-struct SeenForce {
-    const BodyForce& row;
-    std::optional<double> wanted;  // direction
-    Point place;
-};
-
 std::vector<SeenForce> ForcesInView(const RigidScene& scene, const PointPlaces& places) {
     std::vector<SeenForce> seen;
-    for (std::size_t i = 0; i < scene.problem.forces.size(); ++i) {
+    const std::size_t count = std::min(scene.problem.forces.size(), scene.view.looks.size());
+    for (std::size_t i = 0; i < count; ++i) {
         const BodyForce& row = scene.problem.forces[i];
         const std::optional<Point> place = places.Find(row.point);
         if (place && scene.view.IsShown(row.body))
-            seen.push_back({row, scene.view.DirectionOf(i), *place});
+            seen.push_back({row, scene.view.looks[i], *place});
     }
     return seen;
 }
@@ -127,7 +114,7 @@ using RowLabels = std::vector<WantedLabel>;
 RowLabels AddForce(DiagramLayout& layout, const SeenForce& force, int decimals) {
     RowLabels labels;
     if (force.row.force)
-        for (const ForceArrow& arrow : ArrowsOf(*force.row.force, force.wanted, decimals))
+        for (const ForceArrow& arrow : ArrowsOf(*force.row.force, force.look, decimals))
             labels.push_back(
                 {arrow.label, layout.AddForce(force.place, arrow.sense, arrow.color), arrow.color});
     return labels;
@@ -139,10 +126,6 @@ WantedLabel AddCouple(DiagramLayout& layout, Point place, const Couple& couple, 
 }
 
 }  // namespace
-
-bool NeedsDrawDirection(const BodyForce& force) {
-    return force.force && force.force->force.x.unknown.HasAngle();
-}
 
 void AddForces(DiagramLayout& layout, const RigidScene& scene, const PointPlaces& places) {
     const std::vector<SeenForce> seen = ForcesInView(scene, places);

@@ -18,9 +18,9 @@ constexpr const char* kDirectionQuestion = "¿A qué ángulo deseas trazar esta 
 /// The direction that the user answered with; the default one for an answer that is no number.
 double DirectionOf(const std::optional<std::string>& answer) {
     if (!answer || !text::IsNum(*answer))
-        return kDefaultDrawDirection;
+        return kDefaultDirection;
     const text::LiteralReading reading = text::ReadLiteral(*answer);
-    return reading.failure ? kDefaultDrawDirection : reading.value;
+    return reading.failure ? kDefaultDirection : reading.value;
 }
 
 }  // namespace
@@ -30,43 +30,59 @@ ProblemInView::ProblemInView(window::Form1& form) : m_form(form), m_controls(for
 }
 
 void ProblemInView::Take(RigidProblem problem) {
-    const std::size_t before = m_problem.forces.size();
     m_problem = std::move(problem);
-    m_view.directions.resize(m_problem.forces.size());
-    m_view.backup_directions.resize(m_problem.backup.size());
-    if (m_problem.forces.empty())
-        ArrangeForces(m_controls.gd1);
-    for (std::size_t row = before; row < m_problem.forces.size(); ++row)
-        AddForceRow(m_controls.gd1, m_problem.forces[row]);
+    if (!m_problem.forces.empty())
+        return;
+    m_view.looks.clear();
+    m_view.backup_looks.clear();
+    ArrangeForces(m_controls.gd1);
+}
+
+void ProblemInView::Take(mechanics::rigid::ForceStep step) {
+    m_problem = std::move(step.problem);
+    for (const auto& written : step.written)
+        ShowNewForce(LookOf(written));
 }
 
 void ProblemInView::CopyForces(std::span<const std::size_t> rows, int body) {
-    Take(mechanics::rigid::WithCopies(m_problem, rows, body));
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        m_view.directions[m_view.directions.size() - rows.size() + i] = m_view.DirectionOf(rows[i]);
+    m_problem = mechanics::rigid::WithCopies(m_problem, rows, body);
+    for (const std::size_t row : rows)
+        ShowNewForce(m_view.looks[row]);
+}
+
+/// The first force without a look takes this one and a row of the table.
+void ProblemInView::ShowNewForce(ForceLook look) {
+    AddForceRow(m_controls.gd1, m_problem.forces[m_view.looks.size()], look);
+    m_view.looks.push_back(std::move(look));
+}
+
+void ProblemInView::TakeSolution(const mechanics::rigid::BodyResults& results) {
+    m_problem.forces = mechanics::rigid::WithResults(m_problem.forces, results);
+    for (std::size_t row = 0; row < m_problem.forces.size(); ++row)
+        m_view.looks[row] = SolvedLook(m_view.looks[row], m_problem.forces[row], Decimals());
 }
 
 void ProblemInView::RemoveForce(std::size_t row) {
     if (row >= m_problem.forces.size())
         return;
     m_problem = mechanics::rigid::WithoutForce(std::move(m_problem), row);
-    m_view.directions.erase(m_view.directions.begin() + static_cast<std::ptrdiff_t>(row));
+    m_view.looks.erase(m_view.looks.begin() + static_cast<std::ptrdiff_t>(row));
     m_controls.gd1.RemoveNumberedRow(static_cast<int>(row) + 1);
 }
 
 void ProblemInView::Backup() {
     m_problem = mechanics::rigid::WithBackup(std::move(m_problem));
-    m_view.backup_directions = m_view.directions;
+    m_view.backup_looks = m_view.looks;
 }
 
 void ProblemInView::Restore() {
     if (m_problem.backup.empty())
         return;
     m_problem = mechanics::rigid::Restored(std::move(m_problem));
-    m_view.directions = m_view.backup_directions;
+    m_view.looks.clear();
     ArrangeForces(m_controls.gd1);
-    for (const mechanics::rigid::BodyForce& force : m_problem.forces)
-        AddForceRow(m_controls.gd1, force);
+    for (const ForceLook& look : m_view.backup_looks)
+        ShowNewForce(look);
     Redraw();
 }
 
@@ -99,9 +115,10 @@ void ProblemInView::Redraw() {
 void ProblemInView::AskDrawDirections() {
     for (std::size_t row = 0; row < m_problem.forces.size(); ++row) {
         const mechanics::rigid::BodyForce& force = m_problem.forces[row];
-        std::optional<double>& direction = m_view.directions[row];
-        if (!direction && m_view.IsShown(force.body) && NeedsDrawDirection(force))
-            direction = DirectionOf(m_form.boxes.AskText(kDirectionQuestion, window::kProgramTitle));
+        ForceLook& look = m_view.looks[row];
+        if (m_view.IsShown(force.body) && NeedsDirection(force, look))
+            look.asked_direction =
+                DirectionOf(m_form.boxes.AskText(kDirectionQuestion, window::kProgramTitle));
     }
 }
 

@@ -20,8 +20,12 @@ class ProblemInView {
     window::Form1& Form() { return m_form; }
     int Decimals() const { return m_form.publics.Decimals; }
 
-    /// A step led to this problem: the forces are the ones that stand there, then new ones, or none at all.
+    /// A step of the configuration led to this problem: its forces are as they were, or there are none.
     void Take(mechanics::rigid::RigidProblem problem);
+    /// A step added forces.
+    void Take(mechanics::rigid::ForceStep step);
+    /// The unknowns were found.
+    void TakeSolution(const mechanics::rigid::BodyResults& results);
     /// The forces of these rows (from 0) act on the body too; each is drawn as its original.
     void CopyForces(std::span<const std::size_t> rows, int body);
     /// The force of that row (from 0) goes; the rows below close up.
@@ -51,6 +55,7 @@ class ProblemInView {
 
   private:
     void AskDrawDirections();
+    void ShowNewForce(ForceLook look);
 
     window::Form1& m_form;
     SharedControls m_controls;

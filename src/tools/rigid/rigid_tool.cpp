@@ -54,7 +54,7 @@ void RigidTool::NewEstcrProblem() {
     if (!window::Confirm(m_form.boxes, "Confirmar borrado de todo."))
         return;
     m_view.HideAll();
-    m_view.Take({});
+    m_view.Take(mechanics::rigid::RigidProblem{});
     m_configuration.Clear();
     m_diagrams.RestoreDCLCtrls();
     m_diagrams.Enter();

@@ -368,24 +368,17 @@ TEST(SolveEquations, FailsOnResultsPastTheRangeOfNumbers) {
 
 // --- What the results change
 
-TEST(WithResults, RewritesAForceThatBecomesKnown) {
-    BodyForces forces = {RowAt(4, 0, "s30x,2F")};
-    forces = WithResults(forces, {{"f", 7}, {"F", -10}}, 2);
-    const notation::ForceRecord record = forces[0].force.value();
-    const notation::Force& force = record.force;
+TEST(WithResults, CompletesAForceThatBecomesKnown) {
+    const BodyForces forces = WithResults({RowAt(4, 0, "s30x,2F")}, {{"f", 7}, {"F", -10}});
+    const notation::Force& force = forces[0].force.value();
     // 20 at 150 degrees, pushed: 20 at -30.
     EXPECT_NEAR(force.x.number.value(), 10 * std::sqrt(3), kTolerance);
     EXPECT_NEAR(force.y.number.value(), -10, kTolerance);
     EXPECT_NEAR(force.magnitude.value(), 20, kTolerance);
     EXPECT_NEAR(force.direction.value(), -30, kTolerance);
-    EXPECT_EQ(record.clock.value().hour, 4);
-    EXPECT_NEAR(record.clock.value().angle, 30, kTolerance);
     EXPECT_TRUE(force.x.unknown.IsNone());
     EXPECT_TRUE(force.y.unknown.IsNone());
-    EXPECT_EQ(record.x_text, "17.32");
-    EXPECT_EQ(record.y_text, "-10");
     EXPECT_EQ(force.knowledge, notation::Knowledge::Found);
-    EXPECT_EQ(record.given_text, "s30x,2F");
     EXPECT_EQ(forces[0].text, "s30x,2F");
 }
 
@@ -400,27 +393,27 @@ TEST(WithResults, PutsValuesWhereverTheirSymbolsStand) {
     };
     const double q = std::asin(0.6) * 180 / std::numbers::pi;
     for (const Row& row : rows) {
-        BodyForces forces = {RowAt(0, 0, row.text, 3)};
-        const bool was_given = forces[0].force->force.knowledge == notation::Knowledge::Given;
-        forces =
-            WithResults(forces, {{"F", 30}, {"f1", 20}, {"F1", 20}, {"Q", q, true}, {"Q", 999}}, kDecimals);
-        const notation::Force& force = forces[0].force->force;
-        EXPECT_NEAR(force.x.number.value(), row.x, kTolerance) << row.text;
-        EXPECT_NEAR(force.y.number.value(), row.y, kTolerance) << row.text;
-        EXPECT_EQ(force.knowledge, was_given ? notation::Knowledge::Given : notation::Knowledge::Found)
+        const BodyForce typed = RowAt(0, 0, row.text, 3);
+        const bool was_given = typed.force->knowledge == notation::Knowledge::Given;
+        const BodyForces forces =
+            WithResults({typed}, {{"F", 30}, {"f1", 20}, {"F1", 20}, {"Q", q, true}, {"Q", 999}});
+        EXPECT_NEAR(forces[0].force->x.number.value(), row.x, kTolerance) << row.text;
+        EXPECT_NEAR(forces[0].force->y.number.value(), row.y, kTolerance) << row.text;
+        EXPECT_EQ(forces[0].force->knowledge,
+                  was_given ? notation::Knowledge::Given : notation::Knowledge::Found)
             << row.text;
     }
 }
 
 TEST(WithResults, KeepsWhatIsStillUnknown) {
-    BodyForces forces = {RowAt(0, 0, "F,G"), RowAt(0, 0, "F<A"), RowAt(0, 0, "hf"), RowAt(0, 0, "20<F")};
-    forces = WithResults(forces, {{"F", 30}}, kDecimals);
-    EXPECT_EQ(forces[0].force->force.x.number, 30);
-    EXPECT_FALSE(forces[0].force->force.y.number);
+    const BodyForces forces = WithResults(
+        {RowAt(0, 0, "F,G"), RowAt(0, 0, "F<A"), RowAt(0, 0, "hf"), RowAt(0, 0, "20<F")}, {{"F", 30}});
+    EXPECT_EQ(forces[0].force->x.number, 30);
+    EXPECT_FALSE(forces[0].force->y.number);
     for (const BodyForce& row : forces)
-        EXPECT_EQ(row.force->force.knowledge, notation::Knowledge::Unknown) << row.text;
+        EXPECT_EQ(row.force->knowledge, notation::Knowledge::Unknown) << row.text;
     for (std::size_t i = 1; i < forces.size(); ++i)
-        EXPECT_FALSE(forces[i].force->force.x.number) << forces[i].text;
+        EXPECT_FALSE(forces[i].force->x.number) << forces[i].text;
 }
 
 TEST(WithResults, GivesACoupleItsValue) {
@@ -433,9 +426,9 @@ TEST(WithResults, GivesACoupleItsValue) {
     };
     for (const Row& row : rows) {
         BodyForces forces = {RowAt(0, 0, row.text)};
-        const std::optional<notation::ForceRecord> force = forces[0].force;
+        const std::optional<notation::Force> force = forces[0].force;
         const Couple typed = forces[0].couple.value();
-        forces = WithResults(forces, {{"MA", 250}, {"Q", 30, true}}, kDecimals);
+        forces = WithResults(forces, {{"MA", 250}, {"Q", 30, true}});
         EXPECT_EQ(forces[0].couple->value, row.value) << row.text;
         EXPECT_EQ(forces[0].couple->text, typed.text) << row.text;
         EXPECT_EQ(forces[0].couple->symbol, typed.symbol) << row.text;
@@ -445,7 +438,7 @@ TEST(WithResults, GivesACoupleItsValue) {
 
 TEST(WithResults, FailsPastTheRangeOfNumbers) {
     EXPECT_EQ(FailureOf([&] {
-                  WithResults({RowAt(0, 0, "hA"), RowAt(0, 0, "vB")}, {{"A", 5}, {"B", 1e300}}, kDecimals);
+                  WithResults({RowAt(0, 0, "hA"), RowAt(0, 0, "vB")}, {{"A", 5}, {"B", 1e300}});
               }),
               numeric::FailureCode::Overflow);
 }
@@ -492,8 +485,7 @@ Wrench TotalOf(const BodyForces& forces, int body) {
     for (const BodyForce& row : forces)
         if (row.body == body) {
             if (row.force)
-                total = total + At({row.x, row.y}, row.force->force.x.number.value(),
-                                   row.force->force.y.number.value());
+                total = total + At({row.x, row.y}, row.force->x.number.value(), row.force->y.number.value());
             if (row.couple)
                 total.m += row.couple->value.value();
         }
@@ -535,12 +527,12 @@ TEST(BodyPhysics, TwoBodiesJoinedByAPinStandStillWithTheirReactions) {
         const Place about = random.Point();
         const auto outcome = Solved(forces, {{4, false, about.x, about.y}, {2, false, about.y, about.x}});
         ASSERT_TRUE(std::holds_alternative<BodyResults>(outcome)) << RefusalText(outcome);
-        forces = WithResults(forces, std::get<BodyResults>(outcome), kDecimals);
+        forces = WithResults(forces, std::get<BodyResults>(outcome));
         ExpectEquilibrium(forces, 2);
         ExpectEquilibrium(forces, 4);
         // About the pin the roller alone holds the load.
         const double moment = (load.x - pin.x) * fy - (load.y - pin.y) * fx + couple;
-        EXPECT_NEAR(forces[4].force->force.magnitude.value(), std::abs(moment / arm), kResidual);
+        EXPECT_NEAR(forces[4].force->magnitude.value(), std::abs(moment / arm), kResidual);
     }
 }
 
@@ -637,7 +629,7 @@ TEST(BodyPhysics, EveryKindOfAngleFindsTheAnswerItsProblemWasBuiltFrom) {
             for (const BodyResults& results : ResultsOf(outcome)) {
                 found = found || IsNear(results, problem->answer);
                 BodyForces forces = problem->forces;
-                forces = WithResults(forces, results, kDecimals);
+                forces = WithResults(forces, results);
                 ExpectEquilibrium(forces, 1);
             }
             EXPECT_TRUE(found) << RefusalText(outcome);

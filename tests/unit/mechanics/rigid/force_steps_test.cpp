@@ -20,7 +20,7 @@ RigidProblem Beam() {
 
 RigidProblem With(const RigidProblem& problem, int body, const char* points, const char* force,
                   const Texts& values = {}) {
-    return std::get<RigidProblem>(WithForces(problem, {body, points, force, values}, kDecimals));
+    return std::get<ForceStep>(WithForces(problem, {body, points, force, values}, kDecimals)).problem;
 }
 
 ForceRefusal RefusalOf(int body, const char* points, const char* force, const Texts& values = {}) {
@@ -47,6 +47,17 @@ TEST(WithForces, AddsASeriesAndNothingForAnEmptyValue) {
     EXPECT_EQ(TextsOf(With(Beam(), 1, "AB", "h5").forces), (Texts{"1A h5"}));
     // Without a further value any force will do.
     EXPECT_EQ(TextsOf(With(Beam(), 1, "AB", "3,4", {""}).forces), (Texts{"1A 3,4"}));
+}
+
+TEST(WithForces, TellsHowEachNewForceWasWritten) {
+    const auto step =
+        std::get<ForceStep>(WithForces(With(Beam(), 1, "A", "v1"), {1, "BC", "h-5:", Texts{"F"}}, kDecimals));
+    ASSERT_EQ(step.written.size(), 2u);
+    EXPECT_FALSE(step.written[0]->leaves);
+    EXPECT_EQ(step.written[1]->x_text, "F");
+    const auto couple = std::get<ForceStep>(WithForces(Beam(), {1, "B", "250", {}}, kDecimals));
+    ASSERT_EQ(couple.written.size(), 1u);
+    EXPECT_FALSE(couple.written[0]);
 }
 
 TEST(WithForces, RefusesPointsThatAreNone) {

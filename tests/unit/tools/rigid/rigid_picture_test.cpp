@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "seen_picture.h"
-#include "tools/rigid/force_layout.h"
 #include "tools/rigid/structure_layout.h"
 
 namespace tavrelo::tools::rigid {
@@ -257,7 +256,7 @@ TEST(RigidPicture, TheArrowsOfATextAtAPoint) {
 
 TEST(RigidPicture, ANegativeMagnitudeTakesTheOppositeHour) {
     DrawnProblem beam = BeamWith("p30x,40");
-    beam.problem.forces[0].force->force.magnitude = -40.0;
+    beam.problem.forces[0].force->magnitude = -40.0;
     const Seen seen = beam.Draw();
     EXPECT_NEAR(seen.forces.at(0).Degrees(), 210, 1e-6);
     EXPECT_EQ(seen.Text("40").text, "40");
@@ -265,8 +264,8 @@ TEST(RigidPicture, ANegativeMagnitudeTakesTheOppositeHour) {
 
 TEST(RigidPicture, SolvedForcesAreMagenta) {
     DrawnProblem beam = BeamWith("vB/MB");
-    beam.problem.forces[0].force->force.magnitude = 12.3456;
-    beam.problem.forces[0].force->force.knowledge = notation::Knowledge::Found;
+    beam.problem.forces[0].force->magnitude = 12.3456;
+    beam.problem.forces[0].force->knowledge = notation::Knowledge::Found;
     beam.problem.forces[0].couple->value = -7.5;
     const Seen seen = beam.Draw();
     EXPECT_EQ(seen.forces.at(0).color, kMagenta);
@@ -277,7 +276,7 @@ TEST(RigidPicture, SolvedForcesAreMagenta) {
 /// By has no value yet, but Bx has.
 TEST(RigidPicture, AFoundComponentBesideAnUnknownOne) {
     DrawnProblem beam = BeamWith("Bx,By");
-    beam.problem.forces[0].force->force.x.number = -8.0;
+    beam.problem.forces[0].force->x.number = -8.0;
     const Seen seen = beam.Draw();
     ASSERT_EQ(seen.forces.size(), 2u);
     EXPECT_NEAR(seen.forces[0].Degrees(), 180, 1e-6);
@@ -288,15 +287,15 @@ TEST(RigidPicture, AFoundComponentBesideAnUnknownOne) {
 
 TEST(RigidPicture, AnUnknownDirectionIsDrawnWhereTheUserWants) {
     DrawnProblem beam = BeamWith("20<q");
-    beam.view.directions[0] = 120;
+    beam.view.looks[0].asked_direction = 120;
     EXPECT_NEAR(beam.Draw().forces.at(0).Degrees(), 120, 1e-6);
 }
 
 TEST(RigidPicture, OnlyUnknownDirectionsAreAskedFor) {
     for (const char* text : {"v-20", "Bx,By", "hB", "p30x,F", "250", "MB", "hLARGA"})
-        EXPECT_FALSE(NeedsDrawDirection(BeamWith(text).problem.forces[0])) << text;
+        EXPECT_FALSE(NeedsDirection(BeamWith(text).problem.forces[0], {})) << text;
     for (const char* text : {"20<q", "F<q", "uq", "F<q:/30"})
-        EXPECT_TRUE(NeedsDrawDirection(BeamWith(text).problem.forces[0])) << text;
+        EXPECT_TRUE(NeedsDirection(BeamWith(text).problem.forces[0], {})) << text;
 }
 
 TEST(RigidPicture, BodiesOutOfViewDrawNothing) {

@@ -146,9 +146,10 @@ struct DrawnProblem {
         return *this;
     }
     DrawnProblem& Force(int body, const char* point, const char* text) {
-        problem.forces.push_back(std::get<mechanics::rigid::BodyForce>(mechanics::rigid::ReadBodyForce(
-            body, *mechanics::rigid::FindPoint(problem.structure.points, point), text, 3)));
-        view.directions.emplace_back();
+        const auto read = std::get<mechanics::rigid::ReadForce>(mechanics::rigid::ReadBodyForce(
+            body, *mechanics::rigid::FindPoint(problem.structure.points, point), text, 3));
+        problem.forces.push_back(read.force);
+        view.looks.push_back(LookOf(read.written));
         return *this;
     }
     DrawnProblem& Show(std::initializer_list<int> bodies) {
