@@ -1,5 +1,6 @@
 #include "acts.h"
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -149,6 +150,33 @@ std::string AroundTheWindow(const transcript::Driver& /*driver*/, Chance& chance
     }
 }
 
+/// What begins anew or leads away, and labels, which do little: pressed as often as anything else they would
+/// let no problem grow.
+bool IsSeldom(const Control& control) {
+    constexpr std::string_view kNames[] = {"Image1",        "cmdTable(",    "cmdNewMruaProbl",
+                                           "cmdEraseTable", "cmdEraseEqns", "cmdParts(7)",
+                                           "cmdVMb(2)",     "cmdConfig(",   "cmdCloseForm2"};
+    return control.Kind() == window::ControlKind::Label ||
+           std::ranges::any_of(kNames,
+                               [&](std::string_view name) { return control.Name().starts_with(name); });
+}
+constexpr std::size_t kSeldom = 8;
+
+/// The work of a tool is done on its strip and in its table: a third of the acts falls on them.
+const Control& Chosen(std::span<const Control* const> reachable, Chance& chance) {
+    constexpr std::string_view kWorkplaces[] = {"picAccel",   "Gd2",        "txtVector",
+                                                "txtSegm(1)", "txtBody(2)", "gd"};
+    if (chance.OneIn(3)) {
+        std::vector<const Control*> workplaces;
+        for (const Control* control : reachable)
+            if (std::ranges::find(kWorkplaces, control->Name()) != std::end(kWorkplaces))
+                workplaces.push_back(control);
+        if (!workplaces.empty())
+            return *chance.Of(std::span<const Control* const>(workplaces));
+    }
+    return *chance.Of(reachable);
+}
+
 }  // namespace
 
 std::string RandomAct(transcript::Driver& driver, Chance& chance) {
@@ -159,9 +187,8 @@ std::string RandomAct(transcript::Driver& driver, Chance& chance) {
         if (driver.IsReachable(*control))
             reachable.push_back(control);
     for (;;) {
-        const Control& control = *chance.Of(std::span<const Control* const>(reachable));
-        // The toolbar is one control among many, and labels do little.
-        if (control.Kind() == window::ControlKind::Label && !chance.OneIn(8))
+        const Control& control = Chosen(reachable, chance);
+        if (IsSeldom(control) && !chance.OneIn(kSeldom))
             continue;
         const std::string act = On(control, chance);
         if (!act.empty())

@@ -290,6 +290,8 @@ void Projectile::ShowModes() {
 }
 
 void Projectile::EnterCell() {
+    if (view.column < 1)
+        return;  // the column of labels
     const bool components = m_problem.ModeOf(view.column) == SpeedMode::Components;
     const auto& labels = components ? kComponentLabels : kPolarLabels;
     for (std::size_t k = 0; k < std::size(kSpeedRows); ++k)
