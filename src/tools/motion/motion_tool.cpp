@@ -93,6 +93,7 @@ frame::ToolHooks Motion::Hooks() {
 }
 
 void Motion::Enter() {
+    m_dragged = 0;
     DropPicks();
     m_panel.Enter(*this);
     ShowAccelerations();

@@ -33,8 +33,10 @@ class Motion : public frame::PointsTool {
     frame::ToolHooks Hooks();
     const mechanics::motion::Problem& Problem() const { return m_problem; }
     mechanics::motion::Procedure CurrentProcedure() const { return m_procedure; }
-    /// Whether the first of two clicks of a procedure was made.
-    bool HasFirstPoint() const { return m_first_point.IsWaiting(); }
+    /// Clicks made of the two that the procedure takes, 0 when another one is in use.
+    int PicksOf(mechanics::motion::Procedure procedure) const {
+        return m_procedure == procedure && m_first_point.IsWaiting() ? 1 : 0;
+    }
     /// The solution in view in the panel of results, 1 or 2; 0 before there was one.
     int SolutionShown() const;
     /// The button of the configuration in force, 4 for none.
