@@ -93,13 +93,18 @@ std::vector<Point> HeadAt(Point tip, double cos, double sin, int width) {
 
 std::string WithoutSign(const std::string& label) { return label.starts_with('-') ? label.substr(1) : label; }
 
-void PrintArrowLabel(Surface& surface, const Arrow& arrow, Point free_end, int octant) {
-    const std::string label = WithoutSign(arrow.label);
+/// Top left corner of a label at the free end of an arrow whose outward direction has that hour.
+Point LabelCorner(const std::string& label, Point free_end, int octant) {
     const text::Font font = LabelFont();
     const LabelPlace& place = kLabelPlaces[Slot(octant)];
-    const double x = free_end.x + place.widths * text::MarkupWidth(label, font) + place.dx;
-    const double y = free_end.y + place.heights * text::TextHeight(font) + place.dy;
-    PrintLabel(surface, label, x, y, font, arrow.color);
+    return {free_end.x + place.widths * text::MarkupWidth(label, font) + place.dx,
+            free_end.y + place.heights * text::TextHeight(font) + place.dy};
+}
+
+/// Radians of a clock hour and the degrees from its axis.
+double DirectionOf(int hour, double angle) {
+    const HourBase& base = kHourBases[Slot(hour)];
+    return base.radians + base.sign * angle * kRadiansPerDegree;
 }
 
 }  // namespace
@@ -124,6 +129,23 @@ void PrintLabel(Surface& surface, const std::string& markup, double x, double y,
     surface.ForeColor = kept_color;
 }
 
+ArrowPlace PlaceOf(const Arrow& arrow, Point pen) {
+    const double direction = DirectionOf(arrow.hour, arrow.angle);
+    const double cos = std::cos(direction);
+    const double sin = std::sin(direction);
+    const double length = arrow.length * DrawEng::kPixPerUnit;
+    const double outward = arrow.leaves ? 1 : -1;
+    const Point end{pen.x + outward * length * cos, pen.y - outward * length * sin};
+    ArrowPlace place;
+    place.tail = arrow.leaves ? pen : end;
+    place.tip = arrow.leaves ? end : pen;
+    place.free_end = end;
+    place.head = HeadAt(place.tip, cos, sin, arrow.width);
+    place.label = WithoutSign(arrow.label);
+    place.label_corner = LabelCorner(place.label, end, numeric::ClockOf(outward * cos, outward * sin).hour);
+    return place;
+}
+
 void DrawEng::MoveTo(Surface& surface, double x, double y, double scale) const {
     surface.CurrentX = x * scale;
     surface.CurrentY = y * scale;
@@ -142,8 +164,7 @@ void DrawEng::ClearPen() {
 }
 
 void DrawEng::SetDirection(int hour, double angle) {
-    const HourBase& base = kHourBases[Slot(hour)];
-    const double direction = base.radians + base.sign * angle * kRadiansPerDegree;
+    const double direction = DirectionOf(hour, angle);
     m_hour = hour;
     m_cos = std::cos(direction);
     m_sin = std::sin(direction);
@@ -151,26 +172,19 @@ void DrawEng::SetDirection(int hour, double angle) {
 
 void DrawEng::DrawArrow(Surface& surface, const Arrow& arrow) {
     SetDirection(arrow.hour, arrow.angle);
-    const double length = arrow.length * kPixPerUnit;
-    const Point pen{surface.CurrentX, surface.CurrentY};
-    const Point step{length * m_cos, -length * m_sin};
-    const Point tail = arrow.leaves ? pen : Point{pen.x - step.x, pen.y - step.y};
-    const Point tip = arrow.leaves ? Point{pen.x + step.x, pen.y + step.y} : pen;
-
+    const ArrowPlace place = PlaceOf(arrow, {surface.CurrentX, surface.CurrentY});
     surface.DrawWidth = arrow.width;
-    surface.Line(tail.x, tail.y, tip.x, tip.y, arrow.color);
+    surface.Line(place.tail.x, place.tail.y, place.tip.x, place.tip.y, arrow.color);
     surface.DrawWidth = 1;
     surface.FillColor = arrow.color;
-    surface.Polygon(HeadAt(tip, m_cos, m_sin, arrow.width));
-    if (!arrow.label.empty()) {
-        const double outward = arrow.leaves ? 1 : -1;
-        const int octant = numeric::ClockOf(outward * m_cos, outward * m_sin).hour;
-        PrintArrowLabel(surface, arrow, arrow.leaves ? tip : tail, octant);
-    }
-    m_pen_x = tip.x;
-    m_pen_y = tip.y;
+    surface.Polygon(place.head);
+    if (!place.label.empty())
+        PrintLabel(surface, place.label, place.label_corner.x, place.label_corner.y, LabelFont(),
+                   arrow.color);
+    m_pen_x = place.tip.x;
+    m_pen_y = place.tip.y;
     if (arrow.registered)
-        RegisterShape("Flecha", tail.x, tail.y, tip.x, tip.y);
+        RegisterShape("Flecha", place.tail.x, place.tail.y, place.tip.x, place.tip.y);
 }
 
 void DrawEng::DrawLine(Surface& surface, double length, int hour, double angle, Color color) {

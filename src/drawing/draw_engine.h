@@ -20,6 +20,17 @@ struct Arrow {
     bool registered = true;  // kept in the list of shapes
 };
 
+/// Where an arrow lies, in pixels from the top left.
+struct ArrowPlace {
+    window::Point tail, tip;
+    window::Point free_end;           // the one that is not at the pen: there the label belongs
+    std::vector<window::Point> head;  // its outline: the tip and the two rear points
+    std::string label;                // without the sign, for the direction shows it
+    window::Point label_corner;       // top left one of the label
+};
+/// The place of an arrow drawn from, or to, that pen.
+ArrowPlace PlaceOf(const Arrow& arrow, window::Point pen);
+
 /// A shape that was drawn, by number and name ("3-Flecha"), in pixels from the top left.
 struct ShapeRecord {
     std::string key;

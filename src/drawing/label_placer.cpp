@@ -119,6 +119,19 @@ Point LabelPlacer::FreeSide(Point place) const {
     return side;
 }
 
+std::optional<PlacedLabel> LabelPlacer::PlaceAt(const std::string& markup, Point corner, text::Color color) {
+    const text::Font font = LabelFont();
+    const double width = text::MarkupWidth(markup, font);
+    const double height = text::TextHeight(font);
+    const double left = std::max(0.0, std::min(corner.x, m_width - width));
+    const double top = std::max(0.0, std::min(corner.y, m_height - height));
+    const Area area{left, top, left + width, top + height};
+    if (!IsClear(area))
+        return {};
+    m_labels.push_back(area);
+    return PlacedLabel{markup, left, top, color};
+}
+
 PlacedLabel LabelPlacer::Place(const std::string& markup, Point anchor, Point outward, text::Color color,
                                double radius) {
     const text::Font font = LabelFont();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,10 @@ class LabelPlacer {
     /// side nevertheless.
     [[nodiscard]] PlacedLabel Place(const std::string& markup, window::Point anchor, window::Point outward,
                                     text::Color color, double radius = 0);
+
+    /// The label with its top left corner there, moved into the picture, if it covers no line and no other
+    /// label; taken from now on. Nothing where it would.
+    std::optional<PlacedLabel> PlaceAt(const std::string& markup, window::Point corner, text::Color color);
 
   private:
     struct Segment {

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <span>
+#include <vector>
 
 #include "drawing/draw_engine.h"
 #include "drawing/force_color.h"
+#include "drawing/label_placer.h"
 #include "numeric/angles.h"
 #include "numeric/compare.h"
 #include "text/number_text.h"
@@ -27,6 +30,7 @@ constexpr Color kOriginColor = text::FromBgr(16711680);
 constexpr Color kAxisColor = text::FromBgr(12632256);
 constexpr Color kLetterColor = text::Rgb(0x60, 0x60, 0x60);
 constexpr int kLabelDecimals = 2;
+constexpr double kLabelMargin = 1;        // pixels, kept free around a label that is not at its usual place
 constexpr double kDefaultDirection = 45;  // degrees, of an unknown direction that nobody was asked for
 
 struct Middle {
@@ -85,18 +89,68 @@ numeric::ClockReading ReadingOf(const notation::Force& force, const ForceArrow& 
     return numeric::ClockOf(numeric::CosD(direction), numeric::SinD(direction));
 }
 
-void DrawForce(Surface& canvas, DrawEng& engine, const notation::Force& force, const ForceArrow& arrow,
-               double scale, double rotation) {
-    const Middle middle = MiddleOf(canvas);
-    const numeric::ClockReading reading = ReadingOf(force, arrow, rotation);
-    engine.MoveTo(canvas, middle.x + arrow.start.dx, middle.y - arrow.start.dy, 1);
-    engine.DrawArrow(canvas, {.length = ArrowLength(force, scale),
-                              .leaves = arrow.leaves,
-                              .hour = reading.hour,
-                              .angle = reading.angle,
-                              .color = drawing::ColorOf(force.knowledge),
-                              .label = LabelOf(force, arrow),
-                              .width = kArrowWidth});
+/// An arrow, and from where it is drawn.
+struct PlacedArrow {
+    drawing::Arrow arrow;
+    window::Point pen;
+};
+
+std::vector<PlacedArrow> ArrowsOf(const ForcesInView& forces, Middle middle, double rotation) {
+    const double scale = ScaleOf(forces.Forces());
+    std::vector<PlacedArrow> arrows;
+    for (std::size_t i = 0; i < forces.Count(); ++i) {
+        const notation::Force& force = forces.Forces()[i];
+        const ForceArrow& in_view = forces.Arrows()[i];
+        const numeric::ClockReading reading = ReadingOf(force, in_view, rotation);
+        arrows.push_back({{.length = ArrowLength(force, scale),
+                           .leaves = in_view.leaves,
+                           .hour = reading.hour,
+                           .angle = reading.angle,
+                           .color = drawing::ColorOf(force.knowledge),
+                           .label = LabelOf(force, in_view),
+                           .width = kArrowWidth},
+                          {middle.x + in_view.start.dx, middle.y - in_view.start.dy}});
+    }
+    return arrows;
+}
+
+void AddArrow(drawing::LabelPlacer& placer, const drawing::ArrowPlace& place) {
+    placer.AddLine(place.tail, place.tip);
+    for (std::size_t i = 0; i < place.head.size(); ++i)
+        placer.AddLine(place.head[i], place.head[(i + 1) % place.head.size()]);
+}
+
+/// The labels of the arrows, in their order. Each stands at its usual place unless it would cover an arrow or
+/// a label there; those that would find the nearest free place once all others stand.
+std::vector<drawing::PlacedLabel> LabelsOf(const std::vector<PlacedArrow>& arrows, const Surface& canvas) {
+    drawing::LabelPlacer placer(canvas, kLabelMargin);
+    std::vector<drawing::ArrowPlace> places;
+    for (const PlacedArrow& each : arrows) {
+        places.push_back(PlaceOf(each.arrow, each.pen));
+        AddArrow(placer, places.back());
+    }
+    std::vector<std::optional<drawing::PlacedLabel>> usual;
+    for (std::size_t i = 0; i < arrows.size(); ++i)
+        usual.push_back(placer.PlaceAt(places[i].label, places[i].label_corner, arrows[i].arrow.color));
+    std::vector<drawing::PlacedLabel> labels;
+    for (std::size_t i = 0; i < arrows.size(); ++i) {
+        const window::Point& end = places[i].free_end;
+        const window::Point outward{end.x - arrows[i].pen.x, end.y - arrows[i].pen.y};
+        labels.push_back(usual[i] ? *usual[i]
+                                  : placer.Place(places[i].label, end, outward, arrows[i].arrow.color));
+    }
+    return labels;
+}
+
+void DrawArrows(Surface& canvas, std::vector<PlacedArrow> arrows) {
+    const std::vector<drawing::PlacedLabel> labels = LabelsOf(arrows, canvas);
+    DrawEng engine;
+    for (std::size_t i = 0; i < arrows.size(); ++i) {
+        engine.MoveTo(canvas, arrows[i].pen.x, arrows[i].pen.y, 1);
+        arrows[i].arrow.label.clear();
+        engine.DrawArrow(canvas, arrows[i].arrow);
+        PrintLabel(canvas, labels[i]);
+    }
 }
 
 void DrawAxes(Surface& canvas, double rotation) {
@@ -114,10 +168,7 @@ void DrawForces(Surface& canvas, const ForcesInView& forces, double rotation) {
     if (forces.IsEmpty())
         return;
     DrawOrigin(canvas);
-    const double scale = ScaleOf(forces.Forces());
-    DrawEng engine;
-    for (std::size_t i = 0; i < forces.Count(); ++i)
-        DrawForce(canvas, engine, forces.Forces()[i], forces.Arrows()[i], scale, rotation);
+    DrawArrows(canvas, ArrowsOf(forces, MiddleOf(canvas), rotation));
 }
 
 }  // namespace tavrelo::tools::particle

@@ -41,8 +41,7 @@ double Known(const std::optional<double>& number) {
 
 }  // namespace
 
-ParticleTool::ParticleTool(window::Form1& form, frame::DirectionClock& clock)
-    : m_form(form), m_clock(clock) {
+ParticleTool::ParticleTool(window::Form1& form, frame::DirectionClock& clock) : m_form(form), m_clock(clock) {
     ArrangeGdEqui();
     Wire();
 }
