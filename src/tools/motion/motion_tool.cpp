@@ -1,11 +1,8 @@
 #include "tools/motion/motion_tool.h"
 
 #include <utility>
-#include <vector>
 
 #include "frame/points_board.h"
-#include "frame/points_colors.h"
-#include "frame/points_strip.h"
 #include "frame/writer.h"
 #include "mechanics/motion/typed_procedures.h"
 #include "tools/motion/motion_graph.h"
@@ -18,74 +15,36 @@ namespace {
 using mechanics::motion::Outcome;
 using mechanics::motion::Procedure;
 using mechanics::motion::Step;
-using mechanics::points::Configuration;
 using mechanics::points::PointPlace;
 using mechanics::points::Stage;
-using mechanics::points::Stretch;
 using text::Refusal;
-using window::Answer;
-
-/// What is asked for in the grey band after the press of a button, and where it begins (pixels).
-struct Prompt {
-    std::string_view text;
-    double left;
-};
-constexpr Prompt kPrompts[] = {
-    {"", 0},
-    {"A lo más 2 clics en este espacio, uno por cada punto límite de tramo", 100},
-    {"Haz un clic en este espacio para separar los puntos de uno y otro móvil", 100},
-    {"A lo más 3 clics en este espacio, el primero para separar los dos móviles "
-     "y los demás para definir los tramos del primero",
-     10},
-};
-
-constexpr int kSecondMoverBox = 3;  // of the accelerations; the others are mover 1's, by stretch
 
 template <class... Handlers>
 struct Overloaded : Handlers... {
     using Handlers::operator()...;
 };
 
-/// The labels of all points from the left.
-std::vector<frame::StripLabel> LabelsOf(const Configuration& configuration) {
-    std::vector<frame::StripLabel> labels;
-    for (int mover = 1; mover <= configuration.MoverCount(); ++mover) {
-        int stretch = 1;  // the one that the point ends, or in which it lies
-        for (int point = 0; point < configuration.MoverAt(mover).points; ++point) {
-            const text::Color left = frame::StretchColor(mover, stretch);
-            if (configuration.HasStretch(mover, stretch + 1) &&
-                configuration.StretchAt(mover, stretch + 1).first == point)
-                ++stretch;
-            labels.push_back({point, left, frame::StretchColor(mover, stretch)});
-        }
-    }
-    return labels;
-}
-
-/// The columns over which an acceleration stands.
-struct Span {
-    int box;  // of the acceleration
-    int first_column;
-    int points;
-};
-std::vector<Span> SpansOf(const Configuration& configuration) {
-    std::vector<Span> spans;
-    for (int mover = 1; mover <= configuration.MoverCount(); ++mover) {
-        for (int stretch = 1; configuration.HasStretch(mover, stretch); ++stretch) {
-            const Stretch& columns = configuration.StretchAt(mover, stretch);
-            spans.push_back({mover == 1 ? stretch - 1 : kSecondMoverBox,
-                             ColumnOfPoint(configuration, mover, columns.first), columns.Points()});
-        }
-    }
-    return spans;
-}
-
 }  // namespace
 
 Motion::Motion(window::Form1& form, frame::PointsPanel& panel, frame::ToolSwitch& tool_switch)
-    : m_form(form), m_panel(panel), m_tool_switch(tool_switch), m_results(form) {
+    : m_form(form), m_panel(panel), m_tool_switch(tool_switch), m_accelerations(form), m_results(form) {
     BindAccelerations();
     BindResults();
+}
+
+void Motion::BindAccelerations() {
+    m_accelerations.OnTyped = [this](std::size_t slot, const mechanics::points::Cell& content) {
+        m_problem.accelerations[slot] = content;
+    };
+    m_accelerations.OnLeave = [this] { m_panel.FocusColumn(1); };
+}
+
+void Motion::BindResults() {
+    m_results.OnPass = [this] {
+        m_problem.results = m_results.Results();
+        m_problem = WithResultsPassed(m_problem, m_results.Shown(), m_form.publics.Decimals);
+        m_panel.ShowCells();
+    };
 }
 
 frame::ToolHooks Motion::Hooks() {
@@ -96,8 +55,8 @@ void Motion::Enter() {
     m_dragged = 0;
     DropPicks();
     m_panel.Enter(*this);
-    ShowAccelerations();
-    PlaceAccelerations();
+    m_accelerations.Show(m_problem.accelerations);
+    m_accelerations.Place(m_problem.configuration);
     m_results.Restore();
     m_panel.ShowRowArguments(ProcedureOfRow(view.procedure_row).needs);
     if (view.procedure_entry >= 0)
@@ -110,7 +69,7 @@ void Motion::Enter() {
 }
 
 int Motion::SolutionShown() const {
-    return m_problem.results.solutions.empty() ? 0 : static_cast<int>(m_results.Shown()) + 1;
+    return m_results.Results().solutions.empty() ? 0 : static_cast<int>(m_results.Shown()) + 1;
 }
 
 int Motion::ConfigurationChosen() const {
@@ -131,15 +90,12 @@ std::optional<frame::TopicPlace> Motion::HelpTopic(frame::PointsHelp button) con
 void Motion::Configure(int configuration) {
     m_dragged = 0;
     m_problem = mechanics::motion::Reconfigured(m_problem, configuration);
-    ShowAccelerations();
-    PlaceAccelerations();
-    if (m_problem.configuration.stage == Stage::Pending) {
-        const Prompt& prompt = kPrompts[configuration];
-        frame::PaintStripPrompt(m_controls.picAccel.Canvas(), prompt.text, prompt.left);
-        return;
-    }
-    PaintStrip();
-    m_form.SetFocus(m_controls.txtAccel[0]);
+    m_accelerations.Show(m_problem.accelerations);
+    m_accelerations.Place(m_problem.configuration);
+    if (m_problem.configuration.stage == Stage::Pending)
+        return PaintPrompt(m_controls.picAccel.Canvas(), configuration);
+    PaintMotionStrip(m_controls.picAccel.Canvas(), m_problem.configuration);
+    m_accelerations.Enter();
 }
 
 void Motion::PressStrip(const window::MouseStroke& stroke) {
@@ -182,21 +138,13 @@ void Motion::Divide(double position) {
     const auto step = ClickBand(m_problem.configuration, position);
     if (step.configuration != m_problem.configuration) {
         m_problem.configuration = step.configuration;
-        PaintStrip();
-        PlaceAccelerations();
+        PaintMotionStrip(m_controls.picAccel.Canvas(), m_problem.configuration);
+        m_accelerations.Place(m_problem.configuration);
         if (m_problem.configuration.IsConfigured())
-            m_form.SetFocus(m_controls.txtAccel[0]);
+            m_accelerations.Enter();
     }
     if (step.refusal)
         m_form.boxes.Tell(step.refusal->text);
-}
-
-void Motion::PaintStrip() {
-    window::Recorder& strip = m_controls.picAccel.Canvas();
-    frame::PaintPointStrip(strip, LabelsOf(m_problem.configuration));
-    for (const Span& span : SpansOf(m_problem.configuration))
-        frame::PaintBracket(strip, span.first_column, span.points);
-    PlaceAccelerations();
 }
 
 void Motion::ClearPoint(double position) {
@@ -317,10 +265,10 @@ void Motion::NewProblem() {
     m_controls.pic.Canvas().Cls();
     m_controls.pic1.Canvas().Cls();
     ShowGraph(false);
-    m_results.Close();
+    m_results.Reset();
     m_panel.ShowNewProblem();
-    ShowAccelerations();
-    PlaceAccelerations();
+    m_accelerations.Show(m_problem.accelerations);
+    m_accelerations.Place(m_problem.configuration);
 }
 
 void Motion::SwapPictures() { ShowGraph(!m_shows_graph); }
@@ -357,7 +305,7 @@ void Motion::Show(const mechanics::motion::Event& event) {
                        frame::PrintBoardLine(m_controls.pic.Canvas(), line.slot, line.markup);
                    },
                    [this](const ShowBoard&) { ShowGraph(false); },
-                   [this](const ShowResults&) { m_results.Show(m_problem.results, 0); },
+                   [this](const ShowResults&) { m_results.Open(m_problem.results); },
                    [this](const Box& box) { m_form.boxes.Tell(box.text); },
                    [this](const Question& question) { Ask(question); },
                },
@@ -375,67 +323,13 @@ void Motion::Ask(const mechanics::motion::Question& question) {
 
 void Motion::ShowProblem() {
     m_panel.ShowCells();
-    ShowAccelerations();
+    m_accelerations.Show(m_problem.accelerations);
 }
 
 void Motion::ShowGraph(bool shows) {
     m_shows_graph = shows;
     m_tool_switch.ShowPic1(shows);
     m_controls.cmdSeeEqns.SetCaption(shows ? "Ver Ecuacs." : "Ver Gráfico");
-}
-
-// The accelerations.
-
-void Motion::BindAccelerations() {
-    for (const auto& [index, box] : m_controls.txtAccel.Items())
-        On(m_form, box->OnChange, [this, index = index] { TypeAcceleration(index); });
-    OnEnter(m_form, m_controls.txtAccel, [this](int box) { LeaveAcceleration(box); });
-}
-
-void Motion::BindResults() {
-    m_results.OnSolution = [this](std::size_t solution) { m_results.Show(m_problem.results, solution); };
-    m_results.OnPass = [this] {
-        m_problem = WithResultsPassed(m_problem, m_results.Shown(), m_form.publics.Decimals);
-        m_panel.ShowCells();
-    };
-}
-
-void Motion::TypeAcceleration(int index) {
-    window::TextBox& box = m_controls.txtAccel[index];
-    auto& cell = m_problem.accelerations[static_cast<std::size_t>(index)];
-    cell = mechanics::motion::TypedAcceleration(box.Text());
-    if (cell.stored.HoldsNumber())
-        box.SetText(cell.shown);
-}
-
-void Motion::LeaveAcceleration(int index) {
-    if (const auto refusal = mechanics::motion::CheckAcceleration(m_controls.txtAccel[index].Text()))
-        return m_form.boxes.Tell(refusal->text);
-    for (const auto& [next, box] : m_controls.txtAccel.Items())
-        if (next > index && box->Visible())
-            return m_form.SetFocus(*box);
-    m_panel.FocusColumn(1);
-}
-
-void Motion::ShowAccelerations() {
-    for (const auto& [index, box] : m_controls.txtAccel.Items()) {
-        const std::string& shown = m_problem.accelerations[static_cast<std::size_t>(index)].shown;
-        if (box->Text() != shown)
-            box->SetText(shown);
-    }
-}
-
-/// Each box over its stretch; those without one are out of view.
-void Motion::PlaceAccelerations() {
-    for (const auto& [index, box] : m_controls.txtAccel.Items())
-        box->SetVisible(false);
-    for (const Span& span : SpansOf(m_problem.configuration)) {
-        window::TextBox& box = m_controls.txtAccel[span.box];
-        window::Rect place = box.Bounds();
-        place.left = frame::AccelerationBoxLeft(span.first_column, span.points);
-        box.SetBounds(place);
-        box.SetVisible(true);
-    }
 }
 
 }  // namespace tavrelo::tools::motion

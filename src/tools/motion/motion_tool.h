@@ -6,16 +6,16 @@
 #include "frame/tool_switch.h"
 #include "mechanics/motion/procedures.h"
 #include "mechanics/motion/two_points.h"
+#include "tools/motion/acceleration_boxes.h"
+#include "tools/motion/motion_strip.h"
 #include "tools/motion/procedures.h"
 #include "tools/motion/results_panel.h"
-#include "tools/motion/strip_meaning.h"
 
 namespace tavrelo::tools::motion {
 
 /// The controls that only this tool has, and those in which it reports.
 struct MotionControls {
     window::Form1& form;
-    window::ControlArray<window::TextBox> txtAccel = form.GetArray<window::TextBox>("txtAccel");
     window::Picture& picAccel = form.Get<window::Picture>("picAccel");
     window::TextBox& txtProcs = form.Get<window::TextBox>("txtProcs");
     window::Button& cmdSeeEqns = form.Get<window::Button>("cmdSeeEqns");
@@ -63,7 +63,6 @@ class Motion : public frame::PointsTool {
 
     // The strip.
     void Divide(double position);
-    void PaintStrip();
     void RunLabel(const StripMeaning& meaning);
     void ClearPoint(double position);
     bool TurnToOppositeSpeed(const mechanics::points::PointPlace& place);
@@ -83,16 +82,11 @@ class Motion : public frame::PointsTool {
     void ShowProblem();
     void ShowGraph(bool shows);
 
-    // The accelerations.
-    void TypeAcceleration(int box);
-    void LeaveAcceleration(int box);
-    void ShowAccelerations();
-    void PlaceAccelerations();
-
     window::Form1& m_form;
     frame::PointsPanel& m_panel;
     frame::ToolSwitch& m_tool_switch;
     MotionControls m_controls{m_form};
+    AccelerationBoxes m_accelerations;
     ResultsPanel m_results;
 
     mechanics::motion::Problem m_problem;

@@ -22,19 +22,24 @@ ResultsPanel::ResultsPanel(window::Form1& form) : m_form(form) {
     OnClick(form, m_controls.cmdCloseFrares, [this] { Close(); });
 }
 
-void ResultsPanel::Show(const mechanics::motion::Results& results, std::size_t solution) {
-    if (solution >= results.solutions.size())
+void ResultsPanel::Open(const mechanics::motion::Results& results) {
+    m_results = results;
+    m_open = true;
+    m_controls.fraRes.SetVisible(true);
+    m_controls.cmdPass[kSecondSolution].SetEnabled(results.HasSecond());
+    Show(0);
+}
+
+void ResultsPanel::Show(std::size_t solution) {
+    if (solution >= m_results.solutions.size())
         return;
-    const mechanics::motion::FoundSolution& found = results.solutions[solution];
-    const text::Color color = frame::ResultColor(results.mover, results.stretch);
+    const mechanics::motion::FoundSolution& found = m_results.solutions[solution];
+    const text::Color color = frame::ResultColor(m_results.mover, m_results.stretch);
     ShowPoint(0, &found.first, color);
     ShowPoint(1, found.second ? &*found.second : nullptr, color);
     m_shown = solution;
     m_controls.cmdPass[kFirstSolution].SetUnderlined(solution == 0);
     m_controls.cmdPass[kSecondSolution].SetUnderlined(solution == 1);
-    m_controls.cmdPass[kSecondSolution].SetEnabled(results.HasSecond());
-    m_open = true;
-    m_controls.fraRes.SetVisible(true);
 }
 
 void ResultsPanel::ShowPoint(int place, const FoundPoint* point, text::Color color) {
@@ -57,13 +62,20 @@ void ResultsPanel::Close() {
     m_controls.fraRes.SetVisible(false);
 }
 
+void ResultsPanel::Reset() {
+    Close();
+    m_results = {};
+    m_controls.cmdPass[kFirstSolution].SetEnabled(true);
+    m_controls.cmdPass[kSecondSolution].SetEnabled(true);
+}
+
 void ResultsPanel::Restore() { m_controls.fraRes.SetVisible(m_open); }
 
 void ResultsPanel::Press(int button) {
-    if (button == kPassToTable)
+    if (button != kPassToTable)
+        Show(static_cast<std::size_t>(button));
+    else if (OnPass)
         OnPass();
-    else
-        OnSolution(static_cast<std::size_t>(button));
 }
 
 }  // namespace tavrelo::tools::motion

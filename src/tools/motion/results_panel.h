@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "mechanics/motion/problem.h"
 #include "window/form1.h"
 
@@ -15,30 +13,34 @@ struct ResultsControls {
     window::Button& cmdCloseFrares = form.Get<window::Button>("cmdCloseFrares");
 };
 
-/// The panel `fraRes`: one or two found solutions, of which one is in view.
+/// The panel `fraRes`: one or two found solutions, of which one is in view. They stay until others are shown,
+/// whatever is calculated meanwhile.
 class ResultsPanel {
   public:
     explicit ResultsPanel(window::Form1& form);
 
-    /// Opens the panel on a solution (0 or 1) of the results.
-    void Show(const mechanics::motion::Results& results, std::size_t solution);
+    /// Opens the panel on the first solution.
+    void Open(const mechanics::motion::Results& results);
     void Close();
+    /// Closes it on nothing, as before the first results.
+    void Reset();
     /// Puts the panel back in view after another tool was in use, if it was open.
     void Restore();
-    /// The solution in view, 0 or 1.
+    const mechanics::motion::Results& Results() const { return m_results; }
+    /// The solution in view, from 0.
     std::size_t Shown() const { return m_shown; }
 
-    /// A button asked for that solution (0 or 1).
-    std::function<void(std::size_t)> OnSolution;
     /// The solution in view is wanted in the table.
     window::Event OnPass;
 
   private:
+    void Show(std::size_t solution);
     void ShowPoint(int place, const mechanics::motion::FoundPoint* point, text::Color color);
     void Press(int button);
 
     window::Form1& m_form;
     ResultsControls m_controls{m_form};
+    mechanics::motion::Results m_results;
     std::size_t m_shown = 0;
     bool m_open = false;
 };

@@ -1,4 +1,4 @@
-#include "tools/motion/strip_meaning.h"
+#include "tools/motion/motion_strip.h"
 
 #include <gtest/gtest.h>
 
@@ -84,6 +84,35 @@ TEST(StripMeaningTest, CopiesWithShift) {
     const auto end = MeaningOfRelease({.x = kX, .y = 30, .shift = true});
     ASSERT_TRUE(end);
     EXPECT_TRUE(end->copies);
+}
+
+/// A table of which columns 2 and 4 were clicked as limits.
+mechanics::points::Configuration ThreeStretches() {
+    using namespace mechanics::points;
+    const Configuration begun = Begin(kMotionVariants[1]);
+    return ClickBand(ClickBand(begun, 1.5).configuration, 3.5).configuration;
+}
+
+TEST(SpansOfTest, CoverEachStretchWithItsSharedPoints) {
+    const auto spans = SpansOf(ThreeStretches());
+    ASSERT_EQ(spans.size(), 3u);
+    // Points 0 to 1, 1 to 3 and 3 to 8 stand in the columns from 1, 2 and 4.
+    EXPECT_EQ(spans[0].first_column, 1);
+    EXPECT_EQ(spans[0].points, 2);
+    EXPECT_EQ(spans[1].first_column, 2);
+    EXPECT_EQ(spans[1].points, 3);
+    EXPECT_EQ(spans[2].first_column, 4);
+    EXPECT_EQ(spans[2].points, 6);
+    EXPECT_EQ(spans[2].slot, 2u);
+}
+
+TEST(SpansOfTest, GiveMoverTwoTheLastSlot) {
+    using namespace mechanics::points;
+    const auto spans = SpansOf(ClickBand(Begin(kMotionVariants[2]), 3.5).configuration);
+    ASSERT_EQ(spans.size(), 2u);
+    EXPECT_EQ(spans[1].slot, 3u);
+    EXPECT_EQ(spans[1].first_column, 5);
+    EXPECT_EQ(spans[1].points, 5);
 }
 
 }  // namespace

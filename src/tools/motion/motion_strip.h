@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "mechanics/points/configuration.h"
 #include "window/controls.h"
@@ -37,5 +38,18 @@ struct DragEnd {
     bool copies;
 };
 std::optional<DragEnd> MeaningOfRelease(const window::MouseStroke& stroke);
+
+/// The columns over which an acceleration stands, from 1, by the slot of its stretch.
+struct AccelerationSpan {
+    std::size_t slot;
+    int first_column;
+    int points;
+};
+std::vector<AccelerationSpan> SpansOf(const mechanics::points::Configuration& configuration);
+
+/// Asks, in the grey band, for the clicks that a configuration needs (by the index of its button).
+void PaintPrompt(window::Recorder& strip, int configuration);
+/// Paints the labels of all points in the colours of their stretches, and a bracket over each stretch.
+void PaintMotionStrip(window::Recorder& strip, const mechanics::points::Configuration& configuration);
 
 }  // namespace tavrelo::tools::motion
