@@ -50,11 +50,11 @@ constexpr Lines kInclineNeeds = {
 };
 constexpr Lines kCrossingNeeds = {"Se conocen las ecuaciones de los dos móviles."};
 constexpr Lines kCollisionNeeds = {
-    "Móvil 1: ecuaciones sin parámetros. Móvil 2: con parámetros V!0 y//o ;q.",
+    "Móvil 1: ecuaciones sin parámetros. Móvil 2: con parámetros V!0 y/o ;q.",
     "(Casilla) nada, o bien tc = n",
 };
 constexpr Lines kInterceptionNeeds = {
-    "Blanco en y = 0, que sale de x = 0 en t = 0 con velocidad u. Tabla: t!0, x!0, y!0 [v!0 ó ;q!0]",
+    "Tabla: t!0, x!0, y!0 [v!0 ó ;q!0] del móvil 1. Blanco: x = u t, y = 0",
     "(Casilla) u = n, tc = n, o los dos",
 };
 constexpr std::string_view kSystemOrder = "(Casilla) datos en el orden:";
