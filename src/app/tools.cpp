@@ -9,8 +9,6 @@ namespace {
 using window::Tool;
 
 constexpr std::string_view kStatPartFile = "\\StatPart.txt";
-constexpr std::string_view kEstcrFile = "\\HelpEstcr.txt";
-constexpr std::string_view kEstcrTags[] = {"CONFIG", "SYSTS", "DCL", "SOLVE"};
 
 }  // namespace
 
@@ -26,7 +24,7 @@ Program::Tools::Tools(window::Form1& window)
       clock(window),
       calculator(window, expression, clock),
       particle(window, clock),
-      rigid_body(window),
+      rigid_body(window, help),
       points(window, help),
       motion(window, points, tool_switch),
       projectile(window, points, tool_switch),
@@ -56,8 +54,6 @@ void Program::Tools::WireHelp() {
     particle.OnExample = [this](int index) {
         help.ShowShortTopic(kStatPartFile, std::to_string(index + 1) + "EXAMPLE");
     };
-    window::OnClick(form, form.cmdHelpEstcr,
-                    [this](int index) { help.ShowShortTopic(kEstcrFile, kEstcrTags[index]); });
 }
 
 void Program::Tools::WireTools() {

@@ -27,8 +27,8 @@ constexpr std::string_view kRaised[] = {"picArgs", "fraHelp"};
 
 MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
     : m_context{form, artwork},
-      m_main(form.ThisWindow, nullptr, Qt::Window),
-      m_dialog(form.Form2, &m_main, Qt::Dialog) {
+      m_main(form.Get<window::Window>("Form1"), nullptr, Qt::Window),
+      m_dialog(form.Get<window::Window>("Form2"), &m_main, Qt::Dialog) {
     for (window::Control* control : form.Controls())
         if (control->Kind() != window::ControlKind::Window)
             m_unmade.push_back(control);
@@ -65,9 +65,9 @@ void MainWindow::MakeWidgets() {
 }
 
 QWidget& MainWindow::ParentWidgetOf(const window::Control& control) {
-    if (control.Parent() == &m_context.form.ThisWindow)
+    if (control.Parent() == &m_context.form.Get<window::Window>("Form1"))
         return m_main.Page();
-    if (control.Parent() == &m_context.form.Form2)
+    if (control.Parent() == &m_context.form.Get<window::Window>("Form2"))
         return m_dialog.Page();
     return BindingOf(*control.Parent()).Widget();
 }
@@ -134,9 +134,9 @@ void MainWindow::ShowWindows() {
 
 QWidget& MainWindow::WidgetOf(window::Control& control) {
     ShowLateChanges();
-    if (&control == &m_context.form.ThisWindow)
+    if (&control == &m_context.form.Get<window::Window>("Form1"))
         return m_main;
-    if (&control == &m_context.form.Form2)
+    if (&control == &m_context.form.Get<window::Window>("Form2"))
         return m_dialog;
     return BindingOf(control).Widget();
 }

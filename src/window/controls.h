@@ -15,7 +15,24 @@
 
 namespace tavrelo::window {
 
+/// What the program does of its own at some moment, without more to know.
 using Event = std::function<void()>;
+
+template <class Signature>
+class Handler;
+
+/// What the program does when something happens to a control. A handler is given only through guarded.h, so
+/// that none stands without a guard.
+template <class Result, class... Args>
+class Handler<Result(Args...)> {
+  public:
+    explicit operator bool() const { return static_cast<bool>(m_function); }
+    Result operator()(Args... args) const { return m_function(args...); }
+
+  private:
+    friend struct HandlerAccess;
+    std::function<Result(Args...)> m_function;
+};
 
 /// A window: `Form1` itself and the dialog `Form2`.
 class Window : public Control {
@@ -23,7 +40,7 @@ class Window : public Control {
     using Control::Control;
     /// The user closed it by its frame.
     void UserClose();
-    Event OnClose;
+    Handler<void()> OnClose;
 };
 
 class Frame : public Control {
@@ -45,7 +62,7 @@ class Label : public Control {
     int WordPitch() const { return m_word_pitch; }
     void SetWordPitch(int pixels) { Set(m_word_pitch, pixels); }
     void UserClick();
-    Event OnClick;
+    Handler<void()> OnClick;
 
   private:
     int m_word_pitch = 0;
@@ -65,7 +82,7 @@ class Button : public Control {
     const Icon& Picture() const { return m_icon; }
     void SetPicture(Icon icon) { Set(m_icon, std::move(icon)); }
     void UserClick();
-    Event OnClick;
+    Handler<void()> OnClick;
 
   private:
     Icon m_icon;
@@ -80,7 +97,7 @@ class OptionButton : public Control {
     void Choose();
     void Uncheck() { Set(m_checked, false); }
     void UserClick();
-    Event OnClick;
+    Handler<void()> OnClick;
 
     std::vector<OptionButton*> group;  // filled by the window, this one included
 
@@ -94,7 +111,7 @@ class CheckBox : public Control {
     bool Checked() const { return m_checked; }
     void SetChecked(bool checked) { Set(m_checked, checked); }
     void UserClick();
-    Event OnClick;
+    Handler<void()> OnClick;
 
   private:
     bool m_checked = false;
@@ -139,12 +156,12 @@ class TextControl : public Control {
     void UserEdited(std::string text, TextSelection selection);
     void UserSelected(TextSelection selection) { Select(selection); }
 
-    std::function<bool(const KeyStroke&)> OnKeyDown;
-    std::function<bool(char32_t)> OnKeyPress;
-    std::function<void(const KeyStroke&)> OnKeyUp;
-    Event OnChange;
-    Event OnGotFocus;
-    Event OnLostFocus;
+    Handler<bool(const KeyStroke&)> OnKeyDown;
+    Handler<bool(char32_t)> OnKeyPress;
+    Handler<void(const KeyStroke&)> OnKeyUp;
+    Handler<void()> OnChange;
+    Handler<void()> OnGotFocus;
+    Handler<void()> OnLostFocus;
 
   protected:
     virtual void StoreText(std::string text) { m_text = std::move(text); }
@@ -251,13 +268,13 @@ class Grid : public Control {
     /// An arrow key that no handler consumed: moves the current cell, with Shift the end of the selection.
     void UserNavigate(Key key, bool extend);
 
-    std::function<void(int row, int col)> OnMouseDown;
-    Event OnSelChange;
-    Event OnEnterCell;
-    Event OnDblClick;  // the clicked cell is the current one
-    std::function<bool(const KeyStroke&)> OnKeyDown;
-    std::function<bool(char32_t)> OnKeyPress;
-    std::function<bool(const KeyStroke&)> OnKeyUp;
+    Handler<void(int row, int col)> OnMouseDown;
+    Handler<void()> OnSelChange;
+    Handler<void()> OnEnterCell;
+    Handler<void()> OnDblClick;  // the clicked cell is the current one
+    Handler<bool(const KeyStroke&)> OnKeyDown;
+    Handler<bool(char32_t)> OnKeyPress;
+    Handler<bool(const KeyStroke&)> OnKeyUp;
 
   private:
     struct CellData {
@@ -329,9 +346,9 @@ class Picture : public Control {
     void UserMouseMove(const MouseStroke& stroke);
     void UserMouseUp(const MouseStroke& stroke);
 
-    std::function<void(const MouseStroke&)> OnMouseDown;
-    std::function<void(const MouseStroke&)> OnMouseMove;
-    std::function<void(const MouseStroke&)> OnMouseUp;
+    Handler<void(const MouseStroke&)> OnMouseDown;
+    Handler<void(const MouseStroke&)> OnMouseMove;
+    Handler<void(const MouseStroke&)> OnMouseUp;
 
   private:
     Recorder m_canvas;
@@ -350,7 +367,7 @@ class ComboBox : public Control {
     /// Chooses a row without OnClick.
     void SetIndex(int index) { Set(m_index, index, Change::Selection); }
     void UserPick(int index);
-    Event OnClick;
+    Handler<void()> OnClick;
 
   private:
     std::vector<std::string> m_items;
@@ -372,7 +389,7 @@ class ListBox : public Control {
     void SetChosen(int row, bool chosen);
     /// Exactly these rows.
     void UserPick(const std::vector<int>& rows);
-    Event OnClick;
+    Handler<void()> OnClick;
 
     bool multiple = false;
 
@@ -391,7 +408,7 @@ class TabStrip : public Control {
     void SetCurrent(int tab) { Set(m_current, tab, Change::Selection); }
     void UserPick(int tab);
     /// Told with the tab that was in front before.
-    std::function<void(int previous)> OnClick;
+    Handler<void(int previous)> OnClick;
 
   protected:
     bool ShowsPage(int page) const override { return page == m_current; }
@@ -411,7 +428,7 @@ class UpDown : public Control {
     int Maximum() const { return m_maximum; }
     void SetRange(int minimum, int maximum);
     void UserSpin(int value);
-    Event OnChange;
+    Handler<void()> OnChange;
 
     TextBox* buddy = nullptr;  // null: the control shows its number itself
 

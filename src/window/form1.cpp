@@ -81,7 +81,7 @@ void ApplyFlags(Control& control, int flags) {
 
 Form1::Form1(const Host& host)
     : boxes(host.boxes), clipboard(host.clipboard), printer(host.printer), files(host.files) {
-    LinkControls();
+    LinkOptions();
 }
 
 bool Form1::MakeControls() {
@@ -135,11 +135,11 @@ std::vector<std::pair<int, Control*>> Form1::FindArray(std::string_view name) co
     return items;
 }
 
-void Form1::LinkControls() {
-    for (const auto* options : {&optPrint, &optDCL, &optShowDCL})
-        for (const auto& [index, option] : options->Items())
-            for (const auto& [other_index, other] : options->Items())
-                option->group.push_back(other);
+void Form1::LinkOptions() {
+    for (Control* control : m_order)
+        if (auto* option = dynamic_cast<OptionButton*>(control))
+            for (const auto& [index, other] : FindArray(SplitName(option->Name()).base))
+                option->group.push_back(dynamic_cast<OptionButton*>(other));
 }
 
 void Form1::Arrange(Arrangement arrangement) {
@@ -154,16 +154,19 @@ void Form1::Arrange(Arrangement arrangement) {
         if (auto* picture = dynamic_cast<Picture*>(control))
             picture->FitCanvas();
     }
-    FitResultPages();
+    FillPages();
 }
 
-void Form1::FitResultPages() {
+void Form1::FillPages() {
     constexpr int kBorder = 2;
     constexpr int kTabHeight = 24;
-    const Rect& strip = tabCalc.Bounds();
-    const Rect page{kBorder, kTabHeight, strip.width - 2 * kBorder, strip.height - kTabHeight - kBorder};
-    for (RichTextBox* box : {&rtbCalc, &rtbSolve, &txtArgHelp, &rtbReg})
-        box->SetBounds(page);
+    for (const ControlRow& row : ControlTable()) {
+        if (!(row.flags & kFilling))
+            continue;
+        const Rect& strip = MustFind(row.parent)->Bounds();
+        MustFind(row.name)->SetBounds(
+            {kBorder, kTabHeight, strip.width - 2 * kBorder, strip.height - kTabHeight - kBorder});
+    }
 }
 
 void Form1::SetFocus(Control& control) {

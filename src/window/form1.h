@@ -116,9 +116,10 @@ class Form1 {
     /// Makes all controls; runs before the members below are bound to them.
     bool MakeControls();
     void MoveFocus(Control& control);
-    void LinkControls();
-    /// The boxes on the pages of tabCalc fill them.
-    void FitResultPages();
+    /// All option buttons of one array exclude each other.
+    void LinkOptions();
+    /// Gives the controls that fill a page its size.
+    void FillPages();
 
     ControlLinks m_links;
     std::map<std::string, std::unique_ptr<Control>, std::less<>> m_controls;

@@ -7,7 +7,7 @@
 namespace tavrelo::window {
 namespace {
 
-void Fire(const Event& event) {
+void Fire(const Handler<void()>& event) {
     if (event)
         event();
 }

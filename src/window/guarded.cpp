@@ -2,14 +2,15 @@
 
 namespace tavrelo::window {
 
-void OnEnter(Form1& form, TextControl& box, Event handler, std::string_view message) {
-    box.OnKeyPress = [&boxes = form.boxes, handler = std::move(handler),
-                      text = std::string(message)](char32_t character) {
+void OnEnter(Form1& form, TextControl& box, Event work, std::string_view message) {
+    const auto guarded = [&boxes = form.boxes, work = std::move(work),
+                          text = std::string(message)](char32_t character) {
         if (character != kEnterCharacter)
             return false;
-        Guard(boxes, text, handler);
+        Guard(boxes, text, work);
         return true;
     };
+    HandlerAccess::Put<bool(char32_t)>(box.OnKeyPress, guarded);
 }
 
 }  // namespace tavrelo::window

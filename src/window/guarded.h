@@ -19,48 +19,57 @@
 
 namespace tavrelo::window {
 
+/// The one who may put a function into a control's handler.
+struct HandlerAccess {
+    template <class Signature>
+    static void Put(Handler<Signature>& event, std::function<Signature> function) {
+        event.m_function = std::move(function);
+    }
+};
+
 /// Gives any event of a control its handler. One that answers (whether it consumed a key) answers no when it
 /// fails.
-template <class Result, class... Args, class Handler>
-void On(Form1& form, std::function<Result(Args...)>& event, Handler handler,
+template <class Result, class... Args, class Work>
+void On(Form1& form, Handler<Result(Args...)>& event, Work work,
         std::string_view message = text::kCommandFailed) {
-    event = [&boxes = form.boxes, handler = std::move(handler), text = std::string(message)](Args... args) {
+    const auto guarded = [&boxes = form.boxes, work = std::move(work),
+                          text = std::string(message)](Args... args) {
         if constexpr (std::is_void_v<Result>) {
-            Guard(boxes, text, [&] { handler(args...); });
+            Guard(boxes, text, [&] { work(args...); });
         } else {
             Result result{};
-            Guard(boxes, text, [&] { result = handler(args...); });
+            Guard(boxes, text, [&] { result = work(args...); });
             return result;
         }
     };
+    HandlerAccess::Put<Result(Args...)>(event, guarded);
 }
 
 /// A click on a button, option, check box, label, list or tab strip.
-template <std::derived_from<Control> ControlType, class Handler>
-void OnClick(Form1& form, ControlType& control, Handler handler,
-             std::string_view message = text::kCommandFailed) {
-    On(form, control.OnClick, std::move(handler), message);
+template <std::derived_from<Control> ControlType, class Work>
+void OnClick(Form1& form, ControlType& control, Work work, std::string_view message = text::kCommandFailed) {
+    On(form, control.OnClick, std::move(work), message);
 }
 
 /// A click on any control of an array; the handler takes its index.
-template <class ControlType, class Handler>
-void OnClick(Form1& form, const ControlArray<ControlType>& controls, const Handler& handler,
+template <class ControlType, class Work>
+void OnClick(Form1& form, const ControlArray<ControlType>& controls, const Work& work,
              std::string_view message = text::kCommandFailed) {
     for (const auto& [index, control] : controls.Items())
         On(
-            form, control->OnClick, [handler, index = index] { handler(index); }, message);
+            form, control->OnClick, [work, index = index] { work(index); }, message);
 }
 
 /// The key Enter in a box. It is consumed, also by a handler that fails; every other key goes to the box.
-void OnEnter(Form1& form, TextControl& box, Event handler, std::string_view message = text::kCommandFailed);
+void OnEnter(Form1& form, TextControl& box, Event work, std::string_view message = text::kCommandFailed);
 
 /// The key Enter in any box of an array; the handler takes its index.
-template <class ControlType, class Handler>
-void OnEnter(Form1& form, const ControlArray<ControlType>& boxes, const Handler& handler,
+template <class ControlType, class Work>
+void OnEnter(Form1& form, const ControlArray<ControlType>& boxes, const Work& work,
              std::string_view message = text::kCommandFailed) {
     for (const auto& [index, box] : boxes.Items())
         OnEnter(
-            form, *box, [handler, index = index] { handler(index); }, message);
+            form, *box, [work, index = index] { work(index); }, message);
 }
 
 }  // namespace tavrelo::window

@@ -26,6 +26,7 @@ inline constexpr int kLocked = 4;
 inline constexpr int kTwips = 8;      // mouse events in twips
 inline constexpr int kUpward = 16;    // mouse events with y growing upward
 inline constexpr int kMultiple = 32;  // list with several rows chosen
+inline constexpr int kFilling = 64;   // fills the page of its tab strip, whatever size that has
 
 std::span<const ControlRow> ControlTable();
 

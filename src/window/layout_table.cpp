@@ -87,10 +87,10 @@ constexpr ControlRow kControls[] = {
     {"cmdExampleEstp(3)", K::Button, "fraEstp", {351, 314, 28, 26}, "4"},
 
     // In tabCalc
-    {"rtbCalc", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked, 0},
-    {"rtbSolve", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kHidden | kLocked, 0},
-    {"txtArgHelp", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked, 1},
-    {"rtbReg", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked, 2},
+    {"rtbCalc", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked | kFilling, 0},
+    {"rtbSolve", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kHidden | kLocked | kFilling, 0},
+    {"txtArgHelp", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked | kFilling, 1},
+    {"rtbReg", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked | kFilling, 2},
 
     // In tabStat
     {"lblSegm(0)", K::Label, "tabStat", {6, 32, 140, 18}, "Cadena de puntos:", 0, 0},

@@ -87,13 +87,14 @@ double ClockRotation(const window::Form1& window) {
 void PressTool(Session& session, Arguments& arguments) {
     const int button = CountedNumber(arguments, kToolButtons);
     arguments.ExpectEnd();
-    Click(session, session.Window().Image1, Place((button - 0.5) * kToolButtonWidth, kToolButtonHeight / 2));
+    Click(session, session.Window().Get<window::Picture>("Image1"),
+          Place((button - 0.5) * kToolButtonWidth, kToolButtonHeight / 2));
 }
 
 void PickRoutine(Session& session, Arguments& arguments) {
     const RoutinePlace place = FindRoutine(arguments.WholeNumber());
     arguments.ExpectEnd();
-    window::Picture& menu = session.Window().picBar;
+    window::Picture& menu = session.Window().Get<window::Picture>("picBar");
     if (!session.Reach(menu))
         return;
     Click(session, menu, MenuCell(place.group, 0));
@@ -105,7 +106,7 @@ void PressHour(Session& session, Arguments& arguments) {
     arguments.ExpectEnd();
     const double degrees = kDegreesPerHour * (notation::kHourRight - hour) + ClockRotation(session.Window());
     const double radians = degrees * std::numbers::pi / 180;
-    Click(session, session.Window().picClock,
+    Click(session, session.Window().Get<window::Picture>("picClock"),
           Place(drawing::kClockRadius + kNumeralRadius * std::cos(radians),
                 drawing::kClockRadius - kNumeralRadius * std::sin(radians)));
 }

@@ -15,7 +15,7 @@ constexpr int kManyLines = 20;
 /// Clicks a button of the calculator whose handler does `work`.
 void RunInHandler(TestWindow& window, const std::function<void()>& work) {
     window.PressTool(1);
-    window.Form().cmdCalculate.OnClick = work;
+    window::OnClick(window.Form(), window.Form().Get<window::Button>("cmdCalculate"), work);
     QTest::mouseClick(&window.Widget("cmdCalculate"), Qt::LeftButton);
 }
 
@@ -26,7 +26,7 @@ void ChangesTest::ABlockOfCellsIsShownOnce() {
     window.PressTool(1);
     const QAbstractItemModel& table = *window.As<qt::GridView>("gd").model();
     const QSignalSpy changes(&table, &QAbstractItemModel::dataChanged);
-    RunInHandler(window, [&grid = window.Form().gd] {
+    RunInHandler(window, [&grid = window.Form().Get<window::Grid>("gd")] {
         for (int row = 1; row < grid.Rows(); ++row)
             for (int col = 1; col < grid.Cols(); ++col)
                 grid.SetCell(row, col, std::to_string(row * col));
@@ -41,7 +41,7 @@ void ChangesTest::LinesOfOneHandlerAreShownOnce() {
     window.PressTool(1);
     const auto& page = window.As<QTextEdit>("rtbCalc");
     const QSignalSpy changes(page.document(), &QTextDocument::contentsChange);
-    RunInHandler(window, [&box = window.Form().rtbCalc] {
+    RunInHandler(window, [&box = window.Form().Get<window::RichTextBox>("rtbCalc")] {
         box.SetContent(text::PlainRichText("Línea\r\n", text::kTextFont, 10));
         for (int line = 0; line < kManyLines; ++line)
             box.AppendContent(text::PlainRichText("Otra\r\n", text::kTextFont, 10));
@@ -62,8 +62,7 @@ void ChangesTest::AFailureOfAHandlerEndsInABoxAndTheProgramGoesOn() {
     RunInHandler(window, [] { throw numeric::RuntimeFailure(numeric::FailureCode::Internal, "bare"); });
     QCOMPARE(shown, QStringLiteral("Error en el comando."));
     bool was_clicked = false;
-    window.Form().cmdCalculate.OnClick = [&was_clicked] { was_clicked = true; };
-    QTest::mouseClick(&window.Widget("cmdCalculate"), Qt::LeftButton);
+    RunInHandler(window, [&was_clicked] { was_clicked = true; });
     QVERIFY(was_clicked);
 }
 

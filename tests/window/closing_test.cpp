@@ -24,7 +24,7 @@ void ClosingTest::TheDialogOpensInTheMiddleAndCloses() {
     constexpr int kFrames = 20;
     QVERIFY(distance.manhattanLength() <= kFrames);
     QTest::keyClick(&dialog, Qt::Key_Escape);
-    QVERIFY(!window.Form().Form2.Visible());
+    QVERIFY(!window.Form().Get<window::Window>("Form2").Visible());
     QVERIFY(!window.Widget("cmdAbout").isVisible());
     QVERIFY(window.view.Frame().isVisible());
 }

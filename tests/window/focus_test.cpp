@@ -14,7 +14,7 @@ void FocusTest::IsDroppedWhenTheControlIsHidden() {
     TestWindow window;
     window.PressTool(2);
     QCOMPARE(window.FocusName(), std::string("txtVector"));
-    window.Form().txtVector.SetVisible(false);
+    window.Form().Get<window::TextBox>("txtVector").SetVisible(false);
     QCOMPARE(window.FocusName(), std::string());
     QVERIFY(window.Form().Focus() == nullptr);
     QCoreApplication::processEvents();
@@ -24,7 +24,7 @@ void FocusTest::IsDroppedWhenTheControlIsHidden() {
 void FocusTest::IsDroppedWhenItsPanelIsDisabled() {
     TestWindow window;
     window.PressTool(2);
-    window.Form().fraDirec.SetEnabled(false);
+    window.Form().Get<window::Frame>("fraDirec").SetEnabled(false);
     QCOMPARE(window.FocusName(), std::string());
     QVERIFY(!window.Widget("txtVector").isEnabled());
 }
@@ -44,9 +44,9 @@ void FocusTest::GoesByTabInReadingOrder() {
 void FocusTest::GoesWhereTheProgramPutsIt() {
     TestWindow window;
     window.PressTool(2);
-    window.Form().SetFocus(window.Form().txtAtan);
+    window.Form().SetFocus(window.Form().Get<window::TextBox>("txtAtan"));
     QVERIFY(window.Widget("txtAtan").hasFocus());
-    window.Form().SetFocus(window.Form().txtKinem[0]);
+    window.Form().SetFocus(window.Form().Get<window::TextBox>("txtKinem(0)"));
     QVERIFY(window.Widget("txtAtan").hasFocus());
 }
 

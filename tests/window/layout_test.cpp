@@ -68,12 +68,13 @@ void LayoutTest::PairsStandOverTheirBoxes() {
     TestWindow window;
     window.PressTool(3);
     window.view.SetZoom(zoom);
-    window.Form().txtSegm[0].SetText("ABCDEFG");
-    window.Form().txtSegm[0].UserKeyPress(window::kEnterCharacter);
+    window.Form().Get<window::TextBox>("txtSegm(0)").SetText("ABCDEFG");
+    window.Form().Get<window::TextBox>("txtSegm(0)").UserKeyPress(window::kEnterCharacter);
     QWidget& pairs = window.Widget("lblSegm(2)");
     const QImage image = pairs.grab().toImage();
     for (int box = 2; box <= 6; ++box) {
-        const QRect place = window.view.WidgetOf(window.Form().txtSegm[box]).geometry();
+        const QRect place =
+            window.view.WidgetOf(window.Form().GetArray<window::TextBox>("txtSegm")[box]).geometry();
         const int left = place.left() - pairs.geometry().left();
         const int middle = left + place.width() / 2;
         QVERIFY(HasInk(image, left, middle));
@@ -84,8 +85,8 @@ void LayoutTest::PairsStandOverTheirBoxes() {
 void LayoutTest::TextsThatACellCutsAreToldWhole() {
     TestWindow window;
     window.PressTool(3);
-    window.Form().tabStat.UserPick(1);
-    window.Form().gd1.AddRow({"1", "1", "A", "c36.87x, 10.125v:/-250.75", "13.5"});
+    window.Form().Get<window::TabStrip>("tabStat").UserPick(1);
+    window.Form().Get<window::Grid>("gd1").AddRow({"1", "1", "A", "c36.87x, 10.125v:/-250.75", "13.5"});
     auto& grid = window.As<QTableView>("gd1");
     const auto tip_over = [&](int col) {
         const QPoint place = grid.visualRect(grid.model()->index(0, col)).center();

@@ -32,10 +32,9 @@ void PictureTest::RightButtonReachesOtherPictures() {
     TestWindow window;
     window.PressTool(4);
     std::vector<window::MouseStroke> strokes;
-    window.Form().picAccel.OnMouseDown = [&](const window::MouseStroke& stroke) {
-        strokes.push_back(stroke);
-    };
-    window.Form().pic.OnMouseDown = window.Form().picAccel.OnMouseDown;
+    for (const char* name : {"picAccel", "pic"})
+        window::On(window.Form(), window.Form().Get<window::Picture>(name).OnMouseDown,
+                   [&](const window::MouseStroke& stroke) { strokes.push_back(stroke); });
     QTest::mouseClick(&window.Widget("picAccel"), Qt::RightButton, Qt::ShiftModifier, QPoint(70, 10));
     QTest::mouseClick(&window.Widget("pic"), Qt::RightButton, {}, QPoint(70, 10));
     QCOMPARE(strokes.size(), std::size_t{1});
@@ -50,13 +49,13 @@ void PictureTest::PlacesAreInTheUnitsOfThePictureAtAnyZoom() {
     window::MouseStroke stroke;
     const auto keep = [&stroke](const window::MouseStroke& told) { stroke = told; };
     // y grows upward from the foot of a picture 42 high.
-    window.Form().picAccel.OnMouseDown = keep;
+    window::On(window.Form(), window.Form().Get<window::Picture>("picAccel").OnMouseDown, keep);
     QTest::mouseClick(&window.Widget("picAccel"), Qt::LeftButton, {}, QPoint(100, 20));
     QCOMPARE(stroke.x, 50.0);
     QCOMPARE(stroke.y, 32.0);
     // Fifteen twips make a pixel.
-    window.Form().imgProcs.OnMouseDown = keep;
-    window.Form().tabMrua.SetCurrent(1);
+    window::On(window.Form(), window.Form().Get<window::Picture>("imgProcs").OnMouseDown, keep);
+    window.Form().Get<window::TabStrip>("tabMrua").SetCurrent(1);
     QTest::mouseClick(&window.Widget("imgProcs"), Qt::LeftButton, {}, QPoint(20, 40));
     QCOMPARE(stroke.x, 150.0);
     QCOMPARE(stroke.y, 300.0);
@@ -64,13 +63,13 @@ void PictureTest::PlacesAreInTheUnitsOfThePictureAtAnyZoom() {
 
 void PictureTest::CopiedImageIsTwiceTheSize() {
     TestWindow window;
-    window.Form().clipboard.SetPicture(window.Form().pic1.Canvas());
+    window.Form().clipboard.SetPicture(window.Form().Get<window::Picture>("pic1").Canvas());
     QCOMPARE(QApplication::clipboard()->image().size(), QSize(2 * 397, 2 * 385));
 }
 
 void PictureTest::CanvasPaintsWhatWasDrawn() {
     TestWindow window;
-    window::Recorder& drawing = window.Form().pic.Canvas();
+    window::Recorder& drawing = window.Form().Get<window::Picture>("pic").Canvas();
     drawing.Cls();
     drawing.Box(10, 10, 19, 19, text::Rgb(0, 0, 255), true);
     drawing.Line(30, 50, 60, 50, text::Rgb(255, 0, 0));

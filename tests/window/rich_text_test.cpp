@@ -48,7 +48,7 @@ QString Described(const text::RichText& text) {
 struct ReportWindow : TestWindow {
     ReportWindow() {
         PressTool(1);
-        Form().rtbCalc.SetContent(Report());
+        Form().Get<window::RichTextBox>("rtbCalc").SetContent(Report());
     }
     qt::RichTextView& Box() { return As<qt::RichTextView>("rtbCalc"); }
 };
@@ -64,7 +64,7 @@ void RichTextTest::RunsCanBeReadBackAtAnyZoom() {
 
 void RichTextTest::AppendingKeepsWhatStands() {
     ReportWindow window;
-    window.Form().rtbCalc.AppendContent(Report());
+    window.Form().Get<window::RichTextBox>("rtbCalc").AppendContent(Report());
     text::RichText twice = Report();
     twice.Append(Report());
     QCOMPARE(Described(qt::ReadRuns(*window.Box().document())), Described(twice));
@@ -110,8 +110,8 @@ void RichTextTest::SelectionCountsLineEndsAsTheModelDoes() {
     ReportWindow window;
     window.Box().selectAll();
     // v, 0, F, the two characters of the line end, theta, 2.
-    QCOMPARE(window.Form().rtbCalc.Selection(), (window::TextSelection{0, 7}));
-    window.Form().rtbCalc.Select({5, 1});
+    QCOMPARE(window.Form().Get<window::RichTextBox>("rtbCalc").Selection(), (window::TextSelection{0, 7}));
+    window.Form().Get<window::RichTextBox>("rtbCalc").Select({5, 1});
     QCOMPARE(window.Box().textCursor().selectedText(), QStringLiteral("θ"));
 }
 
@@ -121,7 +121,7 @@ void RichTextTest::BackwardSelectionStays() {
     cursor.setPosition(3);
     cursor.setPosition(1, QTextCursor::KeepAnchor);
     window.Box().setTextCursor(cursor);
-    QCOMPARE(window.Form().rtbCalc.Selection(), (window::TextSelection{1, 2}));
+    QCOMPARE(window.Form().Get<window::RichTextBox>("rtbCalc").Selection(), (window::TextSelection{1, 2}));
     QCOMPARE(window.Box().textCursor().position(), 1);
 }
 

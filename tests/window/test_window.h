@@ -11,6 +11,7 @@
 #include "qt/main_window.h"
 #include "qt/printing.h"
 #include "qt/text.h"
+#include "window/guarded.h"
 
 namespace tavrelo::window_test {
 

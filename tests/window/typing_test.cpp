@@ -22,7 +22,8 @@ void Commit(QWidget& widget, const QString& text) {
 struct ParticleWindow : TestWindow {
     ParticleWindow() { PressTool(2); }
     QLineEdit& Box() { return As<QLineEdit>("txtVector"); }
-    const std::string& Text() { return Form().txtVector.Text(); }
+    window::TextBox& Model() { return Form().Get<window::TextBox>("txtVector"); }
+    const std::string& Text() { return Model().Text(); }
 };
 
 }  // namespace
@@ -32,7 +33,7 @@ void TypingTest::LettersOfSpanish() {
     TypeCharacter(window.Box(), QStringLiteral("Ñ"));
     TypeCharacter(window.Box(), QStringLiteral("á"));
     QCOMPARE(window.Text(), std::string("Ñá"));
-    QCOMPARE(window.Form().txtVector.Selection().start, std::size_t{2});
+    QCOMPARE(window.Model().Selection().start, std::size_t{2});
 }
 
 void TypingTest::DeadKeysAndInputMethods() {
@@ -40,10 +41,10 @@ void TypingTest::DeadKeysAndInputMethods() {
     Commit(window.Box(), QStringLiteral("éñ"));
     QCOMPARE(window.Text(), std::string("éñ"));
     std::u32string told;
-    window.Form().txtVector.OnKeyPress = [&told](char32_t character) {
+    window::On(window.Form(), window.Model().OnKeyPress, [&told](char32_t character) {
         told += character;
         return character == U'x';
-    };
+    });
     Commit(window.Box(), QStringLiteral("ixü"));
     QCOMPARE(told, std::u32string(U"ixü"));
     QCOMPARE(window.Text(), std::string("éñiü"));
@@ -53,24 +54,23 @@ void TypingTest::InputMethodsIntoACell() {
     TestWindow window;
     window.PressTool(1);
     std::u32string told;
-    window.Form().gd.OnKeyPress = [&told](char32_t character) {
+    window::On(window.Form(), window.Form().Get<window::Grid>("gd").OnKeyPress, [&told](char32_t character) {
         told += character;
         return true;
-    };
+    });
     Commit(window.Widget("gd"), QStringLiteral("5ñ"));
     QCOMPARE(told, std::u32string(U"5ñ"));
 }
 
 void TypingTest::ConsumedKeysDoNotType() {
     ParticleWindow window;
-    window.Form().txtVector.OnKeyDown = [](const window::KeyStroke& stroke) {
-        return stroke.character == U'a';
-    };
-    window.Form().txtVector.OnKeyPress = [](char32_t character) { return character == U'b'; };
+    window::TextBox& model = window.Model();
+    window::On(window.Form(), model.OnKeyDown,
+               [](const window::KeyStroke& stroke) { return stroke.character == U'a'; });
+    window::On(window.Form(), model.OnKeyPress, [](char32_t character) { return character == U'b'; });
     std::u32string released;
-    window.Form().txtVector.OnKeyUp = [&released](const window::KeyStroke& stroke) {
-        released += stroke.character;
-    };
+    window::On(window.Form(), model.OnKeyUp,
+               [&released](const window::KeyStroke& stroke) { released += stroke.character; });
     for (const char* key : {"a", "b", "c"})
         TypeCharacter(window.Box(), QString::fromUtf8(key));
     QCOMPARE(window.Text(), std::string("c"));
@@ -101,10 +101,10 @@ void TypingTest::UndoTakesBackWhatWasTyped() {
 
 void TypingTest::SelectionIsTold() {
     ParticleWindow window;
-    window.Form().txtVector.SetText("añadir");
+    window.Model().SetText("añadir");
     window.Box().setSelection(1, 3);
-    QCOMPARE(window.Form().txtVector.Selection(), (window::TextSelection{1, 3}));
-    window.Form().txtVector.Select({2, 2});
+    QCOMPARE(window.Model().Selection(), (window::TextSelection{1, 3}));
+    window.Model().Select({2, 2});
     QCOMPARE(window.Box().selectedText(), QStringLiteral("ad"));
 }
 

@@ -41,15 +41,15 @@ void ZoomTest::ScalesTheFonts() {
 void ZoomTest::OptionsTakeClicksInAllTheirPlace() {
     TestWindow window;
     window.PressTool(3);
-    window.Form().txtSegm[0].SetText("AB");
-    window.Form().txtSegm[1].SetText("h4");
-    window.Form().cmdOK.UserClick();
-    window.Form().tabStat.UserPick(2);
+    window.Form().Get<window::TextBox>("txtSegm(0)").SetText("AB");
+    window.Form().Get<window::TextBox>("txtSegm(1)").SetText("h4");
+    window.Form().Get<window::Button>("cmdOK").UserClick();
+    window.Form().Get<window::TabStrip>("tabStat").UserPick(2);
     window.view.SetZoom(3);
     QWidget& option = window.Widget("optShowDCL(0)");
     QTest::mouseClick(&option, Qt::LeftButton, {}, option.rect().bottomRight() - QPoint(3, 3));
-    QVERIFY(window.Form().optShowDCL[0].Checked());
-    QCOMPARE(window.Form().lstDCL.Items().size(), std::size_t{1});
+    QVERIFY(window.Form().Get<window::OptionButton>("optShowDCL(0)").Checked());
+    QCOMPARE(window.Form().Get<window::ListBox>("lstDCL").Items().size(), std::size_t{1});
 }
 
 void ZoomTest::FollowsTheKeys() {
@@ -63,7 +63,7 @@ void ZoomTest::FollowsTheKeys() {
     QCOMPARE(window.view.Zoom(), 0.9);
     QTest::keyClick(&box, Qt::Key_0, Qt::ControlModifier);
     QCOMPARE(window.view.Zoom(), 1.0);
-    QCOMPARE(window.Form().txtVector.Text(), std::string());
+    QCOMPARE(window.Form().Get<window::TextBox>("txtVector").Text(), std::string());
 }
 
 void ZoomTest::FollowsTheWheelOverAnyControl() {

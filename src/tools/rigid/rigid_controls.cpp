@@ -6,6 +6,7 @@ using namespace window;
 
 SharedControls::SharedControls(Form1& form)
     : tabStat(form.Get<TabStrip>("tabStat")),
+      cmdHelpEstcr(form.GetArray<Button>("cmdHelpEstcr")),
       pic1(form.Get<Picture>("pic1")),
       gd1(form.Get<Grid>("gd1")),
       optDCL(form.GetArray<OptionButton>("optDCL")),

@@ -11,6 +11,7 @@ struct SharedControls {
     explicit SharedControls(window::Form1& form);
 
     window::TabStrip& tabStat;
+    window::ControlArray<window::Button> cmdHelpEstcr;
     window::Picture& pic1;
     window::Grid& gd1;
     window::ControlArray<window::OptionButton> optDCL;      // the body of the page of diagrams

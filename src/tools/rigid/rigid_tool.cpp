@@ -9,15 +9,20 @@ namespace {
 // Pages of tabStat.
 enum Page { kConfiguration = 0, kDiagrams = 1, kEquations = 2 };
 
+constexpr std::string_view kHelpFile = "\\HelpEstcr.txt";
+constexpr std::string_view kHelpTags[] = {"CONFIG", "SYSTS", "DCL", "SOLVE"};  // by the index of cmdHelpEstcr
+
 }  // namespace
 
-RigidTool::RigidTool(window::Form1& form)
+RigidTool::RigidTool(window::Form1& form, frame::HelpPanel& help)
     : m_form(form), m_view(form), m_configuration(m_view), m_diagrams(m_view), m_equations(m_view) {
     window::TabStrip& pages = m_view.Controls().tabStat;
     On(form, pages.OnClick, [this, &pages](int) {
         if (pages.Current() == kDiagrams)
             m_diagrams.Enter();
     });
+    OnClick(form, m_view.Controls().cmdHelpEstcr,
+            [&help](int index) { help.ShowShortTopic(kHelpFile, kHelpTags[index]); });
     m_configuration.OnDiagramsWanted = [this] { ShowDiagrams(); };
     m_configuration.OnErased = [this] { m_diagrams.RestoreDCLCtrls(); };
     m_diagrams.OnConfigurationWanted = [this] { ShowConfiguration(); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/help_panel.h"
 #include "frame/tool_switch.h"
 #include "tools/rigid/configuration_page.h"
 #include "tools/rigid/diagrams_page.h"
@@ -12,7 +13,7 @@ namespace tavrelo::tools::rigid {
 /// The tool "Estática del cuerpo rígido": its three pages over one problem, which outlasts a change of tool.
 class RigidTool {
   public:
-    explicit RigidTool(window::Form1& form);
+    RigidTool(window::Form1& form, frame::HelpPanel& help);
 
     frame::ToolHooks Hooks();
     const mechanics::rigid::RigidProblem& Problem() const { return m_view.Problem(); }

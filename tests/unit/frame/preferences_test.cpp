@@ -19,9 +19,9 @@ TEST(Preferences, AFailureOfThePrinterIsToldAndThePointerComesBack) {
     BrokenPrinter printer;
     window::Form1 form({world, world, printer, world});
     const Preferences preferences(form);
-    form.rtbReg.SetContent(text::PlainRichText("2+3 = 5", text::kTextFont, 10));
-    form.optPrint[0].UserClick();
-    form.cmdPrintRes.UserClick();
+    form.Get<window::RichTextBox>("rtbReg").SetContent(text::PlainRichText("2+3 = 5", text::kTextFont, 10));
+    form.Get<window::OptionButton>("optPrint(0)").UserClick();
+    form.Get<window::Button>("cmdPrintRes").UserClick();
     EXPECT_EQ(world.last_message, "Error en la impresión.");
     EXPECT_EQ(form.Pointer(), window::kPointerDefault);
 }
@@ -30,12 +30,12 @@ TEST(Preferences, DecimalsStayWithinTheirRange) {
     window::TestHost world;
     window::Form1 form(world.host);
     const Preferences preferences(form);
-    EXPECT_EQ(form.txtNCD.Text(), "3");
-    form.UpDown1.UserSpin(99);
+    EXPECT_EQ(form.Get<window::TextBox>("txtNCD").Text(), "3");
+    form.Get<window::UpDown>("UpDown1").UserSpin(99);
     EXPECT_EQ(form.publics.Decimals, 10);
-    form.UpDown1.UserSpin(-1);
+    form.Get<window::UpDown>("UpDown1").UserSpin(-1);
     EXPECT_EQ(form.publics.Decimals, 0);
-    EXPECT_EQ(form.txtNCD.Text(), "0");
+    EXPECT_EQ(form.Get<window::TextBox>("txtNCD").Text(), "0");
 }
 
 }  // namespace

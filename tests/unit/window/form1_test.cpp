@@ -27,9 +27,9 @@ TEST_F(Form1Test, EveryRowOfTheTableIsAControlOfItsOwn) {
 }
 
 TEST_F(Form1Test, ArraysKeepTheirIndexes) {
-    EXPECT_EQ(form.cmdParts[5].Caption(), "Cancelar última");
-    EXPECT_THROW(form.cmdParts[3], numeric::RuntimeFailure);
-    EXPECT_EQ(form.txtSegm.Count(), 7);
+    EXPECT_EQ(form.Get<Button>("cmdParts(5)").Caption(), "Cancelar última");
+    EXPECT_THROW(form.Get<Button>("cmdParts(3)"), numeric::RuntimeFailure);
+    EXPECT_EQ(form.GetArray<TextBox>("txtSegm").Count(), 7);
 }
 
 /// Two controls that can be seen together, of one panel and page, must not overlap.
@@ -42,8 +42,8 @@ TEST_F(Form1Test, ControlsOfAPanelDoNotOverlap) {
         for (const Control* b : form.Controls()) {
             const bool same_place = a->Parent() == b->Parent() && a->Page() == b->Page();
             const bool in_panel = a->Parent() && a->Parent()->Parent();
-            const bool exempt =
-                a->Name() == "shpMrua" || b->Name() == "shpMrua" || a->Parent() == &form.tabCalc;
+            const bool exempt = a->Name() == "shpMrua" || b->Name() == "shpMrua" ||
+                                a->Parent() == &form.Get<TabStrip>("tabCalc");
             if (a < b && same_place && in_panel && !exempt) {
                 EXPECT_FALSE(overlap(a->Bounds(), b->Bounds())) << a->Name() << ' ' << b->Name();
             }
@@ -51,55 +51,55 @@ TEST_F(Form1Test, ControlsOfAPanelDoNotOverlap) {
 }
 
 TEST_F(Form1Test, VisibilityAndUseGoThroughAllPanels) {
-    EXPECT_FALSE(form.txtVector.IsShown());
-    form.fraDirec.SetVisible(true);
-    EXPECT_TRUE(form.txtVector.IsUsable());
-    form.fraDirec.SetEnabled(false);
-    EXPECT_TRUE(form.txtVector.IsShown());
-    EXPECT_FALSE(form.txtVector.IsUsable());
+    EXPECT_FALSE(form.Get<TextBox>("txtVector").IsShown());
+    form.Get<Frame>("fraDirec").SetVisible(true);
+    EXPECT_TRUE(form.Get<TextBox>("txtVector").IsUsable());
+    form.Get<Frame>("fraDirec").SetEnabled(false);
+    EXPECT_TRUE(form.Get<TextBox>("txtVector").IsShown());
+    EXPECT_FALSE(form.Get<TextBox>("txtVector").IsUsable());
 }
 
 TEST_F(Form1Test, OnlyThePageInFrontIsShown) {
-    form.tabStat.SetVisible(true);
-    EXPECT_TRUE(form.txtSegm[0].IsShown());
-    EXPECT_FALSE(form.txtBody[0].IsShown());
-    form.tabStat.UserPick(1);
-    EXPECT_FALSE(form.txtSegm[0].IsShown());
-    EXPECT_TRUE(form.txtBody[0].IsShown());
+    form.Get<TabStrip>("tabStat").SetVisible(true);
+    EXPECT_TRUE(form.Get<TextBox>("txtSegm(0)").IsShown());
+    EXPECT_FALSE(form.Get<TextBox>("txtBody(0)").IsShown());
+    form.Get<TabStrip>("tabStat").UserPick(1);
+    EXPECT_FALSE(form.Get<TextBox>("txtSegm(0)").IsShown());
+    EXPECT_TRUE(form.Get<TextBox>("txtBody(0)").IsShown());
 }
 
 TEST_F(Form1Test, TheFocusNeedsAUsableControlAndIsLostWithIt) {
-    form.SetFocus(form.txtVector);
+    form.SetFocus(form.Get<TextBox>("txtVector"));
     EXPECT_EQ(form.Focus(), nullptr);
-    form.fraDirec.SetVisible(true);
-    form.SetFocus(form.txtVector);
-    EXPECT_EQ(form.Focus(), &form.txtVector);
-    form.fraDirec.SetEnabled(false);
+    form.Get<Frame>("fraDirec").SetVisible(true);
+    form.SetFocus(form.Get<TextBox>("txtVector"));
+    EXPECT_EQ(form.Focus(), &form.Get<TextBox>("txtVector"));
+    form.Get<Frame>("fraDirec").SetEnabled(false);
     EXPECT_EQ(form.Focus(), nullptr);
 }
 
 TEST_F(Form1Test, OptionsOfAGroupExcludeEachOther) {
-    form.optPrint[0].UserClick();
-    form.optPrint[2].UserClick();
-    EXPECT_FALSE(form.optPrint[0].Checked());
-    EXPECT_TRUE(form.optPrint[2].Checked());
+    form.Get<OptionButton>("optPrint(0)").UserClick();
+    form.Get<OptionButton>("optPrint(2)").UserClick();
+    EXPECT_FALSE(form.Get<OptionButton>("optPrint(0)").Checked());
+    EXPECT_TRUE(form.Get<OptionButton>("optPrint(2)").Checked());
 }
 
 TEST_F(Form1Test, TheCalculatorMakesRoomForTheClock) {
     form.Arrange(Arrangement::CalculatorWithClock);
-    EXPECT_EQ(form.tabCalc.Bounds(), (Rect{397, 397, 400, 180}));
-    EXPECT_EQ(form.rtbCalc.Bounds(), (Rect{2, 24, 396, 154}));
-    EXPECT_EQ(form.picBar.Bounds().height, 63);
+    EXPECT_EQ(form.Get<TabStrip>("tabCalc").Bounds(), (Rect{397, 397, 400, 180}));
+    EXPECT_EQ(form.Get<RichTextBox>("rtbCalc").Bounds(), (Rect{2, 24, 396, 154}));
+    EXPECT_EQ(form.Get<Picture>("picBar").Bounds().height, 63);
     form.Arrange(Arrangement::Kinematics);
-    EXPECT_EQ(form.picBar.Bounds().height, 31);
+    EXPECT_EQ(form.Get<Picture>("picBar").Bounds().height, 31);
 }
 
 TEST_F(Form1Test, TwoWindowsLiveSideBySide) {
     TestHost other_world;
     Form1 other(other_world.host);
-    form.txtVector.SetText("h5");
+    form.Get<TextBox>("txtVector").SetText("h5");
     form.publics.Decimals = 7;
-    EXPECT_EQ(other.txtVector.Text(), "");
+    EXPECT_EQ(other.Get<TextBox>("txtVector").Text(), "");
     EXPECT_EQ(other.publics.Decimals, 3);
 }
 

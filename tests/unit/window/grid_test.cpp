@@ -12,7 +12,7 @@ class GridTest : public testing::Test {
 
     TestHost world;
     Form1 form{world.host};
-    Grid& grid = form.gd;
+    Grid& grid = form.Get<Grid>("gd");
 };
 
 TEST_F(GridTest, APressOnAHeadingChangesNothing) {

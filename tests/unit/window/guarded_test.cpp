@@ -97,30 +97,33 @@ TEST_F(GuardedTest, MouseAndGridEventsArriveWithTheirPlace) {
     EXPECT_EQ(row, 2);
 }
 
-/// What stands under the guards: a handler without one, and a failure that is no exception of the library.
+/// What stands under the guards: a failure that is no exception of the library.
 TEST_F(GuardedTest, NoFailureReachesTheEventLoop) {
-    button.OnClick = [] { Fail(); };
+    OnClick(form, button, [] { throw 1; });
     EXPECT_NO_THROW(button.UserClick());
     EXPECT_EQ(world.last_message, text::kCommandFailed);
-    box.OnKeyPress = [](char32_t) -> bool { throw 1; };
+    On(form, box.OnKeyPress, [](char32_t) -> bool { throw 1; });
     EXPECT_NO_THROW(EXPECT_FALSE(box.UserKeyPress(U'a')));
     EXPECT_EQ(world.messages, 2);
 }
 
 TEST_F(GuardedTest, AFailureAtAChangeOfFocusStopsThere) {
     form.Get<Frame>("fraDirec").SetVisible(true);
-    box.OnGotFocus = [] { Fail(); };
+    On(form, box.OnGotFocus, [] { throw 1; });
     EXPECT_NO_THROW(form.UserFocused(box));
     EXPECT_EQ(world.messages, 1);
     EXPECT_EQ(form.Focus(), &box);
 }
 
-/// A handler that moves the focus or changes a box answers for what that brings about: one box, not two.
-TEST_F(GuardedTest, AFailureFurtherInIsToldOnce) {
-    box.OnChange = [] { Fail(); };
-    OnClick(form, button, [&] { box.SetTextAndTell("h5"); });
+/// A handler that the program sets off by another handler has a guard of its own.
+TEST_F(GuardedTest, AFailureFurtherInIsToldThere) {
+    On(form, box.OnChange, [] { Fail(); });
+    OnClick(form, button, [&] {
+        box.SetTextAndTell("h5");
+        Fail();
+    });
     button.UserClick();
-    EXPECT_EQ(world.messages, 1);
+    EXPECT_EQ(world.messages, 2);
 }
 
 TEST_F(GuardedTest, ControlsAreBoundByNameAndKind) {
