@@ -7,6 +7,9 @@
 namespace tavrelo::window {
 namespace {
 
+constexpr std::string_view kMainWindow = "Form1";
+constexpr std::string_view kDialog = "Form2";
+
 struct ArrayName {
     std::string_view base;
     int index;
@@ -81,10 +84,11 @@ void ApplyFlags(Control& control, int flags) {
 
 Form1::Form1(const Host& host)
     : boxes(host.boxes), clipboard(host.clipboard), printer(host.printer), files(host.files) {
+    MakeControls();
     LinkOptions();
 }
 
-bool Form1::MakeControls() {
+void Form1::MakeControls() {
     m_links.changed = [this](Control& control, Change change) {
         if (m_focus && !m_focus->IsUsable())
             m_focus = nullptr;
@@ -96,7 +100,6 @@ bool Form1::MakeControls() {
         MakeControl(row);
     for (const ControlTooltip& row : TooltipTable())
         MustFind(row.name)->SetTooltip(std::string(row.tooltip));
-    return true;
 }
 
 void Form1::MakeControl(const ControlRow& row) {
@@ -200,15 +203,15 @@ void Form1::MoveFocus(Control& control) {
 void Form1::SetPointer(int shape) {
     m_pointer = shape;
     if (OnChange)
-        OnChange(ThisWindow, Change::State);
+        OnChange(*MustFind(kMainWindow), Change::State);
 }
 
 void Form1::End() {
     if (m_ended)
         return;
     m_ended = true;
-    Form2.SetVisible(false);
-    ThisWindow.SetVisible(false);
+    for (const auto name : {kDialog, kMainWindow})
+        MustFind(name)->SetVisible(false);
     if (OnEnd)
         OnEnd();
 }

@@ -40,8 +40,8 @@ class ControlArray {
 };
 
 /// The window model: every control of every tool under its name, made from the table of layout.h, plus what
-/// the controls share: focus, pointer, end of the program. It knows no tool; tools take it by reference and
-/// wire its events.
+/// the controls share: focus, pointer, end of the program. It knows no tool; a tool binds by name the
+/// controls that it may touch.
 class Form1 {
   public:
     explicit Form1(const Host& host);
@@ -113,8 +113,7 @@ class Form1 {
     Control* MustFind(std::string_view name) const;
     [[noreturn]] static void FailOn(std::string_view name);
     std::vector<std::pair<int, Control*>> FindArray(std::string_view name) const;
-    /// Makes all controls; runs before the members below are bound to them.
-    bool MakeControls();
+    void MakeControls();
     void MoveFocus(Control& control);
     /// All option buttons of one array exclude each other.
     void LinkOptions();
@@ -127,144 +126,6 @@ class Form1 {
     Control* m_focus = nullptr;
     int m_pointer = kPointerDefault;
     bool m_ended = false;
-    bool m_made = MakeControls();
-
-  public:
-    Window& ThisWindow = Get<Window>("Form1");
-    Window& Form2 = Get<Window>("Form2");
-    Picture& Image1 = Get<Picture>("Image1");
-    Shape& linMarker = Get<Shape>("linMarker");
-    Picture& pic = Get<Picture>("pic");
-    Picture& pic1 = Get<Picture>("pic1");
-    Picture& picBar = Get<Picture>("picBar");
-    Picture& picArgs = Get<Picture>("picArgs");
-    Picture& picRuts = Get<Picture>("picRuts");
-    RichTextBox& rtbHold = Get<RichTextBox>("rtbHold");
-    Frame& fraUnits = Get<Frame>("fraUnits");
-    Frame& fraExpr = Get<Frame>("fraExpr");
-    Frame& fraCalc = Get<Frame>("fraCalc");
-    Frame& fraDirec = Get<Frame>("fraDirec");
-    Frame& fraEstp = Get<Frame>("fraEstp");
-    TabStrip& tabCalc = Get<TabStrip>("tabCalc");
-    TabStrip& tabStat = Get<TabStrip>("tabStat");
-    TabStrip& tabMrua = Get<TabStrip>("tabMrua");
-    Frame& fraTable = Get<Frame>("fraTable");
-    Frame& fraKinem = Get<Frame>("fraKinem");
-    Frame& fraHelp = Get<Frame>("fraHelp");
-    Picture& picArgs1 = Get<Picture>("picArgs1");
-    Picture& picArgs2 = Get<Picture>("picArgs2");
-    ControlArray<ComboBox> cboUnits = GetArray<ComboBox>("cboUnits");
-    Label& LblFact = Get<Label>("LblFact");
-    Label& lblExpr = Get<Label>("lblExpr");
-    RichTextBox& rtbExpr = Get<RichTextBox>("rtbExpr");
-    Label& lblEqual = Get<Label>("lblEqual");
-    TextBox& txtExpr = Get<TextBox>("txtExpr");
-    Picture& picOpt = Get<Picture>("picOpt");
-    ControlArray<Button> cmdGrid = GetArray<Button>("cmdGrid");
-    Label& lblRC = Get<Label>("lblRC");
-    Button& cmdCalculate = Get<Button>("cmdCalculate");
-    Grid& gd = Get<Grid>("gd");
-    Picture& picClock = Get<Picture>("picClock");
-    Label& lblVorF = Get<Label>("lblVorF");
-    TextBox& txtVector = Get<TextBox>("txtVector");
-    Label& lbltxtAngle = Get<Label>("lbltxtAngle");
-    TextBox& txtAngle = Get<TextBox>("txtAngle");
-    Button& cmdInc = Get<Button>("cmdInc");
-    Label& lblAtan = Get<Label>("lblAtan");
-    TextBox& txtAtan = Get<TextBox>("txtAtan");
-    Grid& gdEqui = Get<Grid>("gdEqui");
-    ControlArray<Button> cmdParts = GetArray<Button>("cmdParts");
-    Button& cmdRotangle = Get<Button>("cmdRotangle");
-    Label& lblExamples = Get<Label>("lblExamples");
-    ControlArray<Button> cmdExampleEstp = GetArray<Button>("cmdExampleEstp");
-    RichTextBox& rtbCalc = Get<RichTextBox>("rtbCalc");
-    RichTextBox& rtbSolve = Get<RichTextBox>("rtbSolve");
-    RichTextBox& txtArgHelp = Get<RichTextBox>("txtArgHelp");
-    RichTextBox& rtbReg = Get<RichTextBox>("rtbReg");
-    ControlArray<Label> lblSegm = GetArray<Label>("lblSegm");
-    ControlArray<TextBox> txtSegm = GetArray<TextBox>("txtSegm");
-    Label& lblVector = Get<Label>("lblVector");
-    Label& lblRepeat = Get<Label>("lblRepeat");
-    TextBox& txtRepeat = Get<TextBox>("txtRepeat");
-    Button& cmdOK = Get<Button>("cmdOK");
-    ControlArray<Button> cmdConfig = GetArray<Button>("cmdConfig");
-    ControlArray<Button> cmdHelpEstcr = GetArray<Button>("cmdHelpEstcr");
-    Label& lblSeps = Get<Label>("lblSeps");
-    Label& lblCoords = Get<Label>("lblCoords");
-    ListBox& lstSeps = Get<ListBox>("lstSeps");
-    ListBox& lstCoords = Get<ListBox>("lstCoords");
-    Label& lblOrigin = Get<Label>("lblOrigin");
-    TextBox& txtOrigin = Get<TextBox>("txtOrigin");
-    Button& cmdUpdate = Get<Button>("cmdUpdate");
-    Label& lblSystems = Get<Label>("lblSystems");
-    UpDown& spnColor = Get<UpDown>("spnColor");
-    ListBox& lstSysts = Get<ListBox>("lstSysts");
-    ControlArray<Label> lblSystem = GetArray<Label>("lblSystem");
-    ControlArray<Label> lblPoints = GetArray<Label>("lblPoints");
-    Label& lblLine = Get<Label>("lblLine");
-    TextBox& txtPoints = Get<TextBox>("txtPoints");
-    Label& lblMakeDCL = Get<Label>("lblMakeDCL");
-    ControlArray<OptionButton> optDCL = GetArray<OptionButton>("optDCL");
-    ControlArray<Label> lblBody = GetArray<Label>("lblBody");
-    ControlArray<TextBox> txtBody = GetArray<TextBox>("txtBody");
-    ControlArray<Label> lblForceAt = GetArray<Label>("lblForceAt");
-    Button& cmdOK1 = Get<Button>("cmdOK1");
-    Button& cmdAddForce = Get<Button>("cmdAddForce");
-    Grid& gd1 = Get<Grid>("gd1");
-    ControlArray<Button> cmdDCL = GetArray<Button>("cmdDCL");
-    Label& lblShowDCL = Get<Label>("lblShowDCL");
-    ControlArray<OptionButton> optShowDCL = GetArray<OptionButton>("optShowDCL");
-    Label& lblBodies = Get<Label>("lblBodies");
-    ListBox& lstDCL = Get<ListBox>("lstDCL");
-    Button& cmdClearLstDCL = Get<Button>("cmdClearLstDCL");
-    Label& lblRefPt = Get<Label>("lblRefPt");
-    ControlArray<TextBox> txtRefPt = GetArray<TextBox>("txtRefPt");
-    Label& lblSupr = Get<Label>("lblSupr");
-    TextBox& txtSuprEqn = Get<TextBox>("txtSuprEqn");
-    Button& cmdShowIncsEqns = Get<Button>("cmdShowIncsEqns");
-    ControlArray<Button> cmdVMb = GetArray<Button>("cmdVMb");
-    ControlArray<Button> cmdTable = GetArray<Button>("cmdTable");
-    ControlArray<Label> lblAs = GetArray<Label>("lblAs");
-    ControlArray<Button> cmdHelpTable = GetArray<Button>("cmdHelpTable");
-    Picture& imgProcs = Get<Picture>("imgProcs");
-    Shape& shpMrua = Get<Shape>("shpMrua");
-    ComboBox& cboProcs = Get<ComboBox>("cboProcs");
-    TextBox& txtProcs = Get<TextBox>("txtProcs");
-    Button& cmdProcs = Get<Button>("cmdProcs");
-    Picture& picAccel = Get<Picture>("picAccel");
-    Grid& Gd2 = Get<Grid>("Gd2");
-    Button& cmdNewMruaProbl = Get<Button>("cmdNewMruaProbl");
-    Button& cmdEraseTable = Get<Button>("cmdEraseTable");
-    Button& cmdSeeEqns = Get<Button>("cmdSeeEqns");
-    Button& cmdEraseEqns = Get<Button>("cmdEraseEqns");
-    Frame& fraRes = Get<Frame>("fraRes");
-    ControlArray<TextBox> txtAccel = GetArray<TextBox>("txtAccel");
-    ControlArray<Label> lblQuant = GetArray<Label>("lblQuant");
-    ControlArray<Label> lblRes = GetArray<Label>("lblRes");
-    ControlArray<Button> cmdPass = GetArray<Button>("cmdPass");
-    Button& cmdCloseFrares = Get<Button>("cmdCloseFrares");
-    ControlArray<Label> lblKinem = GetArray<Label>("lblKinem");
-    ControlArray<TextBox> txtKinem = GetArray<TextBox>("txtKinem");
-    ControlArray<Label> lblT0 = GetArray<Label>("lblT0");
-    ControlArray<TextBox> txtT0 = GetArray<TextBox>("txtT0");
-    ControlArray<Label> lblTime = GetArray<Label>("lblTime");
-    ControlArray<TextBox> txtKinemt1 = GetArray<TextBox>("txtKinemt1");
-    Button& cmdCalcxva = Get<Button>("cmdCalcxva");
-    Button& cmdGraph = Get<Button>("cmdGraph");
-    ControlArray<CheckBox> chkGraph = GetArray<CheckBox>("chkGraph");
-    ControlArray<Button> cmdHelpCtrl = GetArray<Button>("cmdHelpCtrl");
-    ComboBox& cboHelp = Get<ComboBox>("cboHelp");
-    RichTextBox& rtbHelp = Get<RichTextBox>("rtbHelp");
-    Label& lblPrint = Get<Label>("lblPrint");
-    ControlArray<OptionButton> optPrint = GetArray<OptionButton>("optPrint");
-    Button& cmdPrintRes = Get<Button>("cmdPrintRes");
-    Label& lblCopy = Get<Label>("lblCopy");
-    Button& cmdCopyToClipboard = Get<Button>("cmdCopyToClipboard");
-    Label& lblNCD = Get<Label>("lblNCD");
-    TextBox& txtNCD = Get<TextBox>("txtNCD");
-    UpDown& UpDown1 = Get<UpDown>("UpDown1");
-    Button& cmdAbout = Get<Button>("cmdAbout");
-    Button& cmdCloseForm2 = Get<Button>("cmdCloseForm2");
 };
 
 }  // namespace tavrelo::window
