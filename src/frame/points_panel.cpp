@@ -86,7 +86,7 @@ void PointsPanel::BindTable() {
 }
 
 void PointsPanel::BindStrip() {
-    const auto bind = [this](std::function<void(const MouseStroke&)>& event,
+    const auto bind = [this](window::Handler<void(const MouseStroke&)>& event,
                              void (PointsTool::*action)(const MouseStroke&)) {
         On(
             m_form, event,
