@@ -1,17 +1,8 @@
 #include "app/tools.h"
 
 #include "tools/calculator/routine_table.h"
-#include "window/guarded.h"
 
 namespace tavrelo::app {
-namespace {
-
-using window::Tool;
-
-constexpr std::string_view kStatPartFile = "\\StatPart.txt";
-
-}  // namespace
-
 Program::Tools::Tools(window::Form1& window)
     : form(window),
       menu(window, tools::calculator::RoutineMenu()),
@@ -23,7 +14,7 @@ Program::Tools::Tools(window::Form1& window)
       option_strip(window),
       clock(window),
       calculator(window, expression, clock),
-      particle(window, clock),
+      particle(window, clock, help),
       rigid_body(window, help),
       points(window, help),
       motion(window, points, tool_switch),
@@ -51,9 +42,6 @@ void Program::Tools::WireMenu() {
 void Program::Tools::WireHelp() {
     tool_switch.OnFillTopics = [this](int help_tool) { help.FillHelpCbo(help_tool); };
     tool_switch.OnGeneralHelp = [this] { help.ShowGeneralPage(); };
-    particle.OnExample = [this](int index) {
-        help.ShowShortTopic(kStatPartFile, std::to_string(index + 1) + "EXAMPLE");
-    };
 }
 
 void Program::Tools::WireTools() {
@@ -61,12 +49,13 @@ void Program::Tools::WireTools() {
         if (particle.LoadForces(texts))
             particle.SolveAndReport();
     };
-    tool_switch.SetHooks(Tool::Calculator, calculator.Hooks());
-    tool_switch.SetHooks(Tool::Particle, particle.Hooks());
-    tool_switch.SetHooks(Tool::RigidBody, rigid_body.Hooks());
-    tool_switch.SetHooks(Tool::Motion, motion.Hooks());
-    tool_switch.SetHooks(Tool::Projectile, projectile.Hooks());
-    tool_switch.SetHooks(Tool::Kinematics, kinematics.Hooks());
+    using enum window::Tool;
+    tool_switch.SetHooks(Calculator, calculator.Hooks());
+    tool_switch.SetHooks(Particle, particle.Hooks());
+    tool_switch.SetHooks(RigidBody, rigid_body.Hooks());
+    tool_switch.SetHooks(Motion, motion.Hooks());
+    tool_switch.SetHooks(Projectile, projectile.Hooks());
+    tool_switch.SetHooks(Kinematics, kinematics.Hooks());
 }
 
 }  // namespace tavrelo::app

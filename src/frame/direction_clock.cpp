@@ -9,29 +9,12 @@
 namespace tavrelo::frame {
 namespace {
 
-constexpr std::string_view kRotationPrefix = "Q = ";
-constexpr std::string_view kDegreeSign = "°";
 constexpr std::string_view kTipPrefix = "Clic aquí pone ángulo = ";
 constexpr double kStep = 5;         // degrees, as the caption of cmdInc says
 constexpr double kAngleLimit = 90;  // degrees, which a stepped angle never reaches
 constexpr text::Color kFaceColor = text::Rgb(245, 245, 245);
 
 }  // namespace
-
-double GetRotAngle(const window::Form1& form) {
-    std::string_view caption = form.Get<window::Button>("cmdRotangle").Caption();
-    if (!caption.starts_with(kRotationPrefix) || !caption.ends_with(kDegreeSign))
-        return 0;
-    caption.remove_prefix(kRotationPrefix.size());
-    caption.remove_suffix(kDegreeSign.size());
-    return text::IsNum(caption) ? text::ToNumber(caption) : 0;
-}
-
-std::string RotationCaption(double degrees) {
-    return std::string(kRotationPrefix) + text::NumberToText(degrees) + std::string(kDegreeSign);
-}
-
-std::string AngleTip(double degrees) { return std::string(kTipPrefix) + text::NumberToText(degrees); }
 
 DirectionClock::DirectionClock(window::Form1& form) : m_form(form), m_hour(notation::kHourRight) {
     m_controls.picClock.Canvas().BackColor = kFaceColor;
@@ -53,8 +36,13 @@ void DirectionClock::EnterVector() {
         taker();
 }
 
+void DirectionClock::TurnAxes(double degrees) {
+    m_axes = degrees;
+    m_controls.lbltxtAngle.SetTooltip(std::string(kTipPrefix) + text::NumberToText(degrees));
+}
+
 double DirectionClock::Rotation() const {
-    return m_form.publics.CurrentTool == window::Tool::Particle ? GetRotAngle(m_form) : 0;
+    return m_form.publics.CurrentTool == window::Tool::Particle ? m_axes : 0;
 }
 
 void DirectionClock::Reset() {
@@ -105,9 +93,8 @@ void DirectionClock::AddStep() {
 }
 
 void DirectionClock::TakeTipAngle() {
-    const double angle = GetRotAngle(m_form);
-    m_controls.txtAngle.SetText(text::NumberToText(angle));
-    Offer(angle);
+    m_controls.txtAngle.SetText(text::NumberToText(m_axes));
+    Offer(m_axes);
 }
 
 void DirectionClock::OfferWithAngle(double angle) {

@@ -28,8 +28,9 @@ class DirectionClock {
     void GiveVectorTo(window::Tool tool, window::Event taker);
 
     int ClockSel() const { return m_hour; }
-    /// The rotation of the axes in degrees, as the caption of `cmdRotangle` tells it; 0 outside the particle
-    /// tool.
+    /// The axes of the particle's diagram turn, and with them the clock while that tool is in use; degrees.
+    void TurnAxes(double degrees);
+    /// How far the clock is turned now: 0 outside the particle tool.
     double Rotation() const;
     /// Hour 3 and angle 0, as at the start.
     void Reset();
@@ -51,12 +52,7 @@ class DirectionClock {
     DirectionClockControls m_controls{m_form};
     std::array<window::Event, window::kToolCount> m_takers;
     int m_hour;
+    double m_axes = 0;  // how far those of the particle are turned, degrees
 };
-
-/// GetRotAngle: the number behind "Q = " in the caption of `cmdRotangle`, degrees.
-double GetRotAngle(const window::Form1& form);
-std::string RotationCaption(double degrees);
-/// The tip of `lbltxtAngle` for a rotation.
-std::string AngleTip(double degrees);
 
 }  // namespace tavrelo::frame

@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "drawing/clock_face.h"
-#include "frame/direction_clock.h"
 #include "frame/menu_bar.h"
 #include "notation/clock_direction.h"
+#include "text/number_text.h"
 #include "tools/calculator/routine_table.h"
 #include "verbs.h"
 
@@ -17,6 +17,8 @@ constexpr double kToolButtonWidth = 555;   // twips
 constexpr double kToolButtonHeight = 480;  // twips
 constexpr double kNumeralRadius = 48;      // of the clock, pixels
 constexpr double kDegreesPerHour = 30;
+constexpr std::string_view kRotationPrefix = "Q = ";  // around the degrees on the button of the axes
+constexpr std::string_view kDegreeSign = "°";
 
 /// A number that must lie between 1 and `most`.
 int CountedNumber(Arguments& arguments, int most) {
@@ -79,7 +81,14 @@ window::MouseStroke MenuCell(int column, int row_top) {
 
 /// How far the clock is turned with the axes, degrees.
 double ClockRotation(const window::Form1& window) {
-    return window.publics.CurrentTool == window::Tool::Particle ? frame::GetRotAngle(window) : 0;
+    if (window.publics.CurrentTool != window::Tool::Particle)
+        return 0;
+    std::string_view caption = window.Get<window::Button>("cmdRotangle").Caption();
+    if (!caption.starts_with(kRotationPrefix) || !caption.ends_with(kDegreeSign))
+        throw ScriptError("cmdRotangle tells no rotation");
+    caption.remove_prefix(kRotationPrefix.size());
+    caption.remove_suffix(kDegreeSign.size());
+    return text::ToNumber(caption);
 }
 
 }  // namespace

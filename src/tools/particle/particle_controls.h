@@ -13,7 +13,6 @@ struct ParticleControls {
     window::TextBox& txtVector = form.Get<window::TextBox>("txtVector");
     window::TextBox& txtAngle = form.Get<window::TextBox>("txtAngle");
     window::TextBox& txtAtan = form.Get<window::TextBox>("txtAtan");
-    window::Label& lbltxtAngle = form.Get<window::Label>("lbltxtAngle");
     // The table and its commands.
     window::Grid& gdEqui = form.Get<window::Grid>("gdEqui");
     window::ControlArray<window::Button> cmdParts = form.GetArray<window::Button>("cmdParts");

@@ -29,6 +29,8 @@ constexpr std::array<window::GridColumn, kGridCols> kColumns = {{
     {"Fy", 1450},
 }};
 
+constexpr std::string_view kExamplesFile = "\\StatPart.txt";
+
 constexpr std::size_t kSolvableCount = 2;  // forces from which on Resolver makes sense
 constexpr double kRotationLimit = 90;      // degrees
 
@@ -41,7 +43,8 @@ double Known(const std::optional<double>& number) {
 
 }  // namespace
 
-ParticleTool::ParticleTool(window::Form1& form, frame::DirectionClock& clock) : m_form(form), m_clock(clock) {
+ParticleTool::ParticleTool(window::Form1& form, frame::DirectionClock& clock, frame::HelpPanel& help)
+    : m_form(form), m_clock(clock), m_help(help) {
     ArrangeGdEqui();
     Wire();
 }
@@ -53,8 +56,7 @@ void ParticleTool::Wire() {
     window::OnClick(m_form, m_controls.cmdParts, [this](int index) { RunCommand(index); });
     window::OnClick(m_form, m_controls.cmdRotangle, [this] { RotateAxes(); });
     window::OnClick(m_form, m_controls.cmdExampleEstp, [this](int index) {
-        if (OnExample)
-            OnExample(index);
+        m_help.ShowShortTopic(kExamplesFile, std::to_string(index + 1) + "EXAMPLE");
     });
 }
 
@@ -299,8 +301,8 @@ void ParticleTool::RotateAxes() {
 }
 
 void ParticleTool::ShowRotation() {
-    m_controls.cmdRotangle.SetCaption(frame::RotationCaption(m_rotation));
-    m_controls.lbltxtAngle.SetTooltip(frame::AngleTip(m_rotation));
+    m_controls.cmdRotangle.SetCaption("Q = " + text::NumberToText(m_rotation) + "°");
+    m_clock.TurnAxes(m_rotation);
 }
 
 void ParticleTool::Draw() { DrawForces(m_controls.pic1.Canvas(), m_forces, m_rotation); }

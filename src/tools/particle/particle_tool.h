@@ -1,12 +1,12 @@
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "frame/direction_clock.h"
+#include "frame/help_panel.h"
 #include "frame/tool_switch.h"
 #include "mechanics/particle/equilibrium.h"
 #include "tools/particle/axis_slots.h"
@@ -19,7 +19,7 @@ namespace tavrelo::tools::particle {
 /// acceptance or undoing. The table outlasts a change of tool; only the new-problem command clears it.
 class ParticleTool {
   public:
-    ParticleTool(window::Form1& form, frame::DirectionClock& clock);
+    ParticleTool(window::Form1& form, frame::DirectionClock& clock, frame::HelpPanel& help);
 
     frame::ToolHooks Hooks();
     /// Replaces the table by the forces of a list of texts; a refusal is shown and keeps the old table
@@ -27,9 +27,6 @@ class ParticleTool {
     bool LoadForces(std::span<const std::string> texts);
     /// Solves the table and writes the report. A refusal is shown in a box, and nothing changes (false).
     bool SolveAndReport();
-
-    /// The topic of a worked example is asked for: its index from 0.
-    std::function<void(int)> OnExample;
 
     std::size_t ForceCount() const { return m_forces.Count(); }
     std::size_t BackupCount() const { return m_backup.Count(); }
@@ -68,6 +65,7 @@ class ParticleTool {
     window::Form1& m_form;
     ParticleControls m_controls{m_form};
     frame::DirectionClock& m_clock;
+    frame::HelpPanel& m_help;
     ForcesInView m_forces;
     ForcesInView m_backup;
     AxisSlots m_slots;
