@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <iterator>
+#include <optional>
+#include <utility>
 
 #include "drawing/force_color.h"
 #include "notation/clock_direction.h"
