@@ -16,6 +16,14 @@ bool WithinPct(double a, double b, double percent) {
     return (1.0 - share) * reference <= size && size <= (1.0 + share) * reference;
 }
 
+double LargestRest(double largest_term) {
+    constexpr double kLargest = 0.001;
+    constexpr double kPartOfLargestTerm = 0.001;
+    constexpr double kPartLostToRounding = 1e-9;
+    return std::max(std::min(kLargest, kPartOfLargestTerm * largest_term),
+                    kPartLostToRounding * largest_term);
+}
+
 double MaxArr(std::span<const double> list) {
     if (list.empty()) {
         throw RuntimeFailure(FailureCode::SubscriptRange, "largest element of an empty list");

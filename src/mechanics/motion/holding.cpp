@@ -3,15 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "numeric/compare.h"
+
 namespace tavrelo::mechanics::motion {
-
-namespace {
-
-constexpr double kLargestSum = 0.001;
-constexpr double kPartOfLargestTerm = 0.001;
-constexpr double kPartLostToRounding = 1e-9;
-
-}  // namespace
 
 bool TermsCancel(std::span<const double> terms) {
     double sum = 0, largest = 0;
@@ -19,10 +13,7 @@ bool TermsCancel(std::span<const double> terms) {
         sum += term;
         largest = std::max(largest, std::abs(term));
     }
-    if (!std::isfinite(sum))
-        return false;
-    const double allowed = std::min(kLargestSum, kPartOfLargestTerm * largest);
-    return std::abs(sum) <= std::max(allowed, kPartLostToRounding * largest);
+    return std::isfinite(sum) && std::abs(sum) <= numeric::LargestRest(largest);
 }
 
 }  // namespace tavrelo::mechanics::motion

@@ -6,15 +6,12 @@
 
 #include "mechanics/rigid/results.h"
 #include "numeric/checked.h"
+#include "numeric/compare.h"
 
 namespace tavrelo::mechanics::rigid {
 namespace {
 
-constexpr double kLargestSum = 0.001;
-constexpr double kPartOfLargestTerm = 0.001;
-// What rounding may leave: of the sum's own largest term, and of the largest one of all sums, which a
-// solution mixes with each other.
-constexpr double kRounding = 1e-9;
+// What rounding may leave of the largest term of all sums: a solution mixes them with each other.
 constexpr double kRoundingOfAll = 1e-12;
 
 // What an equation comes to with the results put in.
@@ -42,9 +39,8 @@ std::optional<Balance> BalanceOf(const BodyEquation& equation, const BodyResults
 }
 
 bool IsZero(const Balance& balance, double largest_of_all) {
-    const double allowed = std::min(kLargestSum, kPartOfLargestTerm * balance.largest);
-    const double rounding = std::max(kRounding * balance.largest, kRoundingOfAll * largest_of_all);
-    return std::abs(balance.sum) <= std::max(allowed, rounding);
+    return std::abs(balance.sum) <=
+           std::max(numeric::LargestRest(balance.largest), kRoundingOfAll * largest_of_all);
 }
 
 }  // namespace

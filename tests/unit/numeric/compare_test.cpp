@@ -35,5 +35,13 @@ TEST(Compare, MaxArrRefusesAnEmptyList) {
     EXPECT_EQ(FailureOf([] { MaxArr({}); }), FailureCode::SubscriptRange);
 }
 
+TEST(LargestRest, GoesWithTheLargestTermUpToAThousandth) {
+    EXPECT_DOUBLE_EQ(LargestRest(0), 0);
+    EXPECT_DOUBLE_EQ(LargestRest(0.1), 0.0001);
+    EXPECT_DOUBLE_EQ(LargestRest(1), 0.001);
+    EXPECT_DOUBLE_EQ(LargestRest(1e5), 0.001);
+    EXPECT_DOUBLE_EQ(LargestRest(1e9), 1);
+}
+
 }  // namespace
 }  // namespace tavrelo::numeric
