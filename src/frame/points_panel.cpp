@@ -103,8 +103,8 @@ void PointsPanel::BindStrip() {
 void PointsPanel::BindProcedures() {
     On(m_form, m_controls.imgProcs.OnMouseDown, [this](const MouseStroke& stroke) {
         const int height = m_controls.shpMrua.Bounds().height * window::kTwipsPerPixel;
-        if (stroke.y >= 0)
-            ChooseRow(static_cast<int>(stroke.y / height) + 1);
+        const int rows = m_tool ? static_cast<int>(m_tool->Texts().procedure_rows.size()) : 0;
+        ChooseRow(window::CellAt(stroke.y, height, rows) + 1);
     });
     OnClick(m_form, m_controls.cboProcs, [this] { ChooseEntry(); });
     On(m_form, m_controls.txtProcs.OnChange, [this] {
