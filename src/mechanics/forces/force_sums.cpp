@@ -1,8 +1,10 @@
 #include "mechanics/forces/force_sums.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "numeric/checked.h"
+#include "numeric/compare.h"
 
 namespace tavrelo::mechanics::forces {
 namespace {
@@ -11,6 +13,8 @@ using notation::Force;
 using notation::ForceComponent;
 
 constexpr double kEquilibriumTolerance = 0.001;
+// What rounding may leave of the largest component in both sums, which a solution mixes with each other.
+constexpr double kRoundingOfBoth = 1e-12;
 
 // False when the component holds a third unknown.
 bool AddComponent(ForceSum& sum, const ForceComponent& component) {
@@ -57,6 +61,23 @@ std::optional<ComponentSums> SumComponents(std::span<const Force> forces, Compon
         start.y = numeric::CheckedAdd(start.y, *force.y.number);
     }
     return start;
+}
+
+bool AreBalanced(std::span<const Force> forces) {
+    const auto sums = SumComponents(forces);
+    if (!sums)
+        return false;
+    ComponentSums largest;
+    for (const Force& force : forces) {
+        largest.x = std::max(largest.x, std::abs(force.x.number.value_or(0)));
+        largest.y = std::max(largest.y, std::abs(force.y.number.value_or(0)));
+    }
+    const double largest_of_both = std::max(largest.x, largest.y);
+    const auto is_zero = [&](double sum, double own_largest) {
+        return std::abs(sum) <=
+               std::max(numeric::LargestRest(own_largest), kRoundingOfBoth * largest_of_both);
+    };
+    return is_zero(sums->x, largest.x) && is_zero(sums->y, largest.y);
 }
 
 bool InEquilibrium(const std::optional<ComponentSums>& sums) {

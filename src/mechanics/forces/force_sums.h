@@ -39,6 +39,11 @@ struct ComponentSums {
 /// with Overflow.
 std::optional<ComponentSums> SumComponents(std::span<const notation::Force> forces, ComponentSums start = {});
 
+/// Whether the components of all forces truly add up to nothing: each sum is at most 0.001 and a thousandth
+/// of its largest component, or what rounding leaves of such numbers. False while a component is unknown.
+/// Fails with Overflow.
+bool AreBalanced(std::span<const notation::Force> forces);
+
 /// Whether both sums are below the 0.001 that counts as equilibrium.
 bool InEquilibrium(const std::optional<ComponentSums>& sums);
 

@@ -25,6 +25,8 @@ struct NothingToSolve {
 /// The shapes of the unknowns fit no case. Nothing is reported, yet it counts as solved.
 struct SilentEnd {};
 
+/// What the solver says when what it finds does not balance the forces.
+inline constexpr const char* kNoEquilibrium = "No se pueden cumplir las ecuaciones de equilibrio.";
 /// What the solver says to unknowns that it has no method for.
 inline constexpr const char* kCaseNotSolved = "No resuelvo este caso.";
 

@@ -28,6 +28,13 @@ std::vector<Force> WithValues(std::span<const Force> forces, const forces::Facto
     return found;
 }
 
+// The solution, unless rounding has made of nearly parallel forces one that does not balance them.
+Equilibrium Checked(std::vector<Force> found, const Report& report, int decimals) {
+    if (!forces::AreBalanced(found))
+        return text::Refusal{kNoEquilibrium};
+    return Finish(std::move(found), report, {}, decimals);
+}
+
 Report LinearReport(const forces::ForceSums& sums, const TwoUnknowns& unknowns, const Root& root) {
     return {{{{unknowns.a, unknowns.first}, {unknowns.b, unknowns.second}}, sums.x.known},
             {{{unknowns.d, unknowns.first}, {unknowns.e, unknowns.second}}, sums.y.known},
@@ -50,7 +57,7 @@ Equilibrium SolveEquilibrant(std::span<const Force> forces, const forces::ForceS
     const Report report = {{{sums.x.first}, sums.x.known},
                            {{sums.y.first}, sums.y.known},
                            {{{unknown.magnitude, magnitude}, {unknown.angle, direction, kDegrees}}}};
-    return Finish(std::move(found), report, {}, decimals);
+    return Checked(std::move(found), report, decimals);
 }
 
 Equilibrium SolveMagnitudes(std::span<const Force> forces, const forces::ForceSums& sums, int decimals) {
@@ -72,7 +79,7 @@ Equilibrium SolveMagnitudes(std::span<const Force> forces, const forces::ForceSu
             return root.second;
         return {};
     });
-    return Finish(std::move(found), LinearReport(sums, unknowns, root), {}, decimals);
+    return Checked(std::move(found), LinearReport(sums, unknowns, root), decimals);
 }
 
 }  // namespace tavrelo::mechanics::particle

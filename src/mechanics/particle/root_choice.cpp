@@ -7,15 +7,13 @@ namespace {
 
 using notation::Force;
 
-constexpr const char* kNoEquilibrium = "No se pueden cumplir las ecuaciones de equilibrio.";
-
 // A root put into the forces, and what their components then add up to; nothing while one is unknown.
 struct TriedRoot {
     std::vector<Force> forces;
     std::optional<forces::ComponentSums> sums;
     Report report;
 
-    bool IsGood() const { return InEquilibrium(sums); }
+    bool IsGood() const { return InEquilibrium(sums) && forces::AreBalanced(forces); }
 };
 
 TriedRoot Tried(std::span<const Force> forces, const RootCase& method, const Root& root) {

@@ -62,6 +62,33 @@ TEST(SumComponents, AddsToTheStart) {
     EXPECT_FALSE(SumComponents(Forces({"3,4", "vF"})));
 }
 
+struct BalanceRow {
+    std::vector<std::string> forces;
+    bool balanced;
+};
+
+TEST(AreBalanced, MeasuresASumByItsOwnComponents) {
+    const BalanceRow rows[] = {
+        {{"3,4", "-3,-4"}, true},
+        {{"3,4", "-3,-4.0009"}, true},
+        {{"3,4", "-3,-4.0011"}, false},
+        {{"3,4", "-3.0011,-4"}, false},
+        {{"0.0008,0", "0.0008,0"}, false},  // below 0.001, and all there is
+        {{"0.5,0", "-0.5004,0"}, true},     // a thousandth of 0.5 is 0.0005
+        {{"0.5,0", "-0.4994,0"}, false},
+        {{"1E9,0", "-1000000000.9,0"}, true},  // 1E-9 of the largest
+        {{"1E9,0", "-1000000001.1,0"}, false},
+        {{"1E9<90", "1E9<-90"}, true},  // the cosine of 90 leaves dust along x
+        {{"0.00001,1E6", "0,-1E6"}, false},
+        {{"0.0000001,1E6", "0,-1E6"}, true},  // 1E-12 of the largest in both sums
+        {{"3,4", "-3,F"}, false},
+        {{}, true},
+    };
+    for (const BalanceRow& row : rows)
+        EXPECT_EQ(AreBalanced(Forces(row.forces)), row.balanced)
+            << (row.forces.empty() ? "" : row.forces.back());
+}
+
 TEST(InEquilibrium, AllowsLessThanAThousandth) {
     EXPECT_TRUE(InEquilibrium(ComponentSums{0.0009, -0.0009}));
     EXPECT_FALSE(InEquilibrium(ComponentSums{0.001, 0}));

@@ -99,6 +99,14 @@ TEST(SolveEquilibrium, ReportsTheGoodRootAndGoesOnFromTheSumsOfTheLast) {
     });
 }
 
+TEST(SolveEquilibrium, OffersNoRootThatSmallLoadsAloneLetPass) {
+    // The rope over a pulley with 0.0008: the other root leaves 0.0008 in both sums.
+    const Equilibrium outcome = Solved({"vF", "F<a", "-0.0008,-0.0008"}, 4);
+    ASSERT_TRUE(std::holds_alternative<Solution>(outcome));
+    EXPECT_EQ(std::get<Solution>(outcome).report[2], "F = 0.0008");
+    EXPECT_EQ(std::get<Solution>(outcome).report[3], "A = 0°");
+}
+
 TEST(SolveEquilibrium, OffersTwoGoodRoots) {
     // The legs 30 to the right and 20 at A hold F1 to the left: sin A = 1 twice.
     const Equilibrium outcome = Solved({"h-F1", "20<a", "30,-20"});
