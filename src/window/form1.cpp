@@ -1,6 +1,7 @@
 #include "window/form1.h"
 
 #include <charconv>
+#include <utility>
 
 #include "text/refusal.h"
 
@@ -80,6 +81,13 @@ void ApplyFlags(Control& control, int flags) {
     }
 }
 
+/// A box that loses the focus keeps its caret and lets its selection go.
+void DropSelection(Control* control) {
+    auto* box = dynamic_cast<TextControl*>(control);
+    if (box && box->Selection().length > 0)
+        box->Select({box->Selection().start + box->Selection().length, 0});
+}
+
 }  // namespace
 
 Form1::Form1(const Host& host)
@@ -91,7 +99,7 @@ Form1::Form1(const Host& host)
 void Form1::MakeControls() {
     m_links.changed = [this](Control& control, Change change) {
         if (m_focus && !m_focus->IsUsable())
-            m_focus = nullptr;
+            DropSelection(std::exchange(m_focus, nullptr));
         if (OnChange)
             OnChange(control, change);
     };
@@ -192,6 +200,7 @@ void Form1::MoveFocus(Control& control) {
     if (m_focus == &control)
         return;
     auto* left = dynamic_cast<TextControl*>(m_focus);
+    DropSelection(m_focus);
     m_focus = &control;
     if (left && left->OnLostFocus)
         left->OnLostFocus();

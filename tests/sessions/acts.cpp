@@ -62,13 +62,21 @@ std::string Cell(const window::Grid& grid, Chance& chance) {
            std::to_string(chance.Between(0, grid.Cols() - 1));
 }
 
+/// A cell that is in view without scrolling, headings left out: between such cells a drag is one.
+std::string CellInView(const window::Grid& grid, Chance& chance) {
+    constexpr int kRows = 7;
+    constexpr int kCols = 4;
+    return std::to_string(chance.Between(1, std::clamp(grid.Rows() - 1, 1, kRows))) + " " +
+           std::to_string(chance.Between(1, std::clamp(grid.Cols() - 1, 1, kCols)));
+}
+
 std::string OnGrid(const window::Grid& grid, Chance& chance) {
     const std::string& name = grid.Name();
     switch (chance.Below(7)) {
         case 0:
             return "cell " + name + " " + Cell(grid, chance);
         case 1:
-            return "block " + name + " " + Cell(grid, chance) + " " + Cell(grid, chance);
+            return "block " + name + " " + CellInView(grid, chance) + " " + CellInView(grid, chance);
         case 2:
             return "key " + name + " " + std::string(chance.Of(std::span<const std::string_view>(kKeys)));
         case 3:

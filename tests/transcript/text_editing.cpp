@@ -42,9 +42,19 @@ std::u32string OnOneLine(const std::string& text) {
     return text::ToCodePoints(text::ReplaceAll(text::ReplaceAll(text, "\r\n", " "), "\n", " "));
 }
 
+/// The letter of the shortcut that an older way of cutting, copying and pasting stands for; 0 for any other
+/// key.
+char32_t LetterOf(const KeyStroke& stroke) {
+    if (stroke.key == Key::Insert && stroke.shift != stroke.ctrl)
+        return stroke.shift ? U'v' : U'c';
+    return stroke.key == Key::Delete && stroke.shift && !stroke.ctrl ? U'x' : U'\0';
+}
+
 }  // namespace
 
 void TextEditing::Take(TextControl& box, const KeyStroke& stroke) {
+    if (const char32_t letter = LetterOf(stroke))
+        return TakeShortcut(box, letter);
     switch (stroke.key) {
         case Key::Character:
             if (stroke.ctrl && !stroke.alt)
