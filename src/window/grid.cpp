@@ -167,6 +167,9 @@ void Grid::UserPress(int row, int col) {
 void Grid::UserDrag(const CellBlock& block) {
     if (!HasCell(block.first_row, block.first_col) || !HasCell(block.last_row, block.last_col))
         return;
+    // A drag that begins on a heading is none.
+    if (block.first_row < m_fixed_rows || block.first_col < m_fixed_cols)
+        return;
     UserPress(block.first_row, block.first_col);
     CellBlock dragged = block;
     dragged.last_row = std::max(dragged.last_row, m_fixed_rows);

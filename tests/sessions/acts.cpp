@@ -62,12 +62,12 @@ std::string Cell(const window::Grid& grid, Chance& chance) {
            std::to_string(chance.Between(0, grid.Cols() - 1));
 }
 
-/// A cell that is in view without scrolling, headings left out: between such cells a drag is one.
+/// A cell that is in view without scrolling: between such cells a drag is one.
 std::string CellInView(const window::Grid& grid, Chance& chance) {
     constexpr int kRows = 7;
     constexpr int kCols = 4;
-    return std::to_string(chance.Between(1, std::clamp(grid.Rows() - 1, 1, kRows))) + " " +
-           std::to_string(chance.Between(1, std::clamp(grid.Cols() - 1, 1, kCols)));
+    return std::to_string(chance.Between(0, std::min(grid.Rows() - 1, kRows))) + " " +
+           std::to_string(chance.Between(0, std::min(grid.Cols() - 1, kCols)));
 }
 
 std::string OnGrid(const window::Grid& grid, Chance& chance) {

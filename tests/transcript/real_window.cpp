@@ -84,6 +84,10 @@ void SendMouse(QWidget& widget, const MouseAct& act) {
     QCoreApplication::sendEvent(&widget, &event);
 }
 
+bool IsHeading(const window::Grid& grid, CellPlace cell) {
+    return cell.row < grid.FixedRows() || cell.col < grid.FixedCols();
+}
+
 }  // namespace
 
 RealWindow::RealWindow(const DriverOptions& options) {
@@ -176,7 +180,7 @@ void RealWindow::PressHeading(qt::GridView& view, const window::Grid& grid, Cell
 void RealWindow::PressCell(window::Grid& grid, CellPlace cell) {
     Activate(grid);
     auto& view = FindAs<qt::GridView>(grid);
-    if (cell.row < grid.FixedRows() || cell.col < grid.FixedCols())
+    if (IsHeading(grid, cell))
         PressHeading(view, grid, cell);
     else
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.BringIntoView(cell.row, cell.col));
@@ -185,15 +189,20 @@ void RealWindow::PressCell(window::Grid& grid, CellPlace cell) {
 void RealWindow::DragCells(window::Grid& grid, const window::CellBlock& block) {
     Activate(grid);
     auto& view = FindAs<qt::GridView>(grid);
-    QTest::mousePress(view.viewport(), Qt::LeftButton, {},
-                      view.BringIntoView(block.first_row, block.first_col));
-    const QPoint last = view.BringIntoView(block.last_row, block.last_col);
+    const CellPlace first = {block.first_row, block.first_col};
+    if (IsHeading(grid, first))
+        return PressHeading(view, grid, first);
+    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, view.BringIntoView(first.row, first.col));
+    const QPoint last = view.BringIntoView(std::max(block.last_row, grid.FixedRows()),
+                                           std::max(block.last_col, grid.FixedCols()));
     SendMouse(*view.viewport(), {QEvent::MouseMove, last});
     QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, last);
 }
 
 void RealWindow::DoubleClickCell(window::Grid& grid, CellPlace cell) {
     PressCell(grid, cell);
+    if (IsHeading(grid, cell))
+        return;
     auto& view = FindAs<qt::GridView>(grid);
     const QPoint place = view.BringIntoView(cell.row, cell.col);
     SendMouse(*view.viewport(), {QEvent::MouseButtonDblClick, place});
