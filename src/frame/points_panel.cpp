@@ -40,7 +40,8 @@ void ShowArguments(window::Picture& panel, std::span<const std::string_view> lin
     surface.Cls();
     surface.ForeColor = text::kBlack;
     for (std::size_t k = 0; k < lines.size(); ++k) {
-        const double left = kArgumentLeft + static_cast<double>(k / kLinesOfColumn) * surface.Width() / 2;
+        const auto column = static_cast<int>(k / kLinesOfColumn);
+        const double left = kArgumentLeft + column * surface.Width() / 2;
         drawing::PrintMarkup(surface, lines[k], left, kArgumentTops[k % kLinesOfColumn], text::kTextFont,
                              kArgumentSize);
     }

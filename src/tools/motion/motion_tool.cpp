@@ -5,6 +5,7 @@
 #include "frame/points_board.h"
 #include "frame/writer.h"
 #include "mechanics/motion/typed_procedures.h"
+#include "numeric/overloaded.h"
 #include "tools/motion/motion_graph.h"
 #include "window/guarded.h"
 #include "window/questions.h"
@@ -18,11 +19,6 @@ using mechanics::motion::Step;
 using mechanics::points::PointPlace;
 using mechanics::points::Stage;
 using text::Refusal;
-
-template <class... Handlers>
-struct Overloaded : Handlers... {
-    using Handlers::operator()...;
-};
 
 }  // namespace
 
@@ -294,7 +290,7 @@ void Motion::Take(const Step& step) {
 
 void Motion::Show(const mechanics::motion::Event& event) {
     using namespace mechanics::motion;
-    std::visit(Overloaded{
+    std::visit(numeric::Overloaded{
                    [this](const WriteLines& report) {
                        frame::WritePortions(m_form, m_controls.rtbSolve, std::span(&report.lines, 1));
                    },

@@ -5,6 +5,7 @@
 #include "frame/points_board.h"
 #include "frame/points_strip.h"
 #include "frame/writer.h"
+#include "numeric/overloaded.h"
 #include "tools/projectile/trajectory_graph.h"
 #include "window/pointer.h"
 #include "window/questions.h"
@@ -31,11 +32,6 @@ constexpr std::string_view kPolarLabels[] = {" v", " θ"};
 constexpr std::string_view kComponentLabels[] = {" vx", " vy"};
 constexpr text::Color kPolarCell = text::kWhite;
 constexpr text::Color kComponentCell = text::Rgb(0xE0, 0xE0, 0xE0);
-
-template <class... Handlers>
-struct Overloaded : Handlers... {
-    using Handlers::operator()...;
-};
 
 }  // namespace
 
@@ -234,7 +230,7 @@ bool Projectile::TakeProblem(const Replaced& replaced) {
 
 void Projectile::Show(const mechanics::projectile::Event& event) {
     using namespace mechanics::projectile;
-    std::visit(Overloaded{
+    std::visit(numeric::Overloaded{
                    [this](const WriteLines& report) {
                        frame::WritePortions(m_form, m_controls.rtbSolve, std::span(&report.lines, 1));
                    },
