@@ -8,7 +8,7 @@ import unittest
 
 SCRIPT = pathlib.Path(__file__).parent.parent.parent / "scripts" / "check-help"
 HELP = "[UNO]\n/pTema/\n\n/tEjemplo/\nCon x = /3t^2/ y t = 4:\nx = 16\n\n/tObserva/\nTiene 7 letras.\n[STOP]\n"
-PROOF = "# Help: Ayuda UNO 1\n#   /tEjemplo/\n#   Con x = /3t^2/ y t = 4:\n#   x = 16\n> set a t^2\n> set b 4\n> show c\n16\n"
+PROOF = "# Help: Ayuda UNO\n#   /tEjemplo/\n#   Con x = /3t^2/ y t = 4:\n#   x = 16\n> set a t^2\n> set b 4\n> show c\n16\n"
 
 
 def check(help_text, transcript):
@@ -42,10 +42,10 @@ class CheckHelp(unittest.TestCase):
         self.assert_refused(HELP, PROOF.replace("\n16\n", "\n15\n"), "tells 16")
 
     def test_refuses_an_example_without_a_transcript(self):
-        self.assert_refused(HELP.replace("[STOP]", "Luego /32+3/ da 5.\n[STOP]"), PROOF, "Ayuda UNO 2 has no transcript")
+        self.assert_refused(HELP.replace("[STOP]", "Luego /32+3/ da 5.\n[STOP]"), PROOF, "Ayuda UNO has an example without a transcript:\n    Luego")
 
     def test_refuses_a_proof_of_nothing(self):
-        self.assert_refused(HELP, PROOF + "# Help: Ayuda DOS 1\n#   nada\n> tool 1\n", "no example Ayuda DOS 1")
+        self.assert_refused(HELP, PROOF + "# Help: Ayuda DOS\n#   nada\n> tool 1\n", "no example in Ayuda DOS")
 
     def test_takes_an_aside_only_for_a_number_that_is_not_played(self):
         longer = HELP.replace("x = 16", "x = 16, no 25")
