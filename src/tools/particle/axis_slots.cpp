@@ -28,11 +28,12 @@ constexpr std::array<Offset, 12> kOffsets = {{
 constexpr std::array<int, 4> kSides = {notation::kHourRight, notation::kHourUp, notation::kHourLeft,
                                        notation::kHourDown};
 
-std::size_t FirstSlot(int side) {
-    std::size_t index = 0;
-    while (kSides[index] != side)
-        ++index;
-    return index * kSlotsPerSide;
+// Nothing for an hour that lies on no axis.
+std::optional<std::size_t> FirstSlot(int side) {
+    for (std::size_t index = 0; index < kSides.size(); ++index)
+        if (kSides[index] == side)
+            return index * kSlotsPerSide;
+    return {};
 }
 
 Offset Turned(const Offset& offset, double rotation) {
@@ -44,10 +45,12 @@ Offset Turned(const Offset& offset, double rotation) {
 }  // namespace
 
 Offset AxisSlots::AxisOffset(bool leaves, std::optional<int> hour, double rotation) {
-    if (!hour || !notation::IsAxisHour(*hour))
-        return {0, 0};
-    const std::size_t first = FirstSlot(leaves ? *hour : notation::OppositeHour(*hour));
-    for (std::size_t slot = first; slot < first + kSlotsPerSide; ++slot)
+    if (!hour)
+        return {};
+    const auto first = FirstSlot(leaves ? *hour : notation::OppositeHour(*hour));
+    if (!first)
+        return {};
+    for (std::size_t slot = *first; slot < *first + kSlotsPerSide; ++slot)
         if (!m_taken[slot]) {
             m_taken[slot] = true;
             return Turned(kOffsets[slot], rotation);
