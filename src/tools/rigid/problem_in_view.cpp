@@ -31,10 +31,11 @@ ProblemInView::ProblemInView(window::Form1& form) : m_form(form), m_controls(for
 
 void ProblemInView::Take(RigidProblem problem) {
     m_problem = std::move(problem);
+    if (m_problem.backup.empty())
+        m_view.backup_looks.clear();
     if (!m_problem.forces.empty())
         return;
     m_view.looks.clear();
-    m_view.backup_looks.clear();
     ArrangeForces(m_controls.gd1);
 }
 

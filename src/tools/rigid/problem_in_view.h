@@ -60,7 +60,7 @@ class ProblemInView {
     window::Form1& m_form;
     SharedControls m_controls;
     mechanics::rigid::RigidProblem m_problem;
-    DiagramView m_view;
+    DiagramView m_view;  // a look for each force of the problem, and of its backup
 };
 
 }  // namespace tavrelo::tools::rigid

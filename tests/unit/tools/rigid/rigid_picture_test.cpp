@@ -384,6 +384,18 @@ TEST(RigidPicture, CouplesOfOnePointGrow) {
     EXPECT_NEAR(seen.couples[3].arc.radius, kCouple, 1e-9);
 }
 
+TEST(RigidPicture, LettersStandOutsideTheCouplesOfTheirPoint) {
+    DrawnProblem beam = BeamWith("250");
+    beam.Force(1, "B", "-30").Force(1, "B", "MB");
+    const Seen seen = beam.Draw();
+    const Point b = beam.Place("B");
+    for (const SeenText& text : seen.texts) {
+        const double dx = std::max({text.left - b.x, b.x - text.right, 0.0});
+        const double dy = std::max({text.top - b.y, b.y - text.bottom, 0.0});
+        EXPECT_GE(std::hypot(dx, dy), seen.couples.at(2).arc.radius - 1) << text.text;
+    }
+}
+
 // --- Labels
 
 /// Axes first, then points, then the labels row by row, the couple of a row last.
