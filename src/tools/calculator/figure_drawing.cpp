@@ -52,26 +52,25 @@ window::Point AwayFrom(window::Point inside, window::Point from, window::Point t
     return side > 0 ? window::Point{-across.x, -across.y} : across;
 }
 
-}  // namespace
+text::Color ColorOf(const Figure& figure, std::size_t side) {
+    return figure.colors[side % figure.colors.size()];
+}
 
-void DrawFigure(RoutineRun& run, const Figure& figure) {
-    window::Surface& surface = run.Picture();
-    const Pixels points = Fit(surface, figure.vertices);
-    const std::size_t count = points.size();
-    if (count == 0)
-        return;
-    const auto color = [&](std::size_t side) { return figure.colors[side % figure.colors.size()]; };
-    drawing::LabelPlacer labels(surface);
-    surface.Cls();
-    run.engine.Begin();
+void DrawSides(window::Surface& surface, const Figure& figure, const Pixels& points,
+               drawing::LabelPlacer& labels) {
     surface.DrawWidth = kLineWidth;
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < points.size(); ++i) {
         const window::Point from = points[i];
-        const window::Point to = points[(i + 1) % count];
-        surface.Line(from.x, from.y, to.x, to.y, color(i));
+        const window::Point to = points[(i + 1) % points.size()];
+        surface.Line(from.x, from.y, to.x, to.y, ColorOf(figure, i));
         labels.AddLine(from, to);
     }
     surface.DrawWidth = 1;
+}
+
+void DrawLabels(window::Surface& surface, const Figure& figure, const Pixels& points,
+                drawing::LabelPlacer& labels) {
+    const std::size_t count = points.size();
     for (std::size_t i = 0; i < figure.vertex_labels.size(); ++i)
         drawing::PrintLabel(surface, labels.Place(figure.vertex_labels[i], points[i],
                                                   AwayFromSides(points[i], points[(i + count - 1) % count],
@@ -81,9 +80,24 @@ void DrawFigure(RoutineRun& run, const Figure& figure) {
         const window::Point from = points[i];
         const window::Point to = points[(i + 1) % count];
         const window::Point middle{(from.x + to.x) / 2, (from.y + to.y) / 2};
-        drawing::PrintLabel(surface, labels.Place(figure.side_labels[i], middle,
-                                                  AwayFrom(points[(i + 2) % count], from, to), color(i)));
+        drawing::PrintLabel(
+            surface, labels.Place(figure.side_labels[i], middle, AwayFrom(points[(i + 2) % count], from, to),
+                                  ColorOf(figure, i)));
     }
+}
+
+}  // namespace
+
+void DrawFigure(RoutineRun& run, const Figure& figure) {
+    if (figure.vertices.empty() || figure.colors.empty())
+        return;
+    window::Surface& surface = run.Picture();
+    const Pixels points = Fit(surface, figure.vertices);
+    drawing::LabelPlacer labels(surface);
+    surface.Cls();
+    run.engine.Begin();
+    DrawSides(surface, figure, points, labels);
+    DrawLabels(surface, figure, points, labels);
 }
 
 }  // namespace tavrelo::tools::calculator
