@@ -314,7 +314,7 @@ void ReadPolarAngle(const Reading& reading, const Part& magnitude, const std::st
 Outcome ReadPolar(const Reading& reading) {
     const Part magnitude = ReadPart(reading.format.first);
     const Part direction = ReadPart(reading.format.second);
-    if (const Outcome refusal = CheckPolar(magnitude, direction))
+    if (Outcome refusal = CheckPolar(magnitude, direction))
         return refusal;
     SetMagnitude(reading, magnitude);
     if (!direction.known)

@@ -85,7 +85,7 @@ std::string FactorText(double coef, std::string_view symbol, int decimals) {
 }
 
 std::string SymbolMarkup(std::string_view symbol) {
-    const std::string shown = BeginsWithSmallF(symbol) ? std::string(symbol) : text::ToUpper(symbol);
+    std::string shown = BeginsWithSmallF(symbol) ? std::string(symbol) : text::ToUpper(symbol);
     const std::u32string characters = text::ToCodePoints(shown);
     const auto at = [&](std::size_t i) { return text::ToUtf8(characters[i]); };
     if (characters.size() == 2)
