@@ -87,7 +87,7 @@ BodySums SumsOf(const BodyForces& forces, const ChosenBody& body) {
 // Whether "1x" or "1X" stands in the list for that equation.
 bool IsSuppressed(const BodyEquation& equation, std::string_view list) {
     const std::string name = std::to_string(equation.body) + std::string(LetterOf(equation.sum));
-    for (std::size_t start = 0; start <= list.size();) {
+    for (std::size_t start = 0; start < list.size();) {
         const std::size_t end = std::min(list.find(',', start), list.size());
         if (text::EqualIgnoringCase(text::Trim(list.substr(start, end - start)), name))
             return true;

@@ -82,8 +82,9 @@ TEST(RigidPicture, OnePointAloneStandsInTheMiddle) {
     DrawnProblem particle;
     particle.At("A", 0, 0).Force(1, "A", "Ax,Ay/MA").Show({1});
     const Seen seen = particle.Draw();
-    EXPECT_NEAR(particle.Place("A").x, kWidth / 2, 0.5);
-    EXPECT_NEAR(particle.Place("A").y, kHeight / 2, 0.5);
+    // 198.5 and 192.5, halves up.
+    EXPECT_EQ(particle.Place("A").x, 199);
+    EXPECT_EQ(particle.Place("A").y, 193);
     EXPECT_EQ(seen.forces.size(), 2u);
     EXPECT_EQ(seen.couples.size(), 1u);
 }
@@ -326,6 +327,16 @@ TEST(RigidPicture, ArrowsOnOneLineStandBesideEachOther) {
     EXPECT_EQ(seen.forces[0].tail.x, beam.Place("B").x);
 }
 
+TEST(RigidPicture, ArrowsOnOneObliqueLineStandBesideEachOther) {
+    for (const char* text : {"p30x,10", "s45x,10", "10<-100"}) {
+        DrawnProblem beam = BeamWith(text);
+        beam.Force(1, "B", text);
+        const Seen seen = beam.Draw();
+        EXPECT_NEAR(Distance(seen.forces.at(0).tip, seen.forces.at(1).tip), 8, 1e-9) << text;
+        EXPECT_NEAR(seen.forces[0].Degrees(), seen.forces[1].Degrees(), 1e-9) << text;
+    }
+}
+
 TEST(RigidPicture, OppositeArrowsOfAPinStayOnIt) {
     DrawnProblem beam = BeamWith("Bx,By");
     beam.Force(1, "B", "-Bx,-By");
@@ -362,6 +373,16 @@ TEST(RigidPicture, TheSenseOfACouple) {
     }
 }
 
+/// The opening looks down while no line is near; a line through the head turns it.
+TEST(RigidPicture, TheOpeningOfACoupleLooksDown) {
+    const SeenCouple couple = BeamWith("250").Draw().couples.at(0);
+    EXPECT_NEAR(couple.arc.start, -45, 1e-9);
+    EXPECT_NEAR(couple.arc.end, 225, 1e-9);
+    DrawnProblem turned = BeamWith("250");
+    turned.Force(1, "B", "t55x,10");
+    EXPECT_GT(std::abs(turned.Draw().couples.at(0).arc.end - 225), 1);
+}
+
 /// Across the radius, onward in the sense of the couple.
 TEST(RigidPicture, TheHeadOfACoupleIsATangent) {
     for (const char* text : {"250", "-250", "Bx,By/-M"}) {
@@ -393,6 +414,21 @@ TEST(RigidPicture, LettersStandOutsideTheCouplesOfTheirPoint) {
         const double dx = std::max({text.left - b.x, b.x - text.right, 0.0});
         const double dy = std::max({text.top - b.y, b.y - text.bottom, 0.0});
         EXPECT_GE(std::hypot(dx, dy), seen.couples.at(2).arc.radius - 1) << text.text;
+    }
+}
+
+/// C stands 13 pixels to the right of A, just outside the couple of A.
+TEST(RigidPicture, ALetterBesideACoupleStaysOffItsArc) {
+    DrawnProblem beam;
+    beam.At("A", 0, 0).At("C", 0.05, 0).At("B", 1, 0).Force(1, "A", "250").Show({1});
+    const Seen seen = beam.Draw();
+    const window::ArcOp& arc = seen.couples.at(0).arc;
+    const SeenText& letter = seen.Text("C");
+    for (double degrees = arc.start; degrees <= arc.end; degrees += 2) {
+        const double radians = degrees * std::acos(-1.0) / 180;
+        EXPECT_FALSE(
+            letter.Holds({arc.x + arc.radius * std::cos(radians), arc.y - arc.radius * std::sin(radians)}))
+            << degrees;
     }
 }
 
