@@ -43,9 +43,7 @@ struct Refusal {
     std::string_view detail;
 };
 
-[[noreturn]] void Refuse(ParseErrorCode code, std::string_view detail = {}) {
-    throw Refusal{code, detail};
-}
+[[noreturn]] void Refuse(ParseErrorCode code, std::string_view detail = {}) { throw Refusal{code, detail}; }
 
 template <typename Entry>
 class Pile {

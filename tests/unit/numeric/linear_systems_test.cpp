@@ -243,8 +243,8 @@ TEST(SolveLinear, NothingButNumbersLeavesIt) {
         EXPECT_GT(count, 100);
 }
 
-/// The third row is twice the first and three times the second: rounding leaves a pivot of about 1e-14 and, the numbers being
-/// large, a determinant above the limit.
+/// The third row is twice the first and three times the second: rounding leaves a pivot of about 1e-14 and,
+/// the numbers being large, a determinant above the limit.
 TEST(SolveIndependent, RefusesRowsThatDependOnEachOther) {
     const std::vector<double> rows = {910.5, -789.2, 137.7, -779.0, -837.4, 298.0, -516.0, -4090.6, 1169.4};
     SquareMatrix unguarded(3, rows);
