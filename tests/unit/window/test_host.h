@@ -8,8 +8,8 @@
 
 namespace tavrelo::window {
 
-/// A world without printer and files, for tests of the window model alone: its boxes answer as told and keep
-/// what they showed last.
+/// A world without printer and files, for tests of the window model alone: its boxes give the answers set for
+/// them and keep what they showed last.
 struct TestHost : Boxes, Clipboard, Printer, Files {
     Answer ShowMessage(std::string_view text, std::string_view title, Buttons) override {
         ++messages;
