@@ -138,9 +138,9 @@ void PointsPanel::BindCommands() {
 
 void PointsPanel::Enter(PointsTool& tool) {
     if (m_tool)
-        m_tool->view.strip = m_controls.picAccel.Canvas().Operations();
+        m_tool->view.strip = m_controls.picAccel.Canvas().Kept();
     m_tool = &tool;
-    if (tool.view.strip.empty())
+    if (tool.view.strip.operations.empty())
         PaintEmptyStrip(m_controls.picAccel.Canvas());
     else
         m_controls.picAccel.Canvas().Restore(tool.view.strip);

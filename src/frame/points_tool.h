@@ -24,14 +24,14 @@ struct PointsTexts {
 /// What the panel of points shows for a tool apart from the tool's problem; kept while another tool is in
 /// use.
 struct PointsView {
-    std::vector<window::DrawOp> strip;  // empty: nothing was drawn yet
-    int configuration = -1;             // underlined; -1 for none
-    int procedure_row = 1;              // the framed one, from 1
-    int procedure_entry = -1;           // of the list, from 0; -1 for none
-    bool asks_data = true;              // the entry takes data from `txtProcs`
-    bool has_accept = true;             // and the button beside it
-    std::string data;                   // typed into `txtProcs`
-    int row = 0;                        // current cell of the table
+    window::Recording strip;   // empty: nothing was drawn yet
+    int configuration = -1;    // underlined; -1 for none
+    int procedure_row = 1;     // the framed one, from 1
+    int procedure_entry = -1;  // of the list, from 0; -1 for none
+    bool asks_data = true;     // the entry takes data from `txtProcs`
+    bool has_accept = true;    // and the button beside it
+    std::string data;          // typed into `txtProcs`
+    int row = 0;               // current cell of the table
     int column = 1;
 };
 

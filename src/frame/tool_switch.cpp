@@ -210,8 +210,8 @@ void ToolSwitch::ShowPic1(bool pic1) {
 
 void ToolSwitch::KeepPictures() {
     Pictures& kept = m_pictures[IndexOf(m_form.publics.CurrentTool)];
-    kept.pic = m_controls.pic.Canvas().Operations();
-    kept.pic1 = m_controls.pic1.Canvas().Operations();
+    kept.pic = m_controls.pic.Canvas().Kept();
+    kept.pic1 = m_controls.pic1.Canvas().Kept();
 }
 
 void ToolSwitch::BringPictures(window::Tool tool) {

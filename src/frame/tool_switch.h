@@ -70,8 +70,8 @@ class ToolSwitch {
 
   private:
     struct Pictures {
-        std::vector<window::DrawOp> pic;
-        std::vector<window::DrawOp> pic1;
+        window::Recording pic;
+        window::Recording pic1;
         bool shows_pic1 = false;
         bool entered = false;
     };

@@ -209,6 +209,11 @@ void Form1::MoveFocus(Control& control) {
         entered->OnGotFocus();
 }
 
+void Form1::Announce(std::string_view sentence) const {
+    if (OnAnnounce && !sentence.empty())
+        OnAnnounce(sentence);
+}
+
 void Form1::SetPointer(int shape) {
     m_pointer = shape;
     if (OnChange)

@@ -100,6 +100,12 @@ class Form1 {
     /// Told about every change of every control; set by the view.
     ChangeListener OnChange;
 
+    /// Says in one short Spanish sentence what an action has just changed, for those who do not see it
+    /// happen: "Fuerza 2 añadida: ...". Once for each action; what boxes and reports tell is not said again.
+    void Announce(std::string_view sentence) const;
+    /// Told what is announced; set by the view.
+    std::function<void(std::string_view)> OnAnnounce;
+
     Boxes& boxes;
     Clipboard& clipboard;
     Printer& printer;

@@ -73,8 +73,17 @@ void Surface::Image(std::string_view name, double source_x, double source_y, dou
 
 void Recorder::Draw(DrawOp op) {
     if (std::holds_alternative<ClearOp>(op))
-        m_operations.clear();
-    m_operations.push_back(std::move(op));
+        m_recording = {};
+    m_recording.operations.push_back(std::move(op));
+    Changed();
+}
+
+void Recorder::Describe(std::string_view sentences) {
+    if (sentences.empty())
+        return;
+    if (!m_recording.words.empty())
+        m_recording.words += ' ';
+    m_recording.words += sentences;
     Changed();
 }
 
@@ -83,18 +92,19 @@ void Recorder::Resize(double width, double height) {
     m_height = height;
 }
 
-void Recorder::Restore(std::vector<DrawOp> operations) {
-    m_operations = std::move(operations);
+void Recorder::Restore(Recording recording) {
+    m_recording = std::move(recording);
     Changed();
 }
 
 std::vector<std::string> Recorder::VisibleTexts() const {
     std::vector<std::string> texts;
-    for (auto op = m_operations.begin(); op != m_operations.end(); ++op) {
+    const std::vector<DrawOp>& operations = Operations();
+    for (auto op = operations.begin(); op != operations.end(); ++op) {
         const auto* text = std::get_if<TextOp>(&*op);
         if (!text)
             continue;
-        const bool covered = std::any_of(op + 1, m_operations.end(), [&](const DrawOp& later) {
+        const bool covered = std::any_of(op + 1, operations.end(), [&](const DrawOp& later) {
             const auto* box = std::get_if<BoxOp>(&later);
             return box && Covers(*box, *text);
         });

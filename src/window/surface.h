@@ -76,6 +76,10 @@ class Surface {
     virtual double Height() const = 0;
     /// Takes one finished operation.
     virtual void Draw(DrawOp op) = 0;
+    /// Says in whole Spanish sentences what was just drawn, for those who do not see it; said in pieces, they
+    /// go on behind one another. The words stand and fall with the drawing: the next Cls takes both away. A
+    /// surface that only paints keeps none.
+    virtual void Describe(std::string_view /*sentences*/) {}
 
     /// y counted from the bottom upward, as y counted from the top downward; the one place that converts.
     double FromBottom(double y) const { return Height() - y; }
@@ -108,6 +112,12 @@ class Surface {
     double DrawWidth = 1;
 };
 
+/// What a recorder has kept: the drawing and the words for it.
+struct Recording {
+    std::vector<DrawOp> operations;
+    std::string words;
+};
+
 /// A surface that keeps its operations, from which a picture is repainted at any scale.
 class Recorder : public Surface {
   public:
@@ -116,11 +126,15 @@ class Recorder : public Surface {
     double Width() const override { return m_width; }
     double Height() const override { return m_height; }
     void Draw(DrawOp op) override;
+    void Describe(std::string_view sentences) override;
     void Resize(double width, double height);
 
-    const std::vector<DrawOp>& Operations() const { return m_operations; }
-    /// Puts a kept recording back in view.
-    void Restore(std::vector<DrawOp> operations);
+    const std::vector<DrawOp>& Operations() const { return m_recording.operations; }
+    /// All that was described since the last Cls.
+    const std::string& Words() const { return m_recording.words; }
+    /// Drawing and words, to be put back in view by Restore.
+    const Recording& Kept() const { return m_recording; }
+    void Restore(Recording recording);
 
     /// The texts that stand on the picture, in the order of printing; one painted over by a later filled box
     /// is gone.
@@ -134,7 +148,7 @@ class Recorder : public Surface {
 
     double m_width;
     double m_height;
-    std::vector<DrawOp> m_operations;
+    Recording m_recording;
 };
 
 /// Hands every operation of a recording to another surface.

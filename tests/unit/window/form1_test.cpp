@@ -50,6 +50,15 @@ TEST_F(Form1Test, ControlsOfAPanelDoNotOverlap) {
         }
 }
 
+TEST_F(Form1Test, SaysWhatChangedToWhoeverListens) {
+    std::vector<std::string> heard;
+    form.Announce("Nadie escucha.");
+    form.OnAnnounce = [&](std::string_view sentence) { heard.emplace_back(sentence); };
+    form.Announce("Fuerza 1 añadida.");
+    form.Announce("");
+    EXPECT_EQ(heard, std::vector<std::string>{"Fuerza 1 añadida."});
+}
+
 TEST_F(Form1Test, VisibilityAndUseGoThroughAllPanels) {
     EXPECT_FALSE(form.Get<TextBox>("txtVector").IsShown());
     form.Get<Frame>("fraDirec").SetVisible(true);

@@ -39,6 +39,31 @@ TEST(Recorder, ReplaysOnAnotherSurface) {
     EXPECT_EQ(second.VisibleTexts(), (Texts{"x"}));
 }
 
+TEST(Recorder, ItsWordsGoOnUntilTheNextClearing) {
+    Recorder surface(50, 50);
+    int changes = 0;
+    surface.OnChange = [&] { ++changes; };
+    surface.Describe("Una fuerza.");
+    surface.Describe("");
+    surface.Describe("Su resultante.");
+    EXPECT_EQ(surface.Words(), "Una fuerza. Su resultante.");
+    EXPECT_EQ(changes, 2);
+    surface.Cls();
+    EXPECT_EQ(surface.Words(), "");
+}
+
+TEST(Recorder, BringsAKeptDrawingBackWithItsWords) {
+    Recorder surface(50, 50);
+    surface.Print("x");
+    surface.Describe("La letra x.");
+    const Recording kept = surface.Kept();
+    surface.Cls();
+    surface.Describe("Nada.");
+    surface.Restore(kept);
+    EXPECT_EQ(surface.VisibleTexts(), (Texts{"x"}));
+    EXPECT_EQ(surface.Words(), "La letra x.");
+}
+
 TEST(Surface, ThePenEndsBehindWhatWasDrawn) {
     Recorder surface(50, 50);
     surface.Line(1, 2, 30, 40, text::kBlack);
