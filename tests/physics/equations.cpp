@@ -8,7 +8,8 @@
 namespace tavrelo::physics {
 namespace {
 
-constexpr double kLargestRest = 0.001;
+// A hair above the bound: a sum at the bound itself may come out on either side of it.
+constexpr double kLargestRest = 0.001 * (1 + 1e-9);
 constexpr double kPartOfLargestTerm = 0.001;
 constexpr double kRounding = 1e-9;
 
@@ -19,9 +20,11 @@ void Sum::Add(double term) {
     m_largest = std::max(m_largest, std::abs(term));
 }
 
-bool Sum::Vanishes() const {
+bool Sum::Vanishes() const { return VanishesBeside(m_largest); }
+
+bool Sum::VanishesBeside(double largest_of_all) const {
     const double rest = std::min(kLargestRest, kPartOfLargestTerm * m_largest);
-    return std::abs(m_value) <= std::max(rest, kRounding * m_largest);
+    return std::abs(m_value) <= std::max(rest, kRounding * std::max(m_largest, largest_of_all));
 }
 
 bool Sum::VanishesWithin(double part) const { return std::abs(m_value) <= part * m_largest; }

@@ -10,8 +10,11 @@ class Sum {
   public:
     void Add(double term);
     double Value() const { return m_value; }
+    double Largest() const { return m_largest; }
     /// At most 0.001 and a thousandth of the largest term; a billionth of that term is left to rounding.
     bool Vanishes() const;
+    /// The same in a problem whose largest term is `largest_of_all`: a billionth of that is left to rounding.
+    bool VanishesBeside(double largest_of_all) const;
     /// At most the given part of the largest term: for what is reckoned in one stroke.
     bool VanishesWithin(double part) const;
     /// "1.5 of 20": what is left, and of which largest term.
