@@ -1,5 +1,3 @@
-#include <QRegularExpression>
-
 #include "qt/bindings.h"
 #include "qt/text.h"
 #include "qt/text_field.h"
@@ -11,6 +9,9 @@ class TextBinding : public Binding {
   public:
     TextBinding(window::TextControl& box, TextField& widget, ViewContext& context)
         : Binding(box, widget, context), m_box(box), m_widget(widget) {
+        // The model cuts what is too long. It counts characters, the field units of UTF-16, of which a
+        // character has two at most.
+        widget.setMaxLength(2 * static_cast<int>(window::kMostCharacters));
         connect(&widget, &QLineEdit::textChanged, this, [this] { ReportEdit(); });
         connect(&widget, &QLineEdit::selectionChanged, this, [this] { ReportSelection(); });
         connect(&widget, &QLineEdit::cursorPositionChanged, this, [this] { ReportSelection(); });
@@ -55,19 +56,7 @@ class TextBinding : public Binding {
         return {start, CharactersBefore(text, m_widget.selectionEnd()) - start};
     }
 
-    /// Several pasted lines become one.
-    bool JoinLines() {
-        static const QRegularExpression kLineEnd(QStringLiteral("[\\r\\n]+"));
-        const QString text = m_widget.text();
-        if (!text.contains(kLineEnd))
-            return false;
-        m_widget.setText(text.trimmed().replace(kLineEnd, QStringLiteral(" ")));
-        return true;
-    }
-
     void ReportEdit() {
-        if (JoinLines())
-            return;
         Report([this] { m_box.UserEdited(ToUtf8(m_widget.text()), Selected()); });
     }
 

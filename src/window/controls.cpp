@@ -12,6 +12,37 @@ void Fire(const Handler<void()>& event) {
         event();
 }
 
+/// Each run of line ends a blank, none around the whole.
+std::string OnOneLine(std::string_view text) {
+    std::string line;
+    bool at_line_end = false;
+    for (const char character : text) {
+        const bool was_at_line_end = at_line_end;
+        at_line_end = character == '\r' || character == '\n';
+        if (!at_line_end)
+            line += character;
+        else if (!was_at_line_end)
+            line += ' ';
+    }
+    return text::Trim(line);
+}
+
+struct EditedText {
+    std::u32string characters;
+    std::size_t caret;
+};
+
+/// Takes the characters that are too many away in front of the caret, and behind it when these are not
+/// enough.
+void Fit(EditedText& text) {
+    if (text.characters.size() <= kMostCharacters)
+        return;
+    const std::size_t excess = std::min(text.characters.size() - kMostCharacters, text.caret);
+    text.caret -= excess;
+    text.characters.erase(text.caret, excess);
+    text.characters.resize(std::min(text.characters.size(), kMostCharacters));
+}
+
 }  // namespace
 
 void Window::UserClose() {
@@ -44,6 +75,8 @@ void CheckBox::UserClick() {
 }
 
 void TextControl::SetText(std::string text) {
+    if (text.size() > kMostCharacters)
+        text = text::ToUtf8(text::ToCodePoints(text).substr(0, kMostCharacters));
     StoreText(std::move(text));
     m_selection = {Length(), 0};
     Notify(Change::Content);
@@ -55,12 +88,12 @@ void TextControl::SetTextAndTell(std::string text) {
 }
 
 void TextControl::Insert(std::string_view text) {
-    std::u32string characters = text::ToCodePoints(Text());
     const std::u32string inserted = text::ToCodePoints(text);
-    characters.replace(m_selection.start, m_selection.length, inserted);
-    const std::size_t caret = m_selection.start + inserted.size();
-    SetText(text::ToUtf8(characters));
-    Select({caret, 0});
+    EditedText edited{text::ToCodePoints(Text()), m_selection.start + inserted.size()};
+    edited.characters.replace(m_selection.start, m_selection.length, inserted);
+    Fit(edited);
+    SetText(text::ToUtf8(edited.characters));
+    Select({edited.caret, 0});
 }
 
 TextSelection TextControl::Clipped(TextSelection selection) const {
@@ -98,7 +131,21 @@ void TextControl::UserKeyUp(const KeyStroke& stroke) {
 }
 
 void TextControl::UserEdited(std::string text, TextSelection selection) {
+    const bool has_lines = text.find_first_of("\r\n") != std::string::npos;
+    if (has_lines) {
+        text = OnOneLine(text);
+        selection = {text::CharacterCount(text), 0};
+    }
+    const bool is_long = text.size() > kMostCharacters && text::CharacterCount(text) > kMostCharacters;
+    if (is_long) {
+        EditedText edited{text::ToCodePoints(text), selection.start + selection.length};
+        Fit(edited);
+        text = text::ToUtf8(edited.characters);
+        selection = {edited.caret, 0};
+    }
     if (text == Text()) {
+        if (has_lines || is_long)
+            Notify(Change::Content);  // the view shows what was left out
         Select(selection);
         return;
     }

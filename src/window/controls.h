@@ -125,6 +125,9 @@ struct TextSelection {
     friend bool operator==(const TextSelection&, const TextSelection&) = default;
 };
 
+/// Characters that a box of one line holds; what is typed or pasted beyond them is left out.
+inline constexpr std::size_t kMostCharacters = 32767;
+
 /// What boxes with a caret have in common. A key stroke goes through OnKeyDown, OnKeyPress, the box's own
 /// editing and OnKeyUp; a handler that answers true has consumed it, and nothing behind it happens.
 class TextControl : public Control {
@@ -132,7 +135,7 @@ class TextControl : public Control {
     using Control::Control;
 
     virtual const std::string& Text() const { return m_text; }
-    /// Replaces the text; the caret goes to its end; OnChange stays silent.
+    /// Replaces the text, cut to kMostCharacters; the caret goes to its end; OnChange stays silent.
     virtual void SetText(std::string text);
     /// As SetText, and tells OnChange.
     void SetTextAndTell(std::string text);
@@ -152,7 +155,8 @@ class TextControl : public Control {
     bool UserKeyDown(const KeyStroke& stroke);
     bool UserKeyPress(char32_t character);
     void UserKeyUp(const KeyStroke& stroke);
-    /// The box's own editing left this text and selection.
+    /// The box's own editing left this text and selection. Several lines become one, and what is too much in
+    /// front of the caret goes: there stands what was typed or pasted last.
     void UserEdited(std::string text, TextSelection selection);
     void UserSelected(TextSelection selection) { Select(selection); }
 

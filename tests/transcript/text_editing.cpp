@@ -37,11 +37,6 @@ void Delete(TextControl& box, bool backward) {
     ReplaceSelection(box, {});
 }
 
-/// A box of one line holds no line ends: each becomes a blank.
-std::u32string OnOneLine(const std::string& text) {
-    return text::ToCodePoints(text::ReplaceAll(text::ReplaceAll(text, "\r\n", " "), "\n", " "));
-}
-
 /// The letter of the shortcut that an older way of cutting, copying and pasting stands for; 0 for any other
 /// key.
 char32_t LetterOf(const KeyStroke& stroke) {
@@ -92,7 +87,7 @@ void TextEditing::TakeShortcut(TextControl& box, char32_t letter) {
             ReplaceSelection(box, {});
             break;
         case U'v':
-            ReplaceSelection(box, OnOneLine(m_clipboard.Text()));
+            ReplaceSelection(box, text::ToCodePoints(m_clipboard.Text()));
             break;
         default:
             break;

@@ -38,6 +38,7 @@ class TypingTest : public QObject {
     void InputMethodsIntoACell();
     void ConsumedKeysDoNotType();
     void LongPastesArriveWhole();
+    void AFullBoxTakesNoMoreInTheFieldAndInTheModel();
     void PastedLinesAreJoined();
     void UndoTakesBackWhatWasTyped();
     void SelectionIsTold();

@@ -85,6 +85,33 @@ void TypingTest::LongPastesArriveWhole() {
     QCOMPARE(window.Text(), qt::ToUtf8(text));
 }
 
+void TypingTest::AFullBoxTakesNoMoreInTheFieldAndInTheModel() {
+    constexpr int kMost = window::kMostCharacters;
+    ParticleWindow window;
+    const auto holds = [&window](const QString& text) {
+        return window.Box().text() == text && window.Text() == qt::ToUtf8(text);
+    };
+    const QString letters(kMost - 2, QLatin1Char('7'));
+    QApplication::clipboard()->setText(letters);
+    QTest::keyClick(&window.Box(), Qt::Key_V, Qt::ControlModifier);
+    QApplication::clipboard()->setText(QStringLiteral("😀ñab"));  // in front of the rest, as far as it fits
+    window.Box().setCursorPosition(1);
+    window.Box().paste();
+    const QString full = QStringLiteral("7😀ñ") + letters.mid(1);
+    QVERIFY(holds(full));
+    QCOMPARE(window.Model().Selection(), (window::TextSelection{3, 0}));
+    QCOMPARE(window.Box().cursorPosition(), 4);  // the first sign has two units
+    TypeCharacter(window.Box(), QStringLiteral("x"));
+    QVERIFY(holds(full));
+    QCOMPARE(window.Box().cursorPosition(), 4);
+    window.Model().SetText(qt::ToUtf8(full) + "x");
+    QVERIFY(holds(full));
+    const QString signs = QStringLiteral("😀").repeated(kMost + 5);
+    window.Box().selectAll();
+    window.Box().insert(signs);
+    QVERIFY(holds(signs.left(2 * kMost)));
+}
+
 void TypingTest::PastedLinesAreJoined() {
     ParticleWindow window;
     QApplication::clipboard()->setText(QStringLiteral("10<30\r\n20<45\nF1"));
