@@ -1,0 +1,106 @@
+#include "statics/rigid_help.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "statics/linear_columns.h"
+#include "typed.h"
+
+namespace tavrelo::physics {
+namespace {
+
+constexpr double kLeastDistance = 0.3;
+constexpr double kClearlyIndependent = 1e-4;
+constexpr double kClearDeterminant = 1e-6;
+constexpr double kLeastLoad = 1;
+constexpr double kGreatestLoad = 500;
+
+double Distance(Components a, Components b) { return std::hypot(a.x - b.x, a.y - b.y); }
+
+bool IsFree(const TypedStructure& structure, Components place) {
+    return std::ranges::all_of(structure.Points(), [&](char point) {
+        return Distance(structure.PlaceOf(point), place) > kLeastDistance;
+    });
+}
+
+}  // namespace
+
+void AddPoints(Chance& chance, TypedStructure& structure, std::size_t count) {
+    const double size = chance.Size(2, 20);
+    for (std::size_t k = 0; k < count; ++k) {
+        const std::string& points = structure.Points();
+        const char from = points.empty() ? 'A' : AnyPoint(chance, points);
+        const Components start = points.empty() ? Components{0, 0} : structure.PlaceOf(from);
+        Components place = start;
+        do {
+            place = {start.x + (chance.OneIn(3) ? 0 : chance.Between(-size, size)),
+                     start.y + (chance.OneIn(3) ? 0 : chance.Between(-size, size))};
+        } while (!IsFree(structure, place) || Distance(place, start) < kLeastDistance);
+        structure.AddPoint(place, from);
+    }
+}
+
+char AnyPoint(Chance& chance, const std::string& points) { return points[chance.Below(points.size())]; }
+
+double DirectionBeside(Chance& chance, double other) {
+    while (true) {
+        const double direction = TypedDirection(chance);
+        if (std::abs(std::remainder(direction - other, 180)) > 5)
+            return direction;
+    }
+}
+
+double TypedDirectionBetween(const TypedStructure& structure, char from, char to) {
+    const Components a = structure.PlaceOf(from), b = structure.PlaceOf(to);
+    return Rounded(std::atan2(b.y - a.y, b.x - a.x) * 180 / std::numbers::pi, 2).value;
+}
+
+void AddLoads(Chance& chance, TypedStructure& structure, int body, const std::string& points) {
+    for (std::size_t k = 1 + chance.Below(4); k > 0; --k) {
+        const char point = AnyPoint(chance, points);
+        StatedRow row = {body, point};
+        if (!chance.OneIn(5))
+            row.force = KnownForce(chance, chance.Size(kLeastLoad, kGreatestLoad), TypedDirection(chance));
+        if (!row.force || chance.OneIn(6))
+            row.couple = KnownCouple(chance.Sign() * chance.Size(kLeastLoad, kGreatestLoad));
+        structure.Add(row);
+    }
+    if (points.size() > 1 && points.size() <= 6 && chance.OneIn(6)) {
+        std::vector<double> values;
+        for (std::size_t k = 0; k < points.size(); ++k)
+            values.push_back(chance.Sign() * chance.Between(1.0, 50.0));
+        structure.AddSeries(body, points, values, chance.OneIn(2));
+    }
+}
+
+StatedRow Rope(Chance& chance, int body, char point, const std::string& symbol, double direction) {
+    return {body, point, UnknownMagnitude(chance, symbol, TypedFactor(chance), direction)};
+}
+
+std::string CoupleSymbol(Chance& chance) {
+    constexpr std::array kCouples = {"M", "M1", "Mo", "C", "m2", "par"};
+    return chance.Of(kCouples);
+}
+
+Verdict JudgedStructure(const StructureAnswers& answers, bool is_regular) {
+    if (!answers.fault.empty())
+        return Wrong(answers.fault);
+    if (!answers.solutions.empty())
+        return Right();
+    return is_regular ? Wrong("refused although regular: " + answers.refusal) : Refused(answers.refusal);
+}
+
+Verdict RefusedStructure(const StructureAnswers& answers) {
+    if (answers.solutions.empty())
+        return Refused(answers.refusal);
+    return Wrong("solved although it has no single answer");
+}
+
+bool AreRegular(const TypedStructure& structure, const std::vector<AskedBody>& bodies) {
+    const LinearColumns system = ColumnsOf(structure, bodies);
+    return Independence(system) > kClearlyIndependent && DeterminantSize(system) > kClearDeterminant;
+}
+
+}  // namespace tavrelo::physics
