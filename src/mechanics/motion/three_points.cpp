@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -75,21 +76,28 @@ double NumberAt(const Problem& problem, int row, int column) {
     return stored.Number();
 }
 
-/// The motion through three points (t, x), by divided differences: the unique solution of the linear system
-/// for its three coefficients, without the loss of digits of short times. Nothing when two times are equal.
-std::optional<Motion> Through(const std::array<double, 3>& t, const std::array<double, 3>& x) {
-    if (t[0] == t[1] || t[1] == t[2] || t[0] == t[2])
+struct TimedPosition {
+    double t = 0;
+    double x = 0;
+};
+
+/// The motion through three points, by divided differences: the unique solution of the linear system for its
+/// three coefficients, without the loss of digits of short times. Nothing when two times are equal.
+std::optional<Motion> Through(std::array<TimedPosition, 3> points) {
+    // From the time nearest to 0 on: a position given at t = 0 is that of the motion without rounding.
+    std::ranges::sort(points, {}, [](const TimedPosition& point) { return std::abs(point.t); });
+    const auto& [p, q, r] = points;
+    if (p.t == q.t || q.t == r.t || p.t == r.t)
         return std::nullopt;
-    const double first = numeric::CheckedDivide(x[1] - x[0], t[1] - t[0]);
-    const double second = numeric::CheckedDivide(x[2] - x[1], t[2] - t[1]);
-    const double half = numeric::CheckedDivide(second - first, t[2] - t[0]);
-    const Motion motion = {numeric::Finite(x[0] - first * t[0] + half * t[0] * t[1]),
-                           numeric::Finite(first - half * (t[0] + t[1])), numeric::Finite(2.0 * half)};
-    for (std::size_t i = 0; i < t.size(); ++i) {
-        if (!TermsCancel({motion.x0, motion.v0 * t[i], 0.5 * motion.a * t[i] * t[i], -x[i]}))
-            return std::nullopt;
-    }
-    return motion;
+    const double first = numeric::CheckedDivide(q.x - p.x, q.t - p.t);
+    const double second = numeric::CheckedDivide(r.x - q.x, r.t - q.t);
+    const double half = numeric::CheckedDivide(second - first, r.t - p.t);
+    const Motion motion = {numeric::Finite(p.x - first * p.t + half * p.t * q.t),
+                           numeric::Finite(first - half * (p.t + q.t)), numeric::Finite(2.0 * half)};
+    const bool passes = std::ranges::all_of(points, [&](const TimedPosition& point) {
+        return TermsCancel({motion.x0, motion.v0 * point.t, 0.5 * motion.a * point.t * point.t, -point.x});
+    });
+    return passes ? std::optional(motion) : std::nullopt;
 }
 
 std::string ValuesLine(const Motion& motion, const Labels& labels) {
@@ -104,14 +112,13 @@ Step FindMotion(const Problem& problem, std::string_view text, int decimals) {
     const Choice choice = ReadChoice(text);
     if (!AreThreePoints(problem.configuration, choice))
         return text::Refusal{kNotThreePoints};
-    std::array<double, 3> t = {};
-    std::array<double, 3> x = {};
-    for (std::size_t i = 0; i < t.size(); ++i) {
+    std::array<TimedPosition, 3> given = {};
+    for (std::size_t i = 0; i < given.size(); ++i) {
         const int column = points::ColumnOfPoint(problem.configuration, choice.mover, choice.points[i]);
-        t[i] = NumberAt(problem, points::kTimeRow, column);
-        x[i] = NumberAt(problem, points::kPositionRow, column);
+        given[i] = {NumberAt(problem, points::kTimeRow, column),
+                    NumberAt(problem, points::kPositionRow, column)};
     }
-    const auto motion = Through(t, x);
+    const auto motion = Through(given);
     if (!motion)
         return text::Refusal{std::string(numeric::TextOf(numeric::LinearOutcome::DeterminantIsZero))};
     const Labels labels(choice.mover, choice.stretch, decimals);

@@ -103,5 +103,19 @@ TEST(ThreePoints, KeepTheDigitsOfShortTimes) {
               "board 10: t!n = 0, x!n = 2, v!n = 3, a = -10");
 }
 
+// From the origin at t = 0 with x = -4 t + 3.5 t^2: at 4.14 it is 43.4286, at 2 it is 6. That point comes
+// last and must not be missed by what rounding leaves of 0.
+TEST(ThreePoints, ReachTheOriginWhateverTheOrder) {
+    Problem problem = OneMover();
+    Fill(problem, 1, 0, {"0", "0", ""});
+    Fill(problem, 1, 1, {"4.14", "43.4286", ""});
+    Fill(problem, 1, 2, {"2", "6", ""});
+    for (const char* chosen : {"1, 1, 1, 2, 0", "1, 1, 0, 1, 2", "1, 1, 2, 0, 1"}) {
+        const Step step = RunThreePoints(problem, chosen, kDecimals);
+        ASSERT_EQ(RefusalOf(step), "") << chosen;
+        EXPECT_EQ(Shown(step)[4], "board 10: t!n = 0, x!n = 0, v!n = -4, a = 7");
+    }
+}
+
 }  // namespace
 }  // namespace tavrelo::mechanics::motion
