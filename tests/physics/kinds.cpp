@@ -1,5 +1,7 @@
 #include "kinds.h"
 
+#include "motion/motion_kinds.h"
+#include "motion/motion_refusals.h"
 #include "numeric/numeric_kinds.h"
 #include "statics/particle_kinds.h"
 #include "statics/rigid_kinds.h"
@@ -49,6 +51,31 @@ constexpr ProblemKind kKinds[] = {
     {"rigid.free-force", "a force unknown in magnitude and direction", 4000, PlayFreeForce, kAngleOfBody,
      0.3},
     {"rigid.body-on-a-rope", "a rope over a pulley on a body", 4000, PlayBodyOnARope, kAngleOfBody, 0.3},
+
+    {"motion.point", "a point of a known motion from its time, place or speed", 4000, PlayPoint,
+     kPointRefusals, 0.2},
+    {"motion.interval", "an interval of a known motion from two relations between its ends", 6000,
+     PlayInterval, kIntervalRefusals, 0.4},
+    {"motion.speed", "the unknown speed of a base from every set of data", 8000, PlayUnknownSpeed,
+     kSpeedRefusals, 0.5},
+    {"motion.acceleration", "the unknown acceleration from every set of data", 8000, PlayUnknownAcceleration,
+     kAccelerationRefusals, 0.5},
+    {"motion.both", "what every set of data states of an unknown speed and acceleration", 4000,
+     PlayBothUnknown, kBothRefusals, 0.9},
+    {"motion.two-points", "an unknown speed and acceleration from two sets of data, solved as a system", 4000,
+     PlayTwoPoints, kTwoPointsRefusals, 0.9},
+    {"motion.interval-line", "the interval equations with every three or four data", 10000, PlayIntervalLine,
+     kIntervalLineRefusals, 0.9},
+    {"motion.three-points", "the motion through three points", 3000, PlayThreePoints, kThreePointsRefusals,
+     0.9},
+    {"motion.link", "two stretches with one datum missing", 5000, PlayLink, kLinkRefusals, 0.9},
+    {"motion.meeting", "when two movers have a difference or a ratio of places or speeds", 5000, PlayMeeting,
+     kMeetingRefusals, 0.9},
+    {"motion.ratios", "what a mover lacks to have two ratios to another", 5000, PlayRatios, kRatioRefusals,
+     0.9},
+    {"motion.system", "systems for a speed and an acceleration", 5000, PlaySpeedSystem, kSystemRefusals, 0.9},
+    {"motion.quadratic", "the quadratic equation", 3000, PlayQuadratic},
+    {"motion.distance", "the way walked through stretches", 3000, PlayDistance},
 };
 
 }  // namespace

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -122,72 +120,6 @@ TEST(EquationSystems, AMissingUnknownFails) {
                   (void)SolveSystem(SystemShape::VA_VA, {1, 2, 3});
               }),
               FailureCode::SubscriptRange);
-}
-
-// Coefficients at random, the right sides from a chosen v0 and a: the answer is among the solutions.
-TEST(EquationSystems, TheChosenSpeedAndAccelerationAreFound) {
-    std::mt19937 random(5);
-    std::uniform_real_distribution<double> coefficient(-10, 10);
-    for (const SystemShape shape : kShapes) {
-        const bool squared = shape != SystemShape::VA_VA, second_squared = shape == SystemShape::V2A2A_V2A;
-        const bool with_a_squared = CoefficientCount(shape) == 7;
-        for (int k = 0; k < 2000; ++k) {
-            const double v = coefficient(random), a = coefficient(random);
-            const double a11 = coefficient(random), a12 = coefficient(random), a13 = coefficient(random);
-            const double a21 = coefficient(random), a22 = coefficient(random);
-            const double first_v = squared ? v * v : v, second_v = second_squared ? v * v : v;
-            std::vector<double> list = {a11, a12};
-            if (with_a_squared) {
-                list.push_back(a13);
-                list.push_back(a11 * first_v + a12 * a * a + a13 * a);
-            } else {
-                list.push_back(a11 * first_v + a12 * a);
-            }
-            list.insert(list.end(), {a21, a22, a21 * second_v + a22 * a});
-            const auto answer = SolveSystem(shape, list);
-            ASSERT_TRUE(std::holds_alternative<Solutions>(answer));
-            bool found = false;
-            for (const SystemSolution& solution : std::get<Solutions>(answer)) {
-                const double expected = solution.both_signs ? std::abs(v) : v;
-                found = found || (std::abs(solution.v0 - expected) < 1e-4 && std::abs(solution.a - a) < 1e-4);
-            }
-            EXPECT_TRUE(found) << static_cast<int>(shape) << " v0 = " << v << ", a = " << a;
-        }
-    }
-}
-
-// Small whole coefficients, zeros among them: whatever is answered satisfies both equations.
-TEST(EquationSystems, EverySolutionSatisfiesBothEquations) {
-    std::mt19937 random(6);
-    std::uniform_int_distribution<int> whole(-4, 4);
-    int solutions = 0;
-    for (const SystemShape shape : kShapes)
-        for (int k = 0; k < 5000; ++k) {
-            std::vector<double> c(CoefficientCount(shape));
-            for (double& value : c)
-                value = whole(random);
-            std::variant<text::Refusal, Solutions> answer;
-            try {
-                answer = SolveSystem(shape, c);
-            } catch (const numeric::RuntimeFailure&) {
-                continue;
-            }
-            if (!std::holds_alternative<Solutions>(answer))
-                continue;
-            for (const SystemSolution& s : std::get<Solutions>(answer)) {
-                ++solutions;
-                const double v2 = s.v0 * s.v0;
-                const std::size_t last = c.size() - 1;
-                if (c.size() == 7)
-                    EXPECT_NEAR(c[0] * v2 + c[1] * s.a * s.a + c[2] * s.a, c[3], 1e-8 * (1 + v2 + s.a * s.a));
-                else
-                    EXPECT_NEAR(c[0] * (shape == SystemShape::VA_VA ? s.v0 : v2) + c[1] * s.a, c[2],
-                                1e-8 * (1 + v2 + s.a * s.a));
-                EXPECT_NEAR(c[last - 2] * (shape == SystemShape::V2A2A_V2A ? v2 : s.v0) + c[last - 1] * s.a,
-                            c[last], 1e-8 * (1 + v2 + std::abs(s.a)));
-            }
-        }
-    EXPECT_GT(solutions, 5000);
 }
 
 TEST(QuadraticEquation, RealAndComplexRoots) {

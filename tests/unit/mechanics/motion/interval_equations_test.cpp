@@ -283,54 +283,5 @@ TEST(IntervalEquations, EverySolvableChoiceOfDataRecoversTheMotionAndEveryOtherI
     EXPECT_EQ(solvable_of_four, 91);
 }
 
-// What is known of an interval after the solution.
-std::array<double, kIntervalData> Completed(const IntervalData& data, const IntervalResults& results) {
-    IntervalData all = data;
-    for (const IntervalResult& result : results)
-        all[result.datum] = result.value;
-    const auto either = [&all](IntervalDatum first, IntervalDatum last, IntervalDatum change) {
-        return all[change] ? *all[change] : *all[last] - *all[first];
-    };
-    std::array<double, kIntervalData> values{};
-    for (const IntervalDatum datum : kAllData)
-        values[static_cast<std::size_t>(datum)] = all[datum].value_or(0);
-    values[3] = either(IntervalDatum::ti, IntervalDatum::tf, IntervalDatum::dt);
-    values[6] = either(IntervalDatum::xi, IntervalDatum::xf, IntervalDatum::dx);
-    return values;
-}
-
-// Small whole numbers and halves, so that zeros, opposite speeds and uniform motions are frequent.
-TEST(IntervalEquations, WhateverIsGivenAnAnswerSatisfiesTheEquationsOfTheInterval) {
-    std::mt19937 random(11);
-    std::uniform_int_distribution<int> halves(-6, 6);
-    int answers = 0;
-    ForEachChoice([&](unsigned given) {
-        for (int k = 0; k < 100; ++k) {
-            std::array<double, kIntervalData> numbers{};
-            for (double& number : numbers)
-                number = halves(random) / 2.0;
-            const IntervalData data = Hide(numbers, given);
-            IntervalResults results;
-            try {
-                const auto answer = SolveInterval(data);
-                if (!std::holds_alternative<IntervalResults>(answer))
-                    continue;
-                results = std::get<IntervalResults>(answer);
-            } catch (const numeric::RuntimeFailure&) {
-                continue;
-            }
-            ++answers;
-            const auto all = Completed(data, results);
-            const double a = all[0], dt = all[3], dx = all[6], vi = all[7], vf = all[8];
-            EXPECT_NEAR(vf, vi + a * dt, 1e-9 * (1 + std::abs(vi)));
-            EXPECT_NEAR(dx, (vi + vf) / 2 * dt, 1e-9 * (1 + std::abs(dx)));
-            if (data.Has(IntervalDatum::dv)) {
-                EXPECT_NEAR(*data[IntervalDatum::dv], vf - vi, 1e-9);
-            }
-        }
-    });
-    EXPECT_GT(answers, 5000);
-}
-
 }  // namespace
 }  // namespace tavrelo::mechanics::motion

@@ -5,9 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
-
 #include "../../failure_code.h"
 #include "planted_problems.h"
 
@@ -179,41 +176,6 @@ TEST(Relations, RefuseByNameInOrder) {
         FailureCode::Overflow);
 }
 
-TEST(Relations, EveryTimeSatisfiesTheRelationAndNoMeetingIsMissed) {
-    std::mt19937 random(3);
-    std::uniform_real_distribution<double> number(-20, 20);
-    int times = 0;
-    for (int k = 0; k < 4000; ++k) {
-        const Motion first = {number(random), number(random), number(random)};
-        Motion second = {number(random), number(random), number(random)};
-        const double meeting = number(random);
-        for (const Relation relation : kRelations) {
-            // The constant that makes the relation true at the chosen time.
-            const bool of_positions =
-                relation == Relation::PositionDifference || relation == Relation::PositionRatio;
-            const auto value = [of_positions](const Motion& m, double t) {
-                return of_positions ? m.x0 + m.v0 * t + m.a * t * t / 2 : m.v0 + m.a * t;
-            };
-            const bool is_ratio = relation == Relation::PositionRatio || relation == Relation::SpeedRatio;
-            const double at_second = value(second, meeting);
-            if (is_ratio && std::abs(at_second) < 0.1)
-                continue;
-            const double constant =
-                is_ratio ? value(first, meeting) / at_second : value(first, meeting) - at_second;
-            const RelationTimes found = TimesOf(relation, first, second, constant);
-            bool is_found = false;
-            for (const double t : found.times) {
-                ++times;
-                const double right = is_ratio ? constant * value(second, t) : value(second, t) + constant;
-                EXPECT_NEAR(value(first, t), right, 1e-7 * (1 + std::abs(right)));
-                is_found = is_found || std::abs(t - meeting) < 1e-5 * (1 + std::abs(meeting));
-            }
-            EXPECT_TRUE(is_found) << meeting;
-        }
-    }
-    EXPECT_GT(times, 20000);
-}
-
 // ---- Ratios of position and speed at once.
 
 // Mover 2 with one datum left empty: t, x, v of its point 0 and its acceleration.
@@ -308,41 +270,6 @@ TEST(Ratios, RefuseByName) {
                   (void)refused(WithSecond({0, 0, 2}, none, 0, 0, 0), "1, 1");
               }),
               FailureCode::DivisionByZero);
-}
-
-TEST(Ratios, TheHiddenDatumIsFound) {
-    std::mt19937 random(9);
-    std::uniform_real_distribution<double> number(-10, 10);
-    for (int k = 0; k < 5000; ++k) {
-        const Motion first = {number(random), number(random), number(random)};
-        const BaseMotion second = {number(random), number(random), number(random), number(random)};
-        const double t = number(random);
-        const double x = first.PositionAt(t), v = first.SpeedAt(t);
-        const double p = x / second.PositionAt(t), q = v / second.SpeedAt(t);
-        // Where a ratio is extreme or the datum hardly shows, rounding decides.
-        if (std::abs(p) < 0.01 || std::abs(p) > 100 || std::abs(q) < 0.01 || std::abs(q) > 100 ||
-            std::abs(t - second.t0) < 0.1 || std::abs(second.a) < 0.1 ||
-            std::abs(first.a - q * second.a) < 0.1)
-            continue;
-        for (const MissingDatum missing :
-             {MissingDatum::V0, MissingDatum::A, MissingDatum::T0, MissingDatum::X0}) {
-            double BaseMotion::*const datum = missing == MissingDatum::V0   ? &BaseMotion::v0
-                                              : missing == MissingDatum::A  ? &BaseMotion::a
-                                              : missing == MissingDatum::T0 ? &BaseMotion::t0
-                                                                            : &BaseMotion::x0;
-            BaseMotion hidden = second;
-            hidden.*datum = 0;
-            const auto answer = MatchRatios(first, hidden, missing, p, q);
-            ASSERT_TRUE(std::holds_alternative<std::vector<RatioMatch>>(answer));
-            bool is_found = false;
-            for (const RatioMatch& match : std::get<std::vector<RatioMatch>>(answer)) {
-                EXPECT_NEAR(first.PositionAt(match.t), p * match.second.PositionAt(match.t), 0.0011);
-                EXPECT_NEAR(first.SpeedAt(match.t), q * match.second.SpeedAt(match.t), 0.0011);
-                is_found = is_found || std::abs(match.second.*datum - second.*datum) < 1e-3;
-            }
-            EXPECT_TRUE(is_found) << k << " " << static_cast<int>(missing);
-        }
-    }
 }
 
 }  // namespace

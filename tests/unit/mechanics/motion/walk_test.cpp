@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
-
 #include "../../failure_code.h"
 #include "mechanics/motion/distance.h"
 #include "mechanics/motion/graph.h"
@@ -86,31 +83,6 @@ TEST(WalkedDistance, RefusesAndFails) {
     SetTime(problem, 1, 2, 7);
     problem.equations[SlotOf(1, 2)].kind = EquationKind::Complete;
     EXPECT_EQ(FailureOf([&] { (void)Distance(problem, {1, 1, 0}, {1, 2, 4}); }), FailureCode::OutOfDomain);
-}
-
-// Against the sum of many small steps.
-TEST(WalkedDistance, IsTheSumOfSmallSteps) {
-    std::mt19937 random(21);
-    std::uniform_real_distribution<double> number(-10, 10);
-    for (int k = 0; k < 1000; ++k) {
-        const Motion motion = {number(random), number(random), number(random)};
-        double first = number(random), last = number(random);
-        if (first > last)
-            std::swap(first, last);
-        Problem problem = OneMover();
-        GiveMotion(problem, 1, 1, motion);
-        SetTime(problem, 1, 0, first);
-        SetTime(problem, 1, 1, last);
-        constexpr int kSteps = 400;
-        double sum = 0;
-        for (int i = 0; i < kSteps; ++i) {
-            const double t = first + (last - first) * (i + 0.5) / kSteps;
-            sum += std::abs(motion.SpeedAt(t)) * (last - first) / kSteps;
-        }
-        const std::string line = DistanceLine(problem, {1, 1, 0}, {1, 1, 1});
-        ASSERT_EQ(line.substr(0, 4), "d = ");
-        EXPECT_NEAR(std::stod(line.substr(4)), sum, 0.01 + 1e-4 * sum);
-    }
 }
 
 // ---- Graph.
