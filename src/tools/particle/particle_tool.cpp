@@ -2,12 +2,14 @@
 
 #include <array>
 
+#include "drawing/words.h"
 #include "frame/writer.h"
 #include "mechanics/forces/read_forces.h"
 #include "mechanics/particle/particle_solver.h"
 #include "notation/force_parser.h"
 #include "text/number_text.h"
 #include "text/utf8.h"
+#include "tools/particle/describe.h"
 #include "tools/particle/force_diagram.h"
 #include "window/enabling.h"
 #include "window/grid_columns.h"
@@ -33,6 +35,8 @@ constexpr std::string_view kExamplesFile = "\\StatPart.txt";
 
 constexpr std::size_t kSolvableCount = 2;  // forces from which on Resolver makes sense
 constexpr double kRotationLimit = 90;      // degrees
+
+constexpr drawing::Noun kLeftForces{"fuerza en la tabla", "fuerzas en la tabla", true};
 
 // A number that the forces must have by now.
 double Known(const std::optional<double>& number) {
@@ -127,10 +131,23 @@ void ParticleTool::EnterForce() {
     const auto hour = record.clock ? std::optional(record.clock->hour) : std::nullopt;
     m_forces.Add(record, direction.asked, m_slots.AxisOffset(record.leaves, hour, m_rotation));
     Draw();
+    AnnounceAdded();
     if (m_forces.Count() >= kSolvableCount)
         Enable(Event::SecondForce);
     m_controls.txtVector.SetText("");
     m_form.SetFocus(m_controls.txtVector);
+}
+
+void ParticleTool::AnnounceAdded() const {
+    const std::size_t last = m_forces.Count() - 1;
+    m_form.Announce("Fuerza " + std::to_string(m_forces.Count()) +
+                    " añadida: " + DescribeForce(m_forces, last, m_form.publics.Decimals) + ".");
+}
+
+void ParticleTool::AnnounceRemoved(int number) const {
+    const std::string left =
+        m_forces.IsEmpty() ? "no queda ninguna." : drawing::Counted(m_forces.Count(), kLeftForces) + ".";
+    m_form.Announce("Fuerza " + std::to_string(number) + " quitada: " + left);
 }
 
 ParticleTool::DrawDirection ParticleTool::DirectionToDraw(const notation::ForceRecord& record) {
@@ -236,6 +253,7 @@ void ParticleTool::CancelLast() {
     window::Grid& grid = m_controls.gdEqui;
     if (grid.Rows() <= 1)
         return;
+    const int last = grid.Rows() - 1;
     if (m_forces.Count() <= 1) {
         EraseForces();
     } else {
@@ -243,6 +261,7 @@ void ParticleTool::CancelLast() {
         grid.RemoveRow(grid.Rows() - 1);
     }
     Draw();
+    AnnounceRemoved(last);
     m_form.SetFocus(m_controls.txtVector);
 }
 
@@ -259,6 +278,7 @@ void ParticleTool::CancelChosen() {
         m_forces.PlaceAll(m_slots, m_rotation);
     }
     Draw();
+    AnnounceRemoved(chosen);
     m_form.SetFocus(m_controls.txtVector);
 }
 
@@ -305,6 +325,10 @@ void ParticleTool::ShowRotation() {
     m_clock.TurnAxes(m_rotation);
 }
 
-void ParticleTool::Draw() { DrawForces(m_controls.pic1.Canvas(), m_forces, m_rotation); }
+void ParticleTool::Draw() {
+    window::Surface& canvas = m_controls.pic1.Canvas();
+    DrawForces(canvas, m_forces, m_rotation);
+    canvas.Describe(DescribeForces(m_forces, m_rotation, m_form.publics.Decimals));
+}
 
 }  // namespace tavrelo::tools::particle

@@ -55,6 +55,8 @@ class ParticleTool {
         bool cancelled = false;
     };
     DrawDirection DirectionToDraw(const notation::ForceRecord& record);
+    void AnnounceAdded() const;
+    void AnnounceRemoved(int number) const;  // of its row, from 1
     void AddToGrid(const notation::ForceRecord& record);
     void EraseForces();
     void ShowRotation();
