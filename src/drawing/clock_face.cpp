@@ -32,7 +32,7 @@ void DrawNumeral(window::Surface& surface, int hour, double rotation) {
     surface.CurrentFont =
         text::Font{std::string(text::kInterfaceFont), kNumeralSize, notation::IsAxisHour(hour)};
     const std::string numeral = std::to_string(hour);
-    const window::Point place = OnFace(kNumeralRadius, NumeralDirection(hour, rotation));
+    const window::Point place = NumeralPlace(hour, rotation);
     surface.CurrentX = place.x - surface.TextWidth(numeral) / 2;
     surface.CurrentY = place.y - surface.TextHeight() / 2;
     surface.Print(numeral);
@@ -65,6 +65,10 @@ void DrawClockFace(window::Surface& surface, int hour, double angle, double rota
                                   .angle = reading.angle,
                                   .color = kArrowColor,
                                   .width = 2});
+}
+
+window::Point NumeralPlace(int hour, double rotation) {
+    return OnFace(kNumeralRadius, NumeralDirection(hour, rotation));
 }
 
 std::optional<int> ClockHourAt(double x, double y, double rotation) {

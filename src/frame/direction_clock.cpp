@@ -1,5 +1,7 @@
 #include "frame/direction_clock.h"
 
+#include <cmath>
+
 #include "drawing/clock_face.h"
 #include "expr/expression.h"
 #include "notation/clock_direction.h"
@@ -13,6 +15,23 @@ constexpr std::string_view kTipPrefix = "Clic aquí pone ángulo = ";
 constexpr double kStep = 5;         // degrees, as the caption of cmdInc says
 constexpr double kAngleLimit = 90;  // degrees, which a stepped angle never reaches
 constexpr text::Color kFaceColor = text::Rgb(245, 245, 245);
+constexpr int kHourCell = 20;  // side of the square around a numeral, pixels
+
+std::string NameOfHour(int hour) {
+    const std::string name = "Hora " + std::to_string(hour);
+    switch (hour) {
+        case notation::kHourRight:
+            return name + ", eje x";
+        case notation::kHourUp:
+            return name + ", eje y";
+        case notation::kHourLeft:
+            return name + ", eje x negativo";
+        case notation::kHourDown:
+            return name + ", eje y negativo";
+        default:
+            return name;
+    }
+}
 
 }  // namespace
 
@@ -20,6 +39,7 @@ DirectionClock::DirectionClock(window::Form1& form) : m_form(form), m_hour(notat
     m_controls.picClock.Canvas().BackColor = kFaceColor;
     window::On(form, m_controls.picClock.OnMouseDown,
                [this](const window::MouseStroke& stroke) { FaceMouseDown(stroke); });
+    m_controls.picClock.ListCells = [this] { return HourCells(); };
     window::OnEnter(form, m_controls.txtVector, [this] { EnterVector(); });
     window::OnEnter(form, m_controls.txtAngle, [this] { EnterAngle(); });
     window::OnEnter(form, m_controls.txtAtan, [this] { EnterSlope(); });
@@ -55,6 +75,20 @@ void DirectionClock::Draw() {
     const std::string& angle = m_controls.txtAngle.Text();
     drawing::DrawClockFace(m_controls.picClock.Canvas(), m_hour,
                            text::IsNum(angle) ? text::ToNumber(angle) : 0, Rotation());
+}
+
+std::vector<window::PictureCell> DirectionClock::HourCells() const {
+    std::vector<window::PictureCell> cells;
+    for (int hour = 1; hour <= notation::kHours; ++hour) {
+        const window::Point middle = drawing::NumeralPlace(hour, Rotation());
+        cells.push_back(
+            {.name = NameOfHour(hour),
+             .bounds = {static_cast<int>(std::lround(middle.x)) - kHourCell / 2,
+                        static_cast<int>(std::lround(middle.y)) - kHourCell / 2, kHourCell, kHourCell},
+             .role = window::CellRole::Choice,
+             .checked = hour == m_hour});
+    }
+    return cells;
 }
 
 void DirectionClock::FaceMouseDown(const window::MouseStroke& stroke) {

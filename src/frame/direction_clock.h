@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "window/form1.h"
 
@@ -39,6 +40,7 @@ class DirectionClock {
 
   private:
     void EnterVector();
+    std::vector<window::PictureCell> HourCells() const;
     void FaceMouseDown(const window::MouseStroke& stroke);
     void EnterAngle();
     void EnterSlope();

@@ -39,6 +39,13 @@ int CountOf(const Range& range) {
     return static_cast<int>(std::size(range));
 }
 
+window::PictureCell ChoiceCell(std::string_view name, int column, int top, bool checked) {
+    return {.name = std::string(name),
+            .bounds = {column * kMenuCellWidth, top, kMenuCellWidth, kMenuCellHeight},
+            .role = window::CellRole::Choice,
+            .checked = checked};
+}
+
 std::string PlainText(std::string_view markup) {
     return window::TextOp{0, 0, text::LayOutMarkup(markup, text::Font{}, text::kBlack)}.PlainText();
 }
@@ -51,6 +58,9 @@ MenuBar::MenuBar(window::Form1& form, std::vector<RoutineGroup> groups)
                [this](const window::MouseStroke& stroke) { MouseDown(stroke); });
     window::On(form, m_controls.picBar.OnMouseMove,
                [this](const window::MouseStroke& stroke) { MouseMove(stroke); });
+    m_controls.picBar.ListCells = [this] {
+        return m_form.publics.CurrentTool == window::Tool::Kinematics ? WayCells() : RoutineCells();
+    };
 }
 
 void MenuBar::EnterCalculator() { ChooseGroup(0); }
@@ -128,6 +138,25 @@ std::string MenuBar::TooltipAt(double x, bool first_row) const {
     if (const int column = ColumnOf(x, CountOf(Icons())); !first_row && column >= 0)
         return PlainText(Icons()[static_cast<std::size_t>(column)].title);
     return {};
+}
+
+std::vector<window::PictureCell> MenuBar::WayCells() const {
+    std::vector<window::PictureCell> cells;
+    for (int column = 0; column < kWayCount; ++column)
+        cells.push_back(ChoiceCell(kWayTitles[column], column, 0,
+                                   m_form.publics.ProcCategory == kFirstKinematicsWay + column));
+    return cells;
+}
+
+std::vector<window::PictureCell> MenuBar::RoutineCells() const {
+    std::vector<window::PictureCell> cells;
+    for (int column = 0; column < CountOf(m_groups); ++column)
+        cells.push_back(ChoiceCell(m_groups[static_cast<std::size_t>(column)].title, column, 0,
+                                   m_form.publics.ProcCategory == column + 1));
+    for (int column = 0; column < CountOf(Icons()); ++column)
+        cells.push_back(ChoiceCell(PlainText(Icons()[static_cast<std::size_t>(column)].title), column,
+                                   kMenuSecondRow, column == m_marked_column));
+    return cells;
 }
 
 void MenuBar::Paint() {

@@ -65,6 +65,8 @@ class MenuBar {
     /// The direction clock shows while a routine takes vectors.
     void ShowClock(bool shown);
     std::string TooltipAt(double x, bool first_row) const;
+    std::vector<window::PictureCell> WayCells() const;
+    std::vector<window::PictureCell> RoutineCells() const;
     void Paint();
     void PaintGroups();
     void PaintWays();

@@ -27,6 +27,18 @@ constexpr std::array<std::string_view, kCells> kTooltips = {
     "Fijar la unidad de medida de ángulos en grados o radianes",
 };
 
+/// What a cell is when it is read aloud.
+struct CellTexts {
+    std::string_view name;
+    window::CellRole role;
+};
+constexpr std::array<CellTexts, kCells> kTexts = {{
+    {"Insertar polinomio", window::CellRole::Button},
+    {"Teclas rápidas", window::CellRole::Switch},
+    {"Notación programática", window::CellRole::Switch},
+    {"Ángulos en grados", window::CellRole::Switch},
+}};
+
 /// The cell under a place, 1 to 4, or 0.
 int CellAt(double x) { return window::CellAt(x, kCellWidth, kCells) + 1; }
 
@@ -60,6 +72,23 @@ OptionStrip::OptionStrip(window::Form1& form) : m_form(form) {
         "Error.");
     window::On(form, m_controls.picOpt.OnMouseMove,
                [this](const window::MouseStroke& stroke) { MouseMove(stroke); });
+    m_controls.picOpt.ListCells = [this] { return Cells(); };
+}
+
+std::vector<window::PictureCell> OptionStrip::Cells() const {
+    const window::Publics& publics = m_form.publics;
+    const std::array<bool, kCells> on = {false, publics.QuickKeys, publics.InfixNotation,
+                                         publics.DegreesMode};
+    constexpr int kWidth = static_cast<int>(kCellWidth);
+    std::vector<window::PictureCell> cells;
+    for (std::size_t cell = 0; cell < kCells; ++cell)
+        cells.push_back(
+            {.name = std::string(kTexts[cell].name),
+             .bounds = {static_cast<int>(cell) * kWidth, 0, kWidth, m_controls.picOpt.Bounds().height},
+             .role = kTexts[cell].role,
+             .checked = on[cell],
+             .tip = std::string(kTooltips[cell])});
+    return cells;
 }
 
 void OptionStrip::FillTeclas() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "window/form1.h"
 
 namespace tavrelo::frame {
@@ -21,6 +23,7 @@ class OptionStrip {
   private:
     void MouseDown(const window::MouseStroke& stroke);
     void MouseMove(const window::MouseStroke& stroke);
+    std::vector<window::PictureCell> Cells() const;
     void InsertPolynomial();
     void SwitchDegrees();
 

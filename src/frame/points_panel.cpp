@@ -99,6 +99,9 @@ void PointsPanel::BindStrip() {
     };
     bind(m_controls.picAccel.OnMouseDown, &PointsTool::PressStrip);
     bind(m_controls.picAccel.OnMouseUp, &PointsTool::ReleaseStrip);
+    m_controls.picAccel.ListCells = [this] {
+        return m_tool ? m_tool->StripCells() : std::vector<window::PictureCell>();
+    };
 }
 
 void PointsPanel::BindProcedures() {
@@ -107,6 +110,7 @@ void PointsPanel::BindProcedures() {
         const int rows = m_tool ? static_cast<int>(m_tool->Texts().procedure_rows.size()) : 0;
         ChooseRow(window::CellAt(stroke.y, height, rows) + 1);
     });
+    m_controls.imgProcs.ListCells = [this] { return RowCells(); };
     OnClick(m_form, m_controls.cboProcs, [this] { ChooseEntry(); });
     On(m_form, m_controls.txtProcs.OnChange, [this] {
         if (m_tool)
@@ -218,6 +222,22 @@ void PointsPanel::FrameRow() {
     window::Rect frame = m_controls.shpMrua.Bounds();
     frame.top = m_controls.imgProcs.Bounds().top + (m_tool->view.procedure_row - 1) * frame.height;
     m_controls.shpMrua.SetBounds(frame);
+}
+
+std::vector<window::PictureCell> PointsPanel::RowCells() const {
+    std::vector<window::PictureCell> cells;
+    if (!m_tool)
+        return cells;
+    const int height = m_controls.shpMrua.Bounds().height;
+    int row = 0;
+    for (const std::string_view title : m_tool->Texts().procedure_rows) {
+        cells.push_back({.name = std::string(title),
+                         .bounds = {0, row * height, m_controls.imgProcs.Bounds().width, height},
+                         .role = window::CellRole::Choice,
+                         .checked = row + 1 == m_tool->view.procedure_row});
+        ++row;
+    }
+    return cells;
 }
 
 /// The panel of the rows stands under the first two tabs, that of the list under the third.

@@ -79,6 +79,7 @@ class PointsPanel {
     void ShowConfigurations();
     void ShowProcedures();
     void FrameRow();
+    std::vector<window::PictureCell> RowCells() const;
     void ShowArgumentPage();
     void ShowHelp(int button);
 

@@ -6,6 +6,7 @@
 namespace tavrelo::frame {
 namespace {
 
+using mechanics::points::Configuration;
 using text::Color;
 using window::Surface;
 
@@ -13,6 +14,8 @@ constexpr Color kLightBand = text::FromBgr(0xFFFFC0);
 constexpr Color kEmptyGrey = text::Rgb(0xE0, 0xE0, 0xE0);
 constexpr Color kPointGrey = text::Rgb(0xC0, 0xC0, 0xC0);
 constexpr Color kEdgeColor = text::Rgb(0x80, 0x80, 0x80);
+
+constexpr double kMiddleOfColumn = 0.5;  // in columns
 
 constexpr double kDigitShare = 0.45;  // of the column's width, where the middle of a digit stands
 constexpr double kDigitShift = 4;     // from there to the digit's left edge
@@ -85,6 +88,49 @@ StripPlace PlaceOnStrip(double x, double y) {
     if (x < 0 || x >= kPointColumns * kStripColumn || y < 0 || y > kStripTop)
         return {};
     return {y > kLabelTop ? StripBand::Grey : StripBand::Labels, static_cast<int>(x / kStripColumn) + 1};
+}
+
+window::PictureCell LabelCell(std::string name, int column, StripHalf half) {
+    constexpr int kWidth = static_cast<int>(kStripColumn);
+    constexpr int kTop = static_cast<int>(kStripTop - kLabelTop);
+    constexpr int kHeight = static_cast<int>(kLabelTop);
+    const int left = (column - 1) * kWidth + (half == StripHalf::Right ? kWidth / 2 : 0);
+    const int width = half == StripHalf::Both ? kWidth : kWidth / 2;
+    return {.name = std::move(name), .bounds = {left, kTop, width, kHeight}};
+}
+
+window::PictureCell GreyCell(std::string name, int column) {
+    constexpr int kWidth = static_cast<int>(kStripColumn);
+    constexpr int kHeight = static_cast<int>(kStripTop - kLabelTop);
+    return {.name = std::move(name), .bounds = {(column - 1) * kWidth, 0, kWidth, kHeight}};
+}
+
+std::string NameOfPoint(const Configuration& configuration, int column) {
+    const auto place = Locate(configuration, column - kMiddleOfColumn);
+    if (!place)
+        return std::to_string(column - 1);
+    std::string name = std::to_string(place->point);
+    if (configuration.MoverCount() > 1)
+        name += " del móvil " + std::to_string(place->mover);
+    return name;
+}
+
+std::vector<window::PictureCell> LabelCells(const Configuration& configuration) {
+    std::vector<window::PictureCell> cells;
+    for (int column = 1; column <= kPointColumns; ++column) {
+        const std::string name = "Punto " + NameOfPoint(configuration, column);
+        const auto earlier = Locate(configuration, column - kMiddleOfColumn);
+        const auto later = Locate(configuration, column - kMiddleOfColumn / 2);
+        if (!earlier || *earlier == *later) {
+            cells.push_back(LabelCell(name, column));
+            continue;
+        }
+        cells.push_back(
+            LabelCell(name + ", tramo " + std::to_string(earlier->stretch), column, StripHalf::Left));
+        cells.push_back(
+            LabelCell(name + ", tramo " + std::to_string(later->stretch), column, StripHalf::Right));
+    }
+    return cells;
 }
 
 int AccelerationBoxLeft(int first_column, int points) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
+#include "mechanics/points/configuration.h"
 #include "text/color.h"
 #include "window/controls.h"
 
@@ -35,6 +38,16 @@ struct StripLabel {
     text::Color left;
     text::Color right;
 };
+
+/// A cell of the labels over a column; over the left or right half of it where two stretches share the point.
+enum class StripHalf { Both, Left, Right };
+window::PictureCell LabelCell(std::string name, int column, StripHalf half = StripHalf::Both);
+/// The labels of all points, those that two stretches share as two cells.
+std::vector<window::PictureCell> LabelCells(const mechanics::points::Configuration& configuration);
+/// The cell of the grey band over a column.
+window::PictureCell GreyCell(std::string name, int column);
+/// The number of the point over a column, with its mover where there are two: "3 del móvil 2".
+std::string NameOfPoint(const mechanics::points::Configuration& configuration, int column);
 
 /// The strip before anything is chosen: light labels 0 to 8 under an empty grey band.
 void PaintEmptyStrip(window::Surface& strip);

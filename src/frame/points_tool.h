@@ -59,6 +59,8 @@ class PointsTool {
     virtual void Configure(int configuration) = 0;
     virtual void PressStrip(const window::MouseStroke& stroke) = 0;
     virtual void ReleaseStrip(const window::MouseStroke& stroke) = 0;
+    /// What can be pressed on the strip as it is.
+    virtual std::vector<window::PictureCell> StripCells() const = 0;
     virtual void EnterCell() {}
     virtual void ChooseRow(int row) = 0;      // from 1
     virtual void ChooseEntry(int entry) = 0;  // from 0

@@ -28,6 +28,7 @@ constexpr ToolButton kButtons[] = {
 };
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
 constexpr int kButtonWidth = 555;  // twips
+constexpr int kButtonPixels = kButtonWidth / window::kTwipsPerPixel;
 
 /// What the window looks like around a tool.
 struct ToolLook {
@@ -62,6 +63,7 @@ ToolSwitch::ToolSwitch(window::Form1& form, MenuBar& menu) : m_form(form), m_men
         [this](const window::MouseStroke& stroke) { ImageMouseDown(stroke); }, "");
     window::On(form, m_controls.Image1.OnMouseMove,
                [this](const window::MouseStroke& stroke) { ImageMouseMove(stroke); });
+    m_controls.Image1.ListCells = [this] { return ToolbarCells(); };
     window::On(form, m_controls.ThisWindow.OnClose, [this] { m_form.End(); });
 }
 
@@ -100,6 +102,19 @@ void ToolSwitch::ImageMouseDown(const window::MouseStroke& stroke) {
 void ToolSwitch::ImageMouseMove(const window::MouseStroke& stroke) {
     const int button = ButtonAt(stroke.x);
     m_controls.Image1.SetTooltip(button ? std::string(kButtons[button - 1].tooltip) : std::string());
+}
+
+std::vector<window::PictureCell> ToolSwitch::ToolbarCells() const {
+    std::vector<window::PictureCell> cells;
+    for (int button = 1; button <= kButtonCount; ++button) {
+        const bool is_tool = button <= window::kToolCount;
+        cells.push_back(
+            {.name = std::string(kButtons[button - 1].tooltip),
+             .bounds = {(button - 1) * kButtonPixels, 0, kButtonPixels, m_controls.Image1.Bounds().height},
+             .role = is_tool ? window::CellRole::Choice : window::CellRole::Button,
+             .checked = button == m_form.publics.HelpTool});
+    }
+    return cells;
 }
 
 void ToolSwitch::MoveMarker(int button) {

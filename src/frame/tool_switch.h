@@ -78,6 +78,7 @@ class ToolSwitch {
 
     void ImageMouseDown(const window::MouseStroke& stroke);
     void ImageMouseMove(const window::MouseStroke& stroke);
+    std::vector<window::PictureCell> ToolbarCells() const;
     void MoveMarker(int button);
     void OpenHelp();
     void Enter(window::Tool tool);

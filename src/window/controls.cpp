@@ -1,6 +1,7 @@
 #include "window/controls.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "text/utf8.h"
 
@@ -208,6 +209,8 @@ Point Picture::ToPixels(Point own) const {
 }
 
 void Picture::UserMouseDown(const MouseStroke& stroke) {
+    m_cell_place.reset();
+    KeepPlace(ToPixels({stroke.x, stroke.y}));
     FireForUser([&] {
         if (OnMouseDown)
             OnMouseDown(stroke);
@@ -226,6 +229,77 @@ void Picture::UserMouseUp(const MouseStroke& stroke) {
         if (OnMouseUp)
             OnMouseUp(stroke);
     });
+}
+
+std::vector<PictureCell> Picture::Cells() const {
+    return ListCells ? ListCells() : std::vector<PictureCell>();
+}
+
+int Picture::CurrentCell(std::span<const PictureCell> cells) const {
+    if (m_cell_place)
+        return NearestCell(cells, *m_cell_place);
+    const auto checked = std::ranges::find_if(
+        cells, [](const PictureCell& cell) { return cell.checked && cell.role == CellRole::Choice; });
+    if (checked != cells.end() && checked->enabled)
+        return static_cast<int>(checked - cells.begin());
+    return CellBeside(cells, kNoCell, Key::Home);
+}
+
+void Picture::KeepPlace(Point pixels) {
+    const auto cells = Cells();
+    const int cell = CellUnder(cells, pixels);
+    if (cell == kNoCell || !cells[static_cast<std::size_t>(cell)].enabled)
+        return;
+    m_cell_place = MiddleOf(cells[static_cast<std::size_t>(cell)].bounds);
+    Notify(Change::Selection);
+}
+
+bool Picture::UserMoveCell(Key key) {
+    const auto cells = Cells();
+    const int next = CellBeside(cells, CurrentCell(cells), key);
+    if (next == kNoCell)
+        return false;
+    KeepPlace(MiddleOf(cells[static_cast<std::size_t>(next)].bounds));
+    return true;
+}
+
+void Picture::UserGoToCell(int cell) {
+    const auto cells = Cells();
+    if (cell >= 0 && cell < static_cast<int>(cells.size()))
+        KeepPlace(MiddleOf(cells[static_cast<std::size_t>(cell)].bounds));
+}
+
+MouseStroke Picture::StrokeAt(Point pixels, const CellPress& press) const {
+    const Point own = ToOwnUnits(pixels);
+    return {own.x, own.y, press.button, press.shift, press.ctrl, press.alt};
+}
+
+void Picture::UserChooseCell(const CellPress& press) {
+    const auto cells = Cells();
+    const int current = CurrentCell(cells);
+    if (current == kNoCell)
+        return;
+    const PictureCell& cell = cells[static_cast<std::size_t>(current)];
+    MouseStroke stroke = StrokeAt(MiddleOf(cell.bounds), press);
+    if (m_held_with) {
+        stroke.button = *std::exchange(m_held_with, std::nullopt);
+        UserMouseUp(stroke);
+        Notify(Change::Selection);
+        return;
+    }
+    if (cell.drags_with == press.button)
+        m_held_with = press.button;
+    UserMouseDown(stroke);
+    if (!m_held_with)
+        UserMouseUp(stroke);
+}
+
+void Picture::UserLetGo() {
+    if (!m_held_with)
+        return;
+    constexpr Point kOutside{-1, -1};
+    UserMouseUp(StrokeAt(kOutside, {*std::exchange(m_held_with, std::nullopt)}));
+    Notify(Change::Selection);
 }
 
 void ComboBox::SetItems(std::vector<std::string> items) {

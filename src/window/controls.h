@@ -1,12 +1,15 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "text/rich_text.h"
 #include "window/control.h"
 #include "window/keys.h"
+#include "window/picture_cells.h"
 #include "window/surface.h"
 
 // The controls by kind: properties, events as std::function members, and what the user can do to them. A
@@ -307,8 +310,6 @@ class Grid : public Control {
     CellBlock m_dragged{-1, -1, -1, -1};
 };
 
-enum class MouseButton { Left, Right };
-
 /// A mouse event in the control's own units.
 struct MouseStroke {
     double x = 0;
@@ -356,10 +357,38 @@ class Picture : public Control {
     Handler<void(const MouseStroke&)> OnMouseMove;
     Handler<void(const MouseStroke&)> OnMouseUp;
 
+    /// Lists what can be pressed on the picture, from what is painted on it and how its clicks are heard. It
+    /// is asked whenever somebody wants to know, so the answer is never old; unset, the picture has no cells.
+    std::function<std::vector<PictureCell>()> ListCells;
+    std::vector<PictureCell> Cells() const;
+    bool HasCells() const { return static_cast<bool>(ListCells); }
+
+    /// The cell among `cells` that the keys are at: where the user went last, at first the checked one, else
+    /// the first. kNoCell when none is enabled.
+    int CurrentCell(std::span<const PictureCell> cells) const;
+    int CurrentCell() const { return CurrentCell(Cells()); }
+    /// An arrow, Home or End: goes to another cell, or answers false.
+    bool UserMoveCell(Key key);
+    /// The user put the keys at a cell, by its index.
+    void UserGoToCell(int cell);
+    /// A key presses the current cell: the events of a click of the mouse on its middle. A cell that such a
+    /// press takes up is held, and the next press puts it down at the cell that is then the current one.
+    void UserChooseCell(const CellPress& press);
+    /// The button that holds a cell taken up by a key.
+    const std::optional<MouseButton>& HeldWith() const { return m_held_with; }
+    /// Puts a held cell back: a release outside the picture.
+    void UserLetGo();
+
   private:
+    MouseStroke StrokeAt(Point pixels, const CellPress& press) const;
+    void KeepPlace(Point pixels);
+
     Recorder m_canvas;
     MouseUnits m_units = MouseUnits::Pixels;
     int m_pointer_shape = 0;
+    // Cells come and go with what is painted; where the keys are is kept as a place (pixels).
+    std::optional<Point> m_cell_place;
+    std::optional<MouseButton> m_held_with;
 };
 
 /// A list that opens, with at most one row chosen.

@@ -105,6 +105,26 @@ std::vector<AccelerationSpan> SpansOf(const Configuration& configuration) {
     return spans;
 }
 
+std::vector<window::PictureCell> StripCells(const Configuration& configuration) {
+    std::vector<window::PictureCell> cells;
+    const StripAction action = ActionOfGreyBand(configuration.stage);
+    for (int column = 1; column <= frame::kPointColumns && action != StripAction::Nothing; ++column) {
+        const std::string point = frame::NameOfPoint(configuration, column);
+        if (action == StripAction::StartDrag) {
+            cells.push_back(frame::GreyCell("Datos del punto " + point, column));
+            cells.back().drags_with = MouseButton::Left;
+            continue;
+        }
+        const bool splits = configuration.stage == Stage::Pending &&
+                            configuration.chosen_movers == mechanics::points::kMostMovers;
+        cells.push_back(frame::GreyCell(
+            splits ? "El móvil 1 hasta el punto " + point : "Fin de tramo en el punto " + point, column));
+    }
+    const auto labels = frame::LabelCells(configuration);
+    cells.insert(cells.end(), labels.begin(), labels.end());
+    return cells;
+}
+
 void PaintPrompt(window::Recorder& strip, int configuration) {
     const Prompt& prompt = kPrompts[configuration];
     frame::PaintStripPrompt(strip, prompt.text, prompt.left);

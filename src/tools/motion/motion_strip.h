@@ -47,6 +47,9 @@ struct AccelerationSpan {
 };
 std::vector<AccelerationSpan> SpansOf(const mechanics::points::Configuration& configuration);
 
+/// What can be pressed on the strip, as MeaningOfPress takes it.
+std::vector<window::PictureCell> StripCells(const mechanics::points::Configuration& configuration);
+
 /// Asks, in the grey band, for the clicks that a configuration needs (by the index of its button).
 void PaintPrompt(window::Recorder& strip, int configuration);
 /// Paints the labels of all points in the colours of their stretches, and a bracket over each stretch.

@@ -130,6 +130,10 @@ void Motion::ReleaseStrip(const window::MouseStroke& stroke) {
     m_panel.ShowCells();
 }
 
+std::vector<window::PictureCell> Motion::StripCells() const {
+    return motion::StripCells(m_problem.configuration);
+}
+
 void Motion::Divide(double position) {
     const auto step = ClickBand(m_problem.configuration, position);
     if (step.configuration != m_problem.configuration) {

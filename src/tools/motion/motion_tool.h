@@ -49,6 +49,7 @@ class Motion : public frame::PointsTool {
     void Configure(int configuration) override;
     void PressStrip(const window::MouseStroke& stroke) override;
     void ReleaseStrip(const window::MouseStroke& stroke) override;
+    std::vector<window::PictureCell> StripCells() const override;
     void ChooseRow(int row) override;
     void ChooseEntry(int entry) override;
     void RunEntry() override;

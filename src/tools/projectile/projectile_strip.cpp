@@ -69,6 +69,27 @@ std::optional<DragEnd> MeaningOfRelease(const MouseStroke& stroke) {
     return DragEnd{place.column, stroke.shift};
 }
 
+std::vector<window::PictureCell> StripCells(const Problem& problem) {
+    std::vector<window::PictureCell> cells;
+    const bool configured = problem.configuration.IsConfigured();
+    const bool has_band = problem.configuration.stage != Stage::Unconfigured;
+    for (int column = 1; column <= frame::kPointColumns && has_band; ++column) {
+        const std::string point = frame::NameOfPoint(problem.configuration, column);
+        if (!configured) {
+            cells.push_back(frame::GreyCell("El móvil 1 hasta el punto " + point, column));
+            continue;
+        }
+        const bool in_components = problem.ModeOf(column) == SpeedMode::Components;
+        cells.push_back(frame::GreyCell(
+            "Velocidad del punto " + point + (in_components ? ", en componentes" : ", en módulo y dirección"),
+            column));
+        cells.back().drags_with = MouseButton::Right;
+    }
+    const auto labels = frame::LabelCells(problem.configuration);
+    cells.insert(cells.end(), labels.begin(), labels.end());
+    return cells;
+}
+
 void PaintStrip(window::Recorder& strip, const Problem& problem) {
     frame::PaintPointStrip(strip, LabelsOf(problem.configuration));
     for (int column = 1; column <= frame::kPointColumns; ++column)

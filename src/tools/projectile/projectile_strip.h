@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "mechanics/projectile/problem.h"
 #include "window/controls.h"
@@ -37,6 +38,9 @@ struct DragEnd {
     bool copies;
 };
 std::optional<DragEnd> MeaningOfRelease(const window::MouseStroke& stroke);
+
+/// What can be pressed on the strip, as MeaningOfPress takes it.
+std::vector<window::PictureCell> StripCells(const mechanics::projectile::Problem& problem);
 
 /// Paints the labels of all points of a configured table and how the speed of each is given.
 void PaintStrip(window::Recorder& strip, const mechanics::projectile::Problem& problem);

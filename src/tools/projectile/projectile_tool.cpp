@@ -104,6 +104,8 @@ void Projectile::ReleaseStrip(const window::MouseStroke& stroke) {
         m_panel.FocusColumn(end->column);
 }
 
+std::vector<window::PictureCell> Projectile::StripCells() const { return projectile::StripCells(m_problem); }
+
 void Projectile::ClickBand(const StripMeaning& meaning) {
     const bool divides = !m_problem.configuration.IsConfigured();
     if (!TakeProblem(WithBandClicked(m_problem, meaning.position, m_form.publics.Decimals)))

@@ -41,6 +41,7 @@ class Projectile : public frame::PointsTool {
     void PressStrip(const window::MouseStroke& stroke) override;
     void ReleaseStrip(const window::MouseStroke& stroke) override;
     void EnterCell() override;
+    std::vector<window::PictureCell> StripCells() const override;
     void ChooseRow(int row) override;
     void ChooseEntry(int entry) override;
     void RunEntry() override;

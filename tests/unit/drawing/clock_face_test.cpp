@@ -47,5 +47,13 @@ TEST(ClockFace, ShowsTwelveNumeralsTheAxesInBold) {
         }
 }
 
+TEST(ClockFace, TheNumeralOfAnHourLiesOnIt) {
+    for (const double rotation : {0.0, 17.0, -60.0, 135.0})
+        for (int hour = 1; hour <= 12; ++hour) {
+            const window::Point place = NumeralPlace(hour, rotation);
+            EXPECT_EQ(ClockHourAt(place.x, place.y, rotation), hour) << rotation;
+        }
+}
+
 }  // namespace
 }  // namespace tavrelo::drawing
