@@ -7,6 +7,7 @@
 
 #include "numeric/checked.h"
 #include "numeric/compare.h"
+#include "numeric/dependence.h"
 
 namespace tavrelo::numeric {
 
@@ -250,9 +251,13 @@ LinearOutcome SolveLinear(SquareMatrix& a, std::span<double> b) {
 }
 
 LinearOutcome SolveIndependent(SquareMatrix& a, std::span<double> b) {
+    const bool are_dependent = AreDependent(a);
     const std::vector<double> largest = LargestOfRows(a);
     return SolveUnless(
-        [&](const Permutation& permutation) { return HasRoundingPivot(a, permutation, largest); }, a, b);
+        [&](const Permutation& permutation) {
+            return are_dependent || HasRoundingPivot(a, permutation, largest);
+        },
+        a, b);
 }
 
 double Determinant(SquareMatrix a) {

@@ -1,6 +1,7 @@
 #include "tools/calculator/linear_routines.h"
 
 #include "numeric/compare.h"
+#include "numeric/dependence.h"
 #include "numeric/linear_systems.h"
 #include "tools/calculator/result_text.h"
 
@@ -47,9 +48,10 @@ System SystemOf(const Arguments& arguments) {
 Outcome Solve(System& system) {
     numeric::Permutation exchanges;
     double determinant = 0;
+    const bool are_dependent = numeric::AreDependent(system.matrix);
     const std::vector<double> largest = numeric::LargestOfRows(system.matrix);
     numeric::LUDec(system.matrix, exchanges, determinant);
-    if (numeric::NearEq(determinant, 0, numeric::kZeroDeterminant) ||
+    if (numeric::NearEq(determinant, 0, numeric::kZeroDeterminant) || are_dependent ||
         numeric::HasRoundingPivot(system.matrix, exchanges, largest))
         return text::Refusal{std::string(TextOf(LinearOutcome::DeterminantIsZero))};
     if (numeric::LUBack(system.matrix, system.right_side, exchanges) != LinearOutcome::Done)

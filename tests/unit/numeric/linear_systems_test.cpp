@@ -6,6 +6,7 @@
 #include <random>
 
 #include "../failure_code.h"
+#include "numeric/dependence.h"
 
 namespace tavrelo::numeric {
 namespace {
@@ -160,25 +161,6 @@ TEST(LUBack, SolvesSeveralRightSidesWithTheSameFactors) {
     }
 }
 
-TEST(SolveLinear, FindsWholeNumberedSolutions) {
-    std::mt19937 random(5);
-    std::uniform_int_distribution<int> unknown(-50, 50);
-    int solved = 0;
-    for (int i = 0; i < 200; ++i) {
-        SquareMatrix matrix = RandomMatrix(static_cast<std::size_t>(1 + i % 20), random);
-        List expected(matrix.Order());
-        for (double& x : expected)
-            x = unknown(random);
-        List b = Product(matrix, expected);
-        if (SolveLinear(matrix, b) != LinearOutcome::Done)
-            continue;
-        ++solved;
-        for (std::size_t row = 0; row < expected.size(); ++row)
-            EXPECT_NEAR(b[row], expected[row], 1e-7);
-    }
-    EXPECT_GT(solved, 180);  // a matrix of such numbers is rarely singular
-}
-
 TEST(SolveLinear, ADeterminantBelowTheLimitCountsAsZeroAtAnyScale) {
     for (const double size : {1e-9, 1e-8, -1e-9}) {
         SquareMatrix matrix = Diagonal({size, 1});
@@ -255,6 +237,37 @@ TEST(SolveIndependent, RefusesRowsThatDependOnEachOther) {
     std::vector<double> b = {100, 200, 301};
     EXPECT_EQ(SolveIndependent(dependent, b), LinearOutcome::DeterminantIsZero);
     EXPECT_EQ(b, (std::vector<double>{100, 200, 301}));
+}
+
+/// The second row is twice the first less three times the third. The first two columns are nearly parallel,
+/// so that the pivot in the second one is small and the rounding of the last one large: more than its limit.
+TEST(SolveIndependent, RefusesDependentRowsBehindASmallPivot) {
+    SquareMatrix dependent(
+        3, std::vector<double>{472.67, 336.5, 241.71, -61.19, -43.52, 1437.42, 335.51, 238.84, -318});
+    std::vector<double> b = {-103.02, 101.93, 153.65};
+    EXPECT_EQ(SolveIndependent(dependent, b), LinearOutcome::DeterminantIsZero);
+}
+
+TEST(AreDependent, GoesByRowsAndColumnsOfOneSize) {
+    struct Row {
+        std::size_t order;
+        std::vector<double> elements;
+        bool are_dependent;
+    };
+    const Row rows[] = {
+        {1, {3}, false},
+        {1, {0}, true},
+        {2, {1, 2, 2, 4}, true},
+        {2, {1, 2, 2, 4.0001}, false},
+        {2, {1, 1e14, 0, 1}, false},
+        {2, {1e-200, 0, 0, 1e200}, false},
+        {2, {0, 1, 0, 5}, true},
+        {3, {1, 2, 3, 4, 5, 6, 7, 8, 9}, true},
+        {3, {1, 2, 3, 4, 5, 6, 7, 8, 10}, false},
+        {3, {0.1, 0.2, 0.3, 1e6, 2e6, 3e6, 5, 7, 9}, true},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(AreDependent(SquareMatrix(row.order, row.elements)), row.are_dependent) << row.elements[0];
 }
 
 /// Rows of very different size, given in the order that makes every step exchange, are as good as any.
