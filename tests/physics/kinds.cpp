@@ -17,9 +17,31 @@ constexpr std::string_view kUnsolvableParticle[] = {kNoEquilibriumText, kNoSuchS
 constexpr std::string_view kTooMany[] = {kTooManyUnknownsText};
 constexpr std::string_view kDependent[] = {kSingularText};
 constexpr std::string_view kAngleOfBody[] = {kSingularText, kNoBodySolutionText};
+constexpr std::string_view kNoRoots[] = {kNoRootsText};
+constexpr std::string_view kFitNotSolved[] = {kFitNotSolvedText};
+constexpr std::string_view kAtLimitOfTriangles[] = {kInconsistentText};
+constexpr std::string_view kNotTriangles[] = {kInconsistentText, kNoTriangleText, kThreeAnglesText};
+constexpr std::string_view kInLine[] = {kInLineText};
 
 constexpr ProblemKind kKinds[] = {
-    {"numeric.systems", "systems of linear equations with a known solution", 3000, PlayRegularSystem},
+    {"numeric.systems", "systems of linear equations", 3000, PlaySystem, kDependent, 0.1},
+    {"numeric.dependent-systems", "one equation made of the others", 3000, PlayDependentSystem, kDependent,
+     1},
+    {"numeric.quadratics", "equations of the second degree", 3000, PlayQuadratic},
+    {"numeric.cubics", "equations of the third degree", 3000, PlayCubic},
+    {"numeric.real-roots", "the real roots of at most the second degree", 3000, PlayRealRoots},
+    {"numeric.cos-sin", "A cos t + B sin t + C = 0", 3000, PlayCosSin},
+    {"numeric.root-search", "the roots of a product by changes of sign", 2000, PlayRootSearch, kNoRoots, 0.3},
+    {"numeric.integrals", "integrals of typed formulas", 2000, PlayIntegral},
+    {"numeric.derivatives", "derivatives of typed formulas", 3000, PlayDerivatives},
+    {"numeric.differential-equations", "a decay and an oscillation", 1000, PlayDifferentialEquation},
+    {"numeric.fits", "points on a polynomial or beside it", 3000, PlayFit, kFitNotSolved, 0.1},
+    {"numeric.logarithmic-fits", "points on an exponential or a power", 3000, PlayLogarithmicFit},
+    {"numeric.triangles", "a triangle of three data", 3000, PlayTriangle, kAtLimitOfTriangles, 0.05},
+    {"numeric.no-triangles", "data that make no triangle", 3000, PlayNoTriangle, kNotTriangles, 1},
+    {"numeric.triangles-of-vertices", "a triangle of its vertices", 3000, PlayTriangleOfVertices, kInLine,
+     0.05},
+    {"numeric.polygons", "a polygon of its vertices", 2000, PlayPolygon},
 
     {"particle.two-magnitudes", "two unknown magnitudes or components", 5000, PlayTwoMagnitudes,
      kLinearParticle, 0.3},

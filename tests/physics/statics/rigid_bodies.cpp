@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "statics/linear_columns.h"
 #include "statics/rigid_help.h"
 #include "statics/rigid_kinds.h"
 

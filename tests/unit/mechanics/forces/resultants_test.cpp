@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <random>
 
 #include "../../failure_code.h"
 
@@ -144,19 +143,6 @@ TEST(PlaneForces, ACoupleAndNothing) {
     EXPECT_EQ(PlaneForces(couple, std::vector{-15.0}).kind, ResultantKind::Null);
     EXPECT_EQ(PlaneForces({}, std::vector{2.0}).kind, ResultantKind::Couple);
     EXPECT_EQ(PlaneForces({}, {}).kind, ResultantKind::Null);
-}
-
-TEST(PlaneForces, AtAnyPointTheResultantHasTheMomentOfItsForces) {
-    std::mt19937 random(6);
-    std::uniform_real_distribution<double> number(-10, 10);
-    for (int i = 0; i < 100; ++i) {
-        std::vector<PlacedForce> forces;
-        for (int k = 0; k < 4; ++k)
-            forces.push_back(Placed(number(random), number(random), number(random), number(random)));
-        const PlaneResultant result = PlaneForces(forces, {});
-        const Point point = {number(random), number(random)};
-        EXPECT_NEAR(MomentAt(result, point), VectorListMoments(forces, point), kTolerance);
-    }
 }
 
 TEST(ParallelLine, ForceCoupleAndNothing) {
