@@ -12,8 +12,8 @@ Verdict PlaySystem(Problem& problem);
 Verdict PlayDependentSystem(Problem& problem);
 
 // --- Roots (roots.cpp)
-Verdict PlayQuadratic(Problem& problem);
-Verdict PlayCubic(Problem& problem);
+Verdict PlayQuadraticEquation(Problem& problem);
+Verdict PlayCubicEquation(Problem& problem);
 Verdict PlayRealRoots(Problem& problem);
 /// a cos t + b sin t + c = 0.
 Verdict PlayCosSin(Problem& problem);

@@ -90,7 +90,7 @@ bool IsClear(const Coefficients& p) {
 
 }  // namespace
 
-Verdict PlayQuadratic(Problem& problem) {
+Verdict PlayQuadraticEquation(Problem& problem) {
     Chance& chance = problem.chance;
     const Coefficients p = TypedPolynomial(problem, AnyRoots(chance, 2), chance.Sign() * chance.Size(0.5, 20),
                                            chance.Between(2, 8));
@@ -102,7 +102,7 @@ Verdict PlayQuadratic(Problem& problem) {
     return JudgedRoots(p, {Complex(first, second), Complex(first, -second)});
 }
 
-Verdict PlayCubic(Problem& problem) {
+Verdict PlayCubicEquation(Problem& problem) {
     Chance& chance = problem.chance;
     const Coefficients p = TypedPolynomial(problem, AnyRoots(chance, 3), chance.Sign() * chance.Size(0.5, 20),
                                            chance.Between(3, 8));
