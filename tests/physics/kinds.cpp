@@ -1,5 +1,6 @@
 #include "kinds.h"
 
+#include "forces/force_kinds.h"
 #include "motion/motion_kinds.h"
 #include "motion/motion_refusals.h"
 #include "numeric/numeric_kinds.h"
@@ -17,11 +18,16 @@ constexpr std::string_view kUnsolvableParticle[] = {kNoEquilibriumText, kNoSuchS
 constexpr std::string_view kTooMany[] = {kTooManyUnknownsText};
 constexpr std::string_view kDependent[] = {kSingularText};
 constexpr std::string_view kAngleOfBody[] = {kSingularText, kNoBodySolutionText};
+constexpr std::string_view kOtherCounts[] = {
+    "Son 1 incógnitas y 3 ecuaciones.", "Son 2 incógnitas y 3 ecuaciones.",
+    "Son 4 incógnitas y 3 ecuaciones.", "Son 5 incógnitas y 3 ecuaciones.",
+    "Son 6 incógnitas y 3 ecuaciones."};
 constexpr std::string_view kNoRoots[] = {kNoRootsText};
 constexpr std::string_view kFitNotSolved[] = {kFitNotSolvedText};
 constexpr std::string_view kAtLimitOfTriangles[] = {kInconsistentText};
 constexpr std::string_view kNotTriangles[] = {kInconsistentText, kNoTriangleText, kThreeAnglesText};
 constexpr std::string_view kInLine[] = {kInLineText};
+constexpr std::string_view kNoBases[] = {kNoBaseText};
 
 constexpr ProblemKind kKinds[] = {
     {"numeric.systems", "systems of linear equations", 3000, PlaySystem, kDependent, 0.1},
@@ -43,6 +49,13 @@ constexpr ProblemKind kKinds[] = {
      0.05},
     {"numeric.polygons", "a polygon of its vertices", 2000, PlayPolygon},
 
+    {"forces.vector-texts", "a vector in any notation", 5000, PlayVectorText},
+    {"forces.vector-algebra", "sums, products, angles and turning of vectors", 3000, PlayVectorAlgebra},
+    {"forces.bases", "a vector by a base and by projections", 3000, PlayVectorBase, kNoBases, 0.2},
+    {"forces.plane", "coplanar forces, a couple or nothing", 3000, PlayPlaneForces},
+    {"forces.parallel", "parallel forces on a line and across a plane", 3000, PlayParallelForces},
+    {"forces.distributed", "a load along a beam", 2000, PlayDistributedLoad},
+
     {"particle.two-magnitudes", "two unknown magnitudes or components", 5000, PlayTwoMagnitudes,
      kLinearParticle, 0.3},
     {"particle.equilibrant", "one force unknown in magnitude and direction", 3000, PlayEquilibrant},
@@ -60,6 +73,8 @@ constexpr ProblemKind kKinds[] = {
     {"rigid.one-body", "a body on supports, rollers, ropes and couples", 5000, PlayHeldBody, kDependent, 0.3},
     {"rigid.badly-held", "a body that can move, or that more than one answer holds", 3000, PlayBadlyHeldBody,
      kDependent, 1},
+    {"rigid.upright", "upright forces, the equation along x left out", 3000, PlayUprightForces},
+    {"rigid.other-counts", "more unknowns than equations, or fewer", 2000, PlayOtherCounts, kOtherCounts, 1},
     {"rigid.structure", "one to four bodies and joints on hinges and ropes", 4000, PlayStructure, kDependent,
      0.3},
     {"rigid.truss-joints", "the joints of a truss", 3000, PlayTrussByJoints, kDependent, 0.3},

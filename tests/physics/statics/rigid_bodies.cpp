@@ -104,4 +104,33 @@ Verdict PlayBadlyHeldBody(Problem& problem) {
     return RefusedStructure(structure.Solve({{kBody, AnyPoint(chance, points)}}));
 }
 
+Verdict PlayUprightForces(Problem& problem) {
+    Chance& chance = problem.chance;
+    TypedStructure structure(problem);
+    structure.AddPointsInARow('A', 0, 2 + chance.Below(5));
+    const std::string& points = structure.Points();
+    const std::vector<std::string> symbols = Symbols(chance, 2);
+    structure.Add({kBody, points.front(), UnknownMagnitude(chance, symbols[0], 1, 90)});
+    if (chance.OneIn(3))
+        structure.Add({kBody, AnyPoint(chance, points), {}, UnknownCouple(chance, CoupleSymbol(chance))});
+    else
+        structure.Add({kBody, points.back(), UnknownMagnitude(chance, symbols[1], TypedFactor(chance), -90)});
+    for (const char point : points)
+        structure.Add({kBody, point, KnownForce(chance, chance.Size(1, 500), chance.OneIn(3) ? 90 : -90)});
+    // Nothing acts along x: its equation says nothing and is left out.
+    const StructureAnswers answers = structure.Solve({{kBody, AnyPoint(chance, points)}}, "1x");
+    return JudgedStructure(answers, true);
+}
+
+Verdict PlayOtherCounts(Problem& problem) {
+    Chance& chance = problem.chance;
+    TypedStructure structure = BodyOf(problem);
+    AddLoads(chance, structure, kBody, structure.Points());
+    const std::size_t count = chance.OneIn(2) ? 1 + chance.Below(2) : 4 + chance.Below(3);
+    for (const std::string& symbol : Symbols(chance, count))
+        structure.Add(
+            Rope(chance, kBody, AnyPoint(chance, structure.Points()), symbol, TypedDirection(chance)));
+    return RefusedStructure(structure.Solve({{kBody, AnyPoint(chance, structure.Points())}}));
+}
+
 }  // namespace tavrelo::physics

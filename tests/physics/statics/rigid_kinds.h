@@ -11,6 +11,10 @@ namespace tavrelo::physics {
 Verdict PlayHeldBody(Problem& problem);
 /// Held so that it can move or that more than one answer holds it.
 Verdict PlayBadlyHeldBody(Problem& problem);
+/// Upright forces alone: two unknowns, the equation along x left out.
+Verdict PlayUprightForces(Problem& problem);
+/// More unknowns than equations, or fewer.
+Verdict PlayOtherCounts(Problem& problem);
 
 // --- Several bodies (rigid_structures.cpp)
 /// Two to four bodies on hinges, ropes and joints, one held by the last.
