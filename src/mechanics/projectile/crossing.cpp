@@ -14,6 +14,9 @@ namespace {
 
 using numeric::Finite;
 
+/// Of a path length. A millionth is not enough: the first coarse results of the rule at times agree so far by
+/// chance, and the third decimal is false.
+constexpr double kLengthAccuracy = 1e-10;
 constexpr const char* kMissingTrajectory = "Me falta una de las ecuaciones de trayectoria.";
 constexpr const char* kOtherRoutine = "Maneja este caso con otra rutina.";
 constexpr const char* kNoCrossing = "Las trayectorias no se intersecan.";
@@ -120,7 +123,14 @@ std::optional<double> PathLength(const Flight& flight, double first_time, double
         const double slope = curve.b + 2.0 * curve.a * x;
         return std::sqrt(1.0 + slope * slope);
     };
-    return numeric::Integrate(element, StateAt(flight, first_time).x, StateAt(flight, second_time).x);
+    const auto [first, last] = std::minmax(StateAt(flight, first_time).x, StateAt(flight, second_time).x);
+    // At the top the slope changes its sign: the steeper the branches, the sharper is the bend of the element
+    // there, over which the rule loses its digits.
+    const double top = -flight.trajectory->b / (2.0 * flight.trajectory->a);
+    if (top <= first || top >= last)
+        return numeric::Integrate(element, first, last, kLengthAccuracy);
+    return numeric::Integrate(element, first, top, kLengthAccuracy) +
+           numeric::Integrate(element, top, last, kLengthAccuracy);
 }
 
 std::vector<std::string> PathReport(int mover, const Flight& flight, double first_time, double second_time,

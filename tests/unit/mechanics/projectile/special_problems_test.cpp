@@ -544,5 +544,15 @@ TEST(Interception, Refuses) {
               Lines{"Cambia el modo de datos de velocidad a \"md\"."});
 }
 
+// 11 across and 29.3 up fall to -63.8 in 9.5. With F(w) = (w sqrt(121 + w^2) + 121 arsinh(w/11))/19.6,
+// F(29.3) = (916.996 + 206.468)/19.6 = 57.320 and F(63.8) = (4130.497 + 297.461)/19.6 = 225.916: 283.236 in
+// all. The first coarse sums agree at 283.232 by chance.
+TEST(PathLength, DoesNotEndAtACoincidence) {
+    Desk desk;
+    desk.Column(1, {"1.5", "9.73139439106269", "3.5", "11", "-5"}).Components(1).Click(Procedure::Plant, 0);
+    desk.Column(2, {"-2"}).Column(3, {"7.5"}).Report();
+    EXPECT_EQ(desk.Interval({1, 1}, {1, 2}, false).Report().back(), "283.236");
+}
+
 }  // namespace
 }  // namespace tavrelo::mechanics::projectile
