@@ -4,6 +4,8 @@
 #include "motion/motion_kinds.h"
 #include "motion/motion_refusals.h"
 #include "numeric/numeric_kinds.h"
+#include "projectile/projectile_kinds.h"
+#include "projectile/projectile_refusals.h"
 #include "statics/particle_kinds.h"
 #include "statics/rigid_kinds.h"
 
@@ -113,6 +115,30 @@ constexpr ProblemKind kKinds[] = {
     {"motion.system", "systems for a speed and an acceleration", 5000, PlaySpeedSystem, kSystemRefusals, 0.9},
     {"motion.quadratic", "the quadratic equation", 3000, PlayQuadratic},
     {"motion.distance", "the way walked through stretches", 3000, PlayDistance},
+
+    {"projectile.point", "a point of a known throw from one datum", 5000, PlayThrownPoint,
+     kThrownPointRefusals, 0.3},
+    {"projectile.speed", "the unknown speed of a launch from every pair of data", 8000, PlayLaunchSpeed,
+     kLaunchSpeedRefusals, 0.5},
+    {"projectile.angle", "the unknown angle of a launch from every pair of data", 8000, PlayLaunchAngle,
+     kLaunchAngleRefusals, 0.5},
+    {"projectile.horizontal", "the unknown horizontal component of a launch", 8000, PlayHorizontalSpeed,
+     kHorizontalSpeedRefusals, 0.5},
+    {"projectile.vertical", "the unknown vertical component of a launch", 8000, PlayVerticalSpeed,
+     kVerticalSpeedRefusals, 0.5},
+    {"projectile.launch", "the equations of a launch and its reach", 4000, PlayLaunch},
+    {"projectile.whole-flight", "a launch from three places, from range and height, from time and range",
+     4000, PlayWholeFlight, kWholeFlightRefusals, 0.5},
+    {"projectile.two-points", "a launch of unknown speed and angle from two points", 5000,
+     PlayTwoThrownPoints, kTwoThrownPointsRefusals, 0.5},
+    {"projectile.incline", "where a throw meets a slope", 4000, PlayIncline, kInclineRefusals, 0.5},
+    {"projectile.crossing", "where two trajectories cross, and whether the movers collide", 4000,
+     PlayCrossing, kCrossingRefusals, 0.5},
+    {"projectile.path", "the length of a path", 1000, PlayPath, kPathRefusals, 0.5},
+    {"projectile.collision", "a launch that meets another throw", 4000, PlayCollision, kCollisionRefusals,
+     0.5},
+    {"projectile.interception", "a launch that meets an object on the ground", 4000, PlayInterception,
+     kInterceptionRefusals, 0.5},
 };
 
 }  // namespace
