@@ -1,6 +1,7 @@
 #include "kinds.h"
 
 #include "forces/force_kinds.h"
+#include "kinematics/kinematics_kinds.h"
 #include "motion/motion_kinds.h"
 #include "motion/motion_refusals.h"
 #include "numeric/numeric_kinds.h"
@@ -30,6 +31,9 @@ constexpr std::string_view kAtLimitOfTriangles[] = {kInconsistentText};
 constexpr std::string_view kNotTriangles[] = {kInconsistentText, kNoTriangleText, kThreeAnglesText};
 constexpr std::string_view kInLine[] = {kInLineText};
 constexpr std::string_view kNoBases[] = {kNoBaseText};
+
+constexpr std::string_view kCommandFailed[] = {"Error en el comando."};
+constexpr std::string_view kTooManySteps[] = {"Demasiados pasos en la rutina ODEInt."};
 
 constexpr ProblemKind kKinds[] = {
     {"numeric.systems", "systems of linear equations", 3000, PlaySystem, kDependent, 0.1},
@@ -92,53 +96,64 @@ constexpr ProblemKind kKinds[] = {
     {"rigid.body-on-a-rope", "a rope over a pulley on a body", 3000, PlayBodyOnARope, kAngleOfBody, 0.3},
 
     {"motion.point", "a point of a known motion from its time, place or speed", 4000, PlayPoint,
-     kPointRefusals, 0.2},
+     kPointRefusals, 0.1},
     {"motion.interval", "an interval of a known motion from two relations between its ends", 6000,
-     PlayInterval, kIntervalRefusals, 0.4},
+     PlayInterval, kIntervalRefusals, 0.15},
     {"motion.speed", "the unknown speed of a base from every set of data", 8000, PlayUnknownSpeed,
-     kSpeedRefusals, 0.5},
+     kSpeedRefusals, 0.3},
     {"motion.acceleration", "the unknown acceleration from every set of data", 8000, PlayUnknownAcceleration,
-     kAccelerationRefusals, 0.5},
+     kAccelerationRefusals, 0.25},
     {"motion.both", "what every set of data states of an unknown speed and acceleration", 4000,
-     PlayBothUnknown, kBothRefusals, 0.9},
+     PlayBothUnknown, kBothRefusals, 0.1},
     {"motion.two-points", "an unknown speed and acceleration from two sets of data, solved as a system", 4000,
-     PlayTwoPoints, kTwoPointsRefusals, 0.9},
+     PlayTwoPoints, kTwoPointsRefusals, 0.25},
     {"motion.interval-line", "the interval equations with every three or four data", 10000, PlayIntervalLine,
-     kIntervalLineRefusals, 0.9},
+     kIntervalLineRefusals, 0.3},
     {"motion.three-points", "the motion through three points", 3000, PlayThreePoints, kThreePointsRefusals,
-     0.9},
-    {"motion.link", "two stretches with one datum missing", 5000, PlayLink, kLinkRefusals, 0.9},
+     0.1},
+    {"motion.link", "two stretches with one datum missing", 5000, PlayLink, kLinkRefusals, 0.1},
     {"motion.meeting", "when two movers have a difference or a ratio of places or speeds", 5000, PlayMeeting,
-     kMeetingRefusals, 0.9},
+     kMeetingRefusals, 0.3},
     {"motion.ratios", "what a mover lacks to have two ratios to another", 5000, PlayRatios, kRatioRefusals,
-     0.9},
-    {"motion.system", "systems for a speed and an acceleration", 5000, PlaySpeedSystem, kSystemRefusals, 0.9},
+     0.05},
+    {"motion.system", "systems for a speed and an acceleration", 5000, PlaySpeedSystem, kSystemRefusals, 0.2},
     {"motion.quadratic", "the quadratic equation", 3000, PlayQuadratic},
     {"motion.distance", "the way walked through stretches", 3000, PlayDistance},
 
     {"projectile.point", "a point of a known throw from one datum", 5000, PlayThrownPoint,
-     kThrownPointRefusals, 0.3},
+     kThrownPointRefusals, 0.1},
     {"projectile.speed", "the unknown speed of a launch from every pair of data", 8000, PlayLaunchSpeed,
-     kLaunchSpeedRefusals, 0.5},
+     kLaunchSpeedRefusals, 0.25},
     {"projectile.angle", "the unknown angle of a launch from every pair of data", 8000, PlayLaunchAngle,
-     kLaunchAngleRefusals, 0.5},
+     kLaunchAngleRefusals, 0.35},
     {"projectile.horizontal", "the unknown horizontal component of a launch", 8000, PlayHorizontalSpeed,
-     kHorizontalSpeedRefusals, 0.5},
+     kHorizontalSpeedRefusals, 0.3},
     {"projectile.vertical", "the unknown vertical component of a launch", 8000, PlayVerticalSpeed,
-     kVerticalSpeedRefusals, 0.5},
+     kVerticalSpeedRefusals, 0.25},
     {"projectile.launch", "the equations of a launch and its reach", 4000, PlayLaunch},
     {"projectile.whole-flight", "a launch from three places, from range and height, from time and range",
-     4000, PlayWholeFlight, kWholeFlightRefusals, 0.5},
+     4000, PlayWholeFlight, kWholeFlightRefusals, 0.25},
     {"projectile.two-points", "a launch of unknown speed and angle from two points", 5000,
-     PlayTwoThrownPoints, kTwoThrownPointsRefusals, 0.5},
-    {"projectile.incline", "where a throw meets a slope", 4000, PlayIncline, kInclineRefusals, 0.5},
+     PlayTwoThrownPoints, kTwoThrownPointsRefusals, 0.05},
+    {"projectile.incline", "where a throw meets a slope", 4000, PlayIncline, kInclineRefusals, 0.25},
     {"projectile.crossing", "where two trajectories cross, and whether the movers collide", 4000,
-     PlayCrossing, kCrossingRefusals, 0.5},
-    {"projectile.path", "the length of a path", 1000, PlayPath, kPathRefusals, 0.5},
+     PlayCrossing, kCrossingRefusals, 0.3},
+    {"projectile.path", "the length of a path", 1000, PlayPath, kPathRefusals, 0.05},
     {"projectile.collision", "a launch that meets another throw", 4000, PlayCollision, kCollisionRefusals,
-     0.5},
+     0.3},
     {"projectile.interception", "a launch that meets an object on the ground", 4000, PlayInterception,
-     kInterceptionRefusals, 0.5},
+     kInterceptionRefusals, 0.2},
+
+    {"kinematics.position", "x, v and a of a given position", 3000, PlayGivenPosition, kCommandFailed, 0.1},
+    {"kinematics.velocity", "x and v of a given velocity", 1500, PlayGivenVelocity, kTooManySteps, 0.02},
+    {"kinematics.acceleration", "x, v and a of a given acceleration", 1500, PlayGivenAcceleration,
+     kTooManySteps, 0.02},
+    {"kinematics.plane", "velocity and acceleration of x(t), y(t)", 2000, PlayPlaneMotion, kCommandFailed,
+     0.1},
+    {"kinematics.polar", "velocity and acceleration of r(t), theta(t)", 2000, PlayPolarMotion, kCommandFailed,
+     0.1},
+    {"kinematics.curves", "the curves of a motion along a line", 150, PlayLineCurves, kTooManySteps, 0.02},
+    {"kinematics.trajectory", "the trajectory of a motion in the plane", 500, PlayTrajectory},
 };
 
 }  // namespace
