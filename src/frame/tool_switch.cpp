@@ -164,6 +164,7 @@ void ToolSwitch::Enter(window::Tool tool) {
         KeepPictures();
     m_form.publics.CurrentTool = tool;
     m_form.publics.HelpTool = static_cast<int>(tool) + 1;
+    m_controls.ThisWindow.SetSubtitle(std::string(kButtons[IndexOf(tool)].tooltip));
     if (OnFillTopics)
         OnFillTopics(m_form.publics.HelpTool);
     m_controls.txtArgHelp.SetContent({});

@@ -27,16 +27,27 @@ constexpr std::string_view kRaised[] = {"picArgs", "fraHelp"};
 
 MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
     : m_context{form, artwork},
+      m_dialog_context{form, artwork},
       m_main(form.Get<window::Window>("Form1"), nullptr, Qt::Window),
-      m_dialog(form.Get<window::Window>("Form2"), &m_main, Qt::Dialog) {
+      m_dialog(form.Get<window::Window>("Form2"), &m_main, Qt::Dialog),
+      m_bar(m_main) {
     for (window::Control* control : form.Controls())
         if (control->Kind() != window::ControlKind::Window)
             m_unmade.push_back(control);
-    m_main.setMinimumSize(m_main.SizeAt(kSmallestZoom));
+    m_main.SetBar(m_bar);
+    m_main.setMinimumSize(m_main.SizeAt(kSmallestZoom) + QSize(0, BarHeight(kSmallestZoom)));
     m_main.setWindowIcon(QIcon(artwork.Piece("tavrelo", QRectF(0, 0, 64, 64), 1, 1)));
     MakeShortcuts();
-    SetZoom(FirstZoom(m_main.SizeAt(1), m_main.screen()->availableSize()));
-    m_main.OnResize = [this] { ApplyZoom(m_main.ZoomFitting(m_main.size())); };
+    SetZoom(FirstZoom(m_main.OwnSize(), m_main.Room().size()));
+    m_main.OnResize = [this] { FollowFrame(); };
+    m_main.OnWindowState = [this] { m_asked_size = QSize(); };
+    m_bar.OnZoom = [this](double zoom) { SetZoom(zoom); };
+    m_bar.OnFit = [this] { FitToFrame(); };
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        // What is under a pressed button must not move away.
+        if (now && QApplication::mouseButtons() == Qt::NoButton)
+            m_main.BringIntoView(*now);
+    });
     form.OnChange = [this](window::Control& control, window::Change change) { OnChange(control, change); };
     form.OnRaise = [this](window::Window&) {
         m_dialog.raise();
@@ -47,6 +58,7 @@ MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
 
 MainWindow::~MainWindow() {
     m_main.OnResize = nullptr;
+    m_main.OnWindowState = nullptr;
     m_context.form.OnChange = nullptr;
     m_context.form.OnRaise = nullptr;
 }
@@ -76,7 +88,7 @@ Binding& MainWindow::BindingOf(window::Control& control) {
     if (const auto found = m_bindings.find(&control); found != m_bindings.end())
         return *found->second;
     QWidget& parent = ParentWidgetOf(control);
-    Binding& binding = *(m_bindings[&control] = NewBinding(control, parent, m_context));
+    Binding& binding = *(m_bindings[&control] = NewBinding(control, parent, ContextOf(control)));
     m_by_widget[&binding.Widget()] = &binding;
     std::erase(m_unmade, &control);
     binding.RefreshAll();
@@ -99,6 +111,7 @@ void MainWindow::Stack(const window::Control& control, QWidget& widget) {
 
 void MainWindow::OrderTabs() {
     QWidget* previous = nullptr;
+    QWidget* last_of_page = nullptr;
     for (window::Control* control : m_context.form.Controls()) {
         const auto made = m_bindings.find(control);
         if (made == m_bindings.end() || made->second->Widget().focusPolicy() == Qt::NoFocus)
@@ -106,7 +119,10 @@ void MainWindow::OrderTabs() {
         if (previous && previous->window() == made->second->Widget().window())
             QWidget::setTabOrder(previous, &made->second->Widget());
         previous = &made->second->Widget();
+        if (previous->window() == &m_main)
+            last_of_page = previous;
     }
+    m_bar.FollowByTab(last_of_page);
 }
 
 void MainWindow::MakeShortcuts() {
@@ -114,9 +130,10 @@ void MainWindow::MakeShortcuts() {
         auto* shortcut = new QShortcut(keys, &m_main);
         connect(shortcut, &QShortcut::activated, this, action);
     };
-    add(QKeySequence(Qt::CTRL | Qt::Key_Plus), [this] { StepZoom(+1); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_Equal), [this] { StepZoom(+1); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this] { StepZoom(-1); });
+    const auto middle = [this] { return QRectF(m_main.rect()).center(); };
+    add(QKeySequence(Qt::CTRL | Qt::Key_Plus), [this, middle] { StepZoom(+1, middle()); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Equal), [this, middle] { StepZoom(+1, middle()); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this, middle] { StepZoom(-1, middle()); });
     add(QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); });
 }
 
@@ -208,9 +225,47 @@ void MainWindow::DropLostFocus() {
     }
 }
 
+double MainWindow::ZoomOf(const QWidget& widget) const {
+    return widget.window() == &m_dialog ? m_dialog_context.zoom : m_context.zoom;
+}
+
+ViewContext& MainWindow::ContextOf(const window::Control& control) {
+    const window::Control* window = &control;
+    while (window->Parent())
+        window = window->Parent();
+    return window == m_context.form.Find("Form2") ? m_dialog_context : m_context;
+}
+
 void MainWindow::SetZoom(double zoom) {
+    constexpr int kAnswerMilliseconds = 300;
     ApplyZoom(zoom);
-    m_main.resize(m_main.SizeAt(m_context.zoom));
+    if (m_main.isMaximized() || m_main.isFullScreen())
+        return;
+    m_answer_time.setRemainingTime(kAnswerMilliseconds);
+    m_asked_size = m_main.SizeFor(m_context.zoom);
+    m_main.ResizeFor(m_context.zoom);
+}
+
+void MainWindow::FitToFrame() { ApplyZoom(FittingZoom(m_main.OwnSize(), m_main.size())); }
+
+void MainWindow::FollowFrame() {
+    if (m_main.size() == m_asked_size)
+        return;
+    const bool is_smaller = m_main.size().boundedTo(m_asked_size) == m_main.size();
+    if (is_smaller && !m_answer_time.hasExpired())
+        return;
+    m_asked_size = QSize();
+    FitToFrame();
+}
+
+void MainWindow::ShowDialogZoom(double zoom) {
+    constexpr double kLargestShare = 0.9;
+    const QSizeF own = m_dialog.OwnSize();
+    const QSizeF room = QSizeF(m_main.Room().size()) * kLargestShare;
+    const double largest = std::min(room.width() / own.width(), room.height() / own.height());
+    m_dialog_context.zoom = std::min(zoom, largest);
+    m_dialog.ShowZoom(m_dialog_context.zoom);
+    m_dialog.setFixedSize(m_dialog.SizeAt(m_dialog_context.zoom));
 }
 
 void MainWindow::ApplyZoom(double zoom) {
@@ -220,15 +275,19 @@ void MainWindow::ApplyZoom(double zoom) {
     if (is_same_size && m_main.Page().size() == m_main.SizeAt(zoom))
         return;
     m_context.zoom = zoom;
-    QToolTip::setFont(InterfaceFont(zoom));
     m_main.ShowZoom(zoom);
-    m_dialog.ShowZoom(zoom);
-    m_dialog.setFixedSize(m_dialog.SizeAt(zoom));
+    ShowDialogZoom(zoom);
+    m_bar.ShowZoom(zoom);
+    QToolTip::setFont(InterfaceFont(m_dialog_context.zoom));
     for (const auto& [control, binding] : m_bindings)
         binding->RefreshAll();
 }
 
-void MainWindow::StepZoom(int steps) { SetZoom(SteppedZoom(m_context.zoom, steps)); }
+void MainWindow::StepZoom(int steps, const QPointF& place) {
+    const FormWindow::Anchor anchor = m_main.AnchorAt(place);
+    SetZoom(SteppedZoom(m_context.zoom, steps));
+    m_main.ScrollTo(anchor);
+}
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Wheel)
@@ -242,7 +301,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     const int steps = m_wheel_turn / kWheelStep;
     m_wheel_turn -= steps * kWheelStep;
     if (steps != 0)
-        StepZoom(steps);
+        StepZoom(steps, m_main.mapFromGlobal(wheel->globalPosition()));
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QObject>
 #include <memory>
 #include <unordered_map>
@@ -7,6 +8,7 @@
 
 #include "qt/binding.h"
 #include "qt/form_window.h"
+#include "qt/zoom_bar.h"
 
 namespace tavrelo::qt {
 
@@ -22,16 +24,24 @@ class MainWindow : public QObject {
     void Show();
 
     /// The program's window.
-    QWidget& Frame() { return m_main; }
+    FormWindow& Frame() { return m_main; }
+    /// What stands below the page.
+    ZoomBar& Bar() { return m_bar; }
     /// The widget that shows a control of the form, or its window.
     QWidget& WidgetOf(window::Control& control);
     /// The control with the keyboard focus, or the one that has it when the program's window is active; or
     /// null.
     window::Control* FocusedControl() const;
 
+    /// The zoom of the program's page.
     double Zoom() const { return m_context.zoom; }
-    /// Scales both windows, contents and all, between kSmallestZoom and kLargestZoom.
+    /// The zoom of the page on which a widget stands.
+    double ZoomOf(const QWidget& widget) const;
+    /// Scales both pages, between kSmallestZoom and kLargestZoom. The window grows or shrinks with its page
+    /// as far as the screen holds it; a maximised one stays as it is. What it does not hold is scrolled.
     void SetZoom(double zoom);
+    /// Scales the page to the largest zoom that the window holds whole.
+    void FitToFrame();
 
   protected:
     /// Ctrl with the wheel zooms, whatever is below the pointer.
@@ -60,11 +70,19 @@ class MainWindow : public QObject {
     Binding* BindingOf(const QWidget* widget) const;
 
     void ApplyZoom(double zoom);
-    void StepZoom(int steps);
+    /// Zooms around a place of the window.
+    void StepZoom(int steps, const QPointF& place);
+    /// The frame has another size: by the user, by the desktop, or by SetZoom.
+    void FollowFrame();
+    /// The dialog goes with the page but is never larger than the screen.
+    void ShowDialogZoom(double zoom);
+    ViewContext& ContextOf(const window::Control& control);
 
     ViewContext m_context;
+    ViewContext m_dialog_context;
     FormWindow m_main;
     FormWindow m_dialog;
+    ZoomBar m_bar;
     std::vector<window::Control*> m_unmade;  // controls that were not in view yet
     std::unordered_map<const window::Control*, std::unique_ptr<Binding>> m_bindings;
     std::unordered_map<const QWidget*, Binding*> m_by_widget;
@@ -73,7 +91,9 @@ class MainWindow : public QObject {
         window::Change change;  // a content is shown with its selection
     };
     std::vector<LateChange> m_late;
-    int m_wheel_turn = 0;  // eighths of a degree that make no whole step yet
+    int m_wheel_turn = 0;          // eighths of a degree that make no whole step yet
+    QSize m_asked_size;            // that the frame was given by SetZoom; null when another one followed
+    QDeadlineTimer m_answer_time;  // until then a smaller frame is the desktop's answer to SetZoom
 };
 
 }  // namespace tavrelo::qt

@@ -41,9 +41,15 @@ class Handler<Result(Args...)> {
 class Window : public Control {
   public:
     using Control::Control;
+    /// What the title bar says behind the caption, such as the tool in use; empty for nothing.
+    const std::string& Subtitle() const { return m_subtitle; }
+    void SetSubtitle(std::string subtitle) { Set(m_subtitle, std::move(subtitle)); }
     /// The user closed it by its frame.
     void UserClose();
     Handler<void()> OnClose;
+
+  private:
+    std::string m_subtitle;
 };
 
 class Frame : public Control {

@@ -100,9 +100,10 @@ text::Color ForeColorOf(QWidget& widget) {
 }  // namespace
 
 window::Rect RealWindow::BoundsOf(QWidget& widget) {
-    const auto unscaled = [zoom = m_window.Zoom()](int pixels) { return qRound(pixels / zoom); };
+    const auto unscaled = [zoom = m_window.ZoomOf(widget)](int pixels) { return qRound(pixels / zoom); };
     // A window's place on the desktop is not the program's; its page is as large as the program says.
-    const QRect place = widget.isWindow() ? QRect(QPoint(), widget.childrenRect().size()) : widget.geometry();
+    auto* window = dynamic_cast<qt::FormWindow*>(&widget);
+    const QRect place = window ? QRect(QPoint(), window->Page().size()) : widget.geometry();
     const int left = unscaled(place.left());
     const int top = unscaled(place.top());
     return {left, top, unscaled(place.left() + place.width()) - left,
@@ -123,7 +124,7 @@ Appearance RealWindow::Look(const window::Control& control) {
         look.caption = ToUtf8(qt::FromCaption(button->text()));
     else if (const auto* label = qobject_cast<const QLabel*>(&widget))
         look.caption = ToUtf8(label->text());
-    else if (widget.isWindow())
+    else if (widget.windowType() == Qt::Dialog)
         look.caption = ToUtf8(widget.windowTitle());
     return look;
 }

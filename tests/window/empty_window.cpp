@@ -11,7 +11,8 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QWidget window;
     const QSizeF page(window::kForm1Bounds.width, window::kForm1Bounds.height);
-    window.resize((page * qt::FirstZoom(page, window.screen()->availableSize())).toSize());
+    const QSize screen = window.screen()->availableSize();
+    window.resize(qt::FrameSize(page, qt::FirstZoom(page, screen), screen, 0));
     if (QCoreApplication::arguments().contains(QLatin1String(qt::kQuitAfterPaint)))
         new qt::QuitAfterPaint(window);
     window.show();

@@ -18,6 +18,27 @@ class ZoomTest : public QObject {
     void FollowsTheFrame();
 };
 
+class ScreenTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void MaximisingScalesThePageEvenly_data();
+    void MaximisingScalesThePageEvenly();
+    void GrowsOnlyAsFarAsTheScreenHolds_data();
+    void GrowsOnlyAsFarAsTheScreenHolds();
+    void EverythingIsReachedByScrolling_data();
+    void EverythingIsReachedByScrolling();
+    void AMaximisedWindowStaysAsLargeAsItIs();
+    void ZoomingBackShowsThePageWhole();
+    void TheFocusIsScrolledIntoView();
+    void ThePlaceUnderThePointerStays();
+    void ThePercentageIsShownAndOpensAMenu();
+    void TheDialogStaysOnTheScreen_data();
+    void TheDialogStaysOnTheScreen();
+    void BoxesStayOnTheScreen_data();
+    void BoxesStayOnTheScreen();
+    void TheTitleNamesTheTool();
+};
+
 class FocusTest : public QObject {
     Q_OBJECT
   private slots:
