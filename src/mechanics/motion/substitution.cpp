@@ -7,6 +7,7 @@
 #include "mechanics/motion/holding.h"
 #include "mechanics/motion/interval_cases.h"
 #include "numeric/checked.h"
+#include "numeric/real_roots.h"
 
 namespace tavrelo::mechanics::motion {
 namespace {
@@ -104,7 +105,9 @@ std::size_t FutureRoot(const std::vector<double>& times) {
 
 Step SubstitutePosition(const Click& click, double x) {
     const Motion& motion = click.motion;
-    Candidates times = CandidatesOf(numeric::RealRoots(0.5 * motion.a, motion.v0, motion.x0 - x));
+    // A place copied with all its digits from where the mover rests must not lie beyond it by rounding.
+    const double away = numeric::CleanDifference(motion.x0, x);
+    Candidates times = CandidatesOf(numeric::RealRoots(0.5 * motion.a, motion.v0, away));
     std::erase_if(times, [&](double t) {
         return !TermsCancel({0.5 * motion.a * t * t, motion.v0 * t, motion.x0, -x});
     });

@@ -116,6 +116,16 @@ TEST(SubstitutePoint, CompletesThePoint) {
     }
 }
 
+// From rest at 5.18424585385669 with -1.3 it never goes beyond; the last digit of the copied place is
+// rounding.
+TEST(SubstitutePoint, ReachesTheTurningPlaceInSpiteOfRounding) {
+    const Problem planted = PlantedOnOrigin({"0", "5.18424585385669", "0"}, "-1.3");
+    const Step step = Click(planted, 3, {"", "5.1842458538567", ""});
+    ASSERT_EQ(RefusalOf(step), "");
+    EXPECT_EQ(ShownAt(After(step), points::kTimeRow, 4), "0");
+    EXPECT_EQ(ShownAt(After(step), points::kSpeedRow, 4), "0");
+}
+
 TEST(SubstitutePoint, StoresAllDigits) {
     const Problem after = After(Click(PlantedOnOrigin({"0", "0", "0"}, "3"), 1, {"", "", "10"}));
     EXPECT_EQ(after.table.Stored(points::kTimeRow, 2), text::Value(10.0 / 3.0));
