@@ -97,6 +97,7 @@ constexpr ProblemKind kKinds[] = {
 
     {"motion.point", "a point of a known motion from its time, place or speed", 4000, PlayPoint,
      kPointRefusals, 0.1},
+    {"motion.turn", "the moment of the opposite speed", 2000, PlayTurn, kTurnRefusals, 0.1},
     {"motion.interval", "an interval of a known motion from two relations between its ends", 6000,
      PlayInterval, kIntervalRefusals, 0.15},
     {"motion.speed", "the unknown speed of a base from every set of data", 8000, PlayUnknownSpeed,
@@ -122,6 +123,7 @@ constexpr ProblemKind kKinds[] = {
 
     {"projectile.point", "a point of a known throw from one datum", 5000, PlayThrownPoint,
      kThrownPointRefusals, 0.1},
+    {"projectile.other-side", "the same height on the other side of the top", 3000, PlayOtherSide},
     {"projectile.speed", "the unknown speed of a launch from every pair of data", 8000, PlayLaunchSpeed,
      kLaunchSpeedRefusals, 0.25},
     {"projectile.angle", "the unknown angle of a launch from every pair of data", 8000, PlayLaunchAngle,

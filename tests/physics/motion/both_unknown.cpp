@@ -1,6 +1,9 @@
 // Equations whose base speed and acceleration are both unknown: what each set of data states, and two such
 // statements solved as a system.
 
+#include <algorithm>
+#include <cmath>
+
 #include "motion/motion_kinds.h"
 #include "motion/motion_sheet.h"
 #include "motion/parameter_sets.h"
@@ -59,6 +62,15 @@ Verdict JudgeOffer(const motion::Step& step, const KnownInterval& source) {
                : Wrong("a = " + Digits(offers.front().a) + " is offered");
 }
 
+/// The largest factor among the data, at least 1: by its square it enlarges the rounding of the others.
+double LargestFactor(const TypedInterval& typed) {
+    double largest = 1;
+    for (const TypedDatum& datum : {typed.end.t, typed.end.x, typed.end.v})
+        if (datum.form == Form::Factor)
+            largest = std::max(largest, std::abs(datum.value));
+    return largest;
+}
+
 /// What a set of data says of both unknowns: an equation, or that they are open, or the message.
 struct Statement {
     std::optional<StatedEquation> equation;
@@ -91,7 +103,8 @@ Verdict PlayBothUnknown(Problem& problem) {
     if (!equation)
         return Refused(text);
     const Sum sum = equation->For(source.motion.vn, source.motion.a);
-    if (!Holds(sum, source.ScaleOfX() * (1 + source.ScaleOfX())))
+    const double factor = LargestFactor(typed);
+    if (!Holds(sum, factor * factor * source.ScaleOfX() * (1 + source.ScaleOfX())))
         return Wrong(text + " leaves " + sum.Told());
     return JudgeOffer(step, source);
 }

@@ -7,6 +7,8 @@ namespace tavrelo::physics {
 // Uniformly accelerated motion along a line.
 Verdict PlayPoint(Problem& problem);
 Verdict PlayInterval(Problem& problem);
+/// The moment of the opposite speed.
+Verdict PlayTurn(Problem& problem);
 Verdict PlayUnknownSpeed(Problem& problem);
 Verdict PlayUnknownAcceleration(Problem& problem);
 Verdict PlayBothUnknown(Problem& problem);

@@ -10,6 +10,10 @@ inline constexpr std::string_view kPointRefusals[] = {
     "Dato no aplicable al movimiento uniforme.",
 };
 
+inline constexpr std::string_view kTurnRefusals[] = {
+    "Dato no aplicable al movimiento uniforme.",
+};
+
 inline constexpr std::string_view kIntervalRefusals[] = {
     "Esta rutina no se aplica cuando la aceleración es cero.",
     "Estás poniendo dt = 0.",

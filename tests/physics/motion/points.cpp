@@ -135,4 +135,31 @@ Verdict PlayPoint(Problem& problem) { return PlayRows(problem, kPointRows); }
 
 Verdict PlayInterval(Problem& problem) { return PlayRows(problem, kIntervalRows); }
 
+Verdict PlayTurn(Problem& problem) {
+    Chance& chance = problem.chance;
+    const KnownInterval known = AnyInterval(chance);
+    const KnownMotion& law = known.motion;
+    MotionSheet sheet(problem);
+    sheet.TypeAcceleration(1, 1, Significant(law.a, 15).text);
+    sheet.TypeBase(1, kBase, law, true);
+    sheet.Plant({1, 1, kBase});
+    const int point = chance.Between(1, 8);
+    constexpr DataForms kPlaceAndSpeed = {"x, v", N, N, N, N, V, V};
+    const TypedInterval typed = TypeInterval(kPlaceAndSpeed, known, point, Precision::AllDigits, chance);
+    sheet.TypeColumn(1, point, typed.end);
+    const auto step = motion::TurnSpeed(sheet.TheMotion(), {1, 1, point}, kManyDecimals);
+    if (!step)
+        return Wrong("a point with a speed is not turned");
+    if (const std::string* message = MessageOf(*step))
+        return law.a == 0 ? Refused(*message) : Wrong("refused: " + *message);
+    const motion::Problem& after = std::get<motion::Outcome>(*step).problem;
+    const int column = points::ColumnOfPoint(after.configuration, 1, point);
+    const double t = after.table.Stored(points::kTimeRow, column).Number();
+    const double v = after.table.Stored(points::kSpeedRow, column).Number();
+    if (v != -typed.end.v.value)
+        return Wrong("the speed is " + Digits(v));
+    const std::string why = WhyNoPoint(law, {point, t, typed.end.x.value, v});
+    return why.empty() ? Right() : Wrong(why);
+}
+
 }  // namespace tavrelo::physics

@@ -6,6 +6,8 @@ namespace tavrelo::physics {
 
 // Throws without drag.
 Verdict PlayThrownPoint(Problem& problem);
+/// The same height on the other side of the top, and the mode of the speed data.
+Verdict PlayOtherSide(Problem& problem);
 Verdict PlayLaunchSpeed(Problem& problem);
 Verdict PlayLaunchAngle(Problem& problem);
 Verdict PlayHorizontalSpeed(Problem& problem);

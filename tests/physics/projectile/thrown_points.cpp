@@ -158,4 +158,46 @@ Verdict PlayThrownPoint(Problem& problem) {
     return is_found || !must_be_found ? Right() : Wrong("the time is not found again");
 }
 
+namespace {
+
+/// A whole point of a throw in the form of its launch.
+std::vector<std::string> WholePoint(const KnownThrow& law, double t, SpeedForm form) {
+    const double places = law.ScaleOfPlace(t), speeds = law.ScaleOfSpeed(t);
+    const bool is_polar = form == SpeedForm::Polar;
+    return {AllDigits(t, std::abs(t)).text, AllDigits(law.X(t), places).text,
+            AllDigits(law.Y(t), places).text, AllDigits(is_polar ? law.Speed(t) : law.vx, speeds).text,
+            is_polar ? AllDigits(law.Angle(t), 180).text : AllDigits(law.Vy(t), speeds).text};
+}
+
+}  // namespace
+
+Verdict PlayOtherSide(Problem& problem) {
+    Chance& chance = problem.chance;
+    SpeedForm form = chance.OneIn(2) ? SpeedForm::Polar : SpeedForm::Components;
+    const KnownThrow law = AnyThrow(chance, form).law;
+    const double t = Significant(law.t0 + BookNumber(chance, 6), 15).value;
+    ProjectileSheet sheet(problem);
+    sheet.TypeCells(1, kPoint, form, WholePoint(law, t, form));
+    projectile::Problem table = sheet.TheProjectile();
+    const bool is_toggled = chance.OneIn(2);
+    if (is_toggled) {
+        const auto toggled =
+            projectile::WithModeToggled(table, table.ColumnOf(1, kPoint), ProjectileSheet::kDecimals);
+        if (const auto* refusal = std::get_if<text::Refusal>(&toggled))
+            return Wrong("refused: " + refusal->text);
+        table = std::get<projectile::Problem>(toggled);
+        form = form == SpeedForm::Polar ? SpeedForm::Components : SpeedForm::Polar;
+        if (const std::string why = WhyNoPoint(law, PointInTable(table, kPoint), form); !why.empty())
+            return Wrong("in the other mode " + why);
+    }
+    const auto moved = projectile::WithOtherSide(table, {1, kPoint}, ProjectileSheet::kDecimals);
+    if (const auto* refusal = std::get_if<text::Refusal>(&moved))
+        return Wrong("refused: " + refusal->text);
+    const FoundPoint found = PointInTable(std::get<projectile::Problem>(moved), kPoint);
+    if (const std::string why = WhyNoPoint(law, found, form); !why.empty())
+        return Wrong(why);
+    return Holds(SumOf({found.y, -law.Y(t)}), law.ScaleOfPlace(found.t)) ? Right()
+                                                                         : Wrong("it is at another height");
+}
+
 }  // namespace tavrelo::physics
