@@ -17,7 +17,6 @@ struct DataForms {
     Form t, x, v;
 
     bool HasTwoPoints() const;
-    bool HasFactorOf(Form DataForms::*quantity) const { return this->*quantity == Form::Factor; }
 };
 
 /// What a column says: the texts of its cells, and their values as they were typed.

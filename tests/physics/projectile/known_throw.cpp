@@ -9,7 +9,7 @@
 namespace tavrelo::physics {
 namespace {
 
-constexpr double kGravity = 9.8;
+constexpr double kPartOfDoubleRoot = 1e-4;
 // The numbers of a launch are kept with twelve decimals.
 constexpr double kLeastScale = 10;
 
@@ -63,6 +63,19 @@ double BookAngle(Chance& chance) {
         default:
             return Rounded(chance.Between(-80.0, 170.0), chance.Between(0, 1)).value;
     }
+}
+
+TypedThrow PolarThrow(const KnownThrow& start, double vx, double vy) {
+    TypedThrow each = {start, SpeedForm::Polar, Significant(std::hypot(vx, vy), 15),
+                       Significant(std::atan2(vy, vx) * 180 / std::numbers::pi, 15)};
+    each.law = ThrowFrom(start, SpeedForm::Polar, each.first.value, each.second.value);
+    return each;
+}
+
+bool IsSameLaunch(const KnownThrow& found, const KnownThrow& known) {
+    const double scale = known.ScaleOfSpeed(known.t0);
+    return Agree(found.vx, known.vx, kPartOfDoubleRoot, scale) &&
+           Agree(found.vy, known.vy, kPartOfDoubleRoot, scale);
 }
 
 TypedThrow InSize(const TypedThrow& plain, double length) {

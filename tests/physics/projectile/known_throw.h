@@ -10,6 +10,9 @@
 
 namespace tavrelo::physics {
 
+/// Of free fall, in metres and seconds.
+inline constexpr double kGravity = 9.8;
+
 /// A throw without drag: the law with which the generators reckon. Angles are in degrees.
 struct KnownThrow {
     double t0 = 0;
@@ -44,6 +47,10 @@ struct TypedThrow {
 
 /// A launch as in a book, to either side, up or down, now and then level or upright; half of them at t = 0.
 TypedThrow AnyThrow(Chance& chance, SpeedForm form);
+/// A launch by speed and angle that has this velocity.
+TypedThrow PolarThrow(const KnownThrow& start, double vx, double vy);
+/// Whether a launch found has the velocity of a known one, but for what a double root leaves.
+bool IsSameLaunch(const KnownThrow& found, const KnownThrow& known);
 /// The same throw in a world of another size, in which lengths are `length` times as long.
 TypedThrow InSize(const TypedThrow& plain, double length);
 /// The law of a launch with these speed data.

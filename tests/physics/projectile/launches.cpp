@@ -15,7 +15,6 @@ namespace {
 namespace projectile = mechanics::projectile;
 using projectile::Special;
 
-constexpr double kGravity = 9.8;
 constexpr double kPart = 1e-8;
 constexpr double kLeastVx = 0.5;
 
@@ -65,8 +64,6 @@ std::string WhyNotItsReach(const std::vector<std::string>& lines, const KnownThr
     return {};
 }
 
-Typed PlaceOf(double value, double scale) { return AllDigits(value, scale); }
-
 Verdict JudgeLaunch(const ProjectileStep& step, const KnownThrow& law, bool is_telling) {
     if (const auto message = MessageOf(step))
         return is_telling ? Wrong("refused: " + *message) : Refused(*message);
@@ -96,7 +93,7 @@ Verdict PlayThreePlaces(Problem& problem, const KnownThrow& law, bool is_rounded
     for (int point = 0; point < 3; ++point) {
         TypedPoint typed = TypePair(DataPair::XY, law, t, is_rounded);
         if (point == 0)
-            typed.t = PlaceOf(t, std::abs(t));
+            typed.t = AllDigits(t, std::abs(t));
         sheet.TypePoint(1, point + 1, typed);
         points.push_back(typed);
         t += 0.1 + std::abs(BookNumber(chance, 3));

@@ -13,7 +13,6 @@ namespace {
 namespace projectile = mechanics::projectile;
 using Given = ProjectileSheet::Given;
 
-constexpr double kPartFoundAgain = 1e-4;
 constexpr double kApart = 1e-3;
 
 enum class Unknown { Speed, Angle, Vx, Vy };
@@ -87,11 +86,6 @@ bool IsTelling(Unknown unknown, const KnownPair& known) {
            !(HoldsY(pair) && starts_level);
 }
 
-bool IsFoundAgain(const KnownThrow& offer, const KnownThrow& law) {
-    const double scale = law.ScaleOfSpeed(law.t0);
-    return Agree(offer.vx, law.vx, kPartFoundAgain, scale) && Agree(offer.vy, law.vy, kPartFoundAgain, scale);
-}
-
 /// The answer of a click, the limit of a search typed when it is asked for.
 ProjectileStep AnswerOf(ProjectileSheet& sheet, const UnknownRow& row, const KnownThrow& law) {
     const ProjectileStep step = sheet.Click(row.procedure, 2);
@@ -130,7 +124,7 @@ Verdict Play(Problem& problem, const UnknownRow& row) {
     for (const KnownThrow& offer : offers) {
         if (const std::string why = WhyNotMet(offer, point, row.direction); !why.empty())
             return Wrong(offer.Told() + ": " + why);
-        is_found = is_found || IsFoundAgain(offer, source);
+        is_found = is_found || IsSameLaunch(offer, source);
     }
     return is_found || !must_be_found ? Right() : Wrong("the launch is not found again");
 }

@@ -8,7 +8,6 @@
 namespace tavrelo::physics {
 namespace {
 
-constexpr double kGravity = 9.8;
 constexpr int kRoundedDecimals = 3;
 
 /// What the data of a point leave at a time, empty when they hold.
@@ -120,6 +119,14 @@ std::string WhyNotMet(const KnownThrow& law, const TypedPoint& point, Direction 
             return {};
     }
     return why;
+}
+
+std::string WhyNotThere(const KnownThrow& law, double t, double x, double y) {
+    TypedPoint point;
+    point.t = Typed{Digits(t), t};
+    point.x = Typed{Digits(x), x};
+    point.y = Typed{Digits(y), y};
+    return WhyNotMet(law, point, Direction::ByTangent);
 }
 
 }  // namespace tavrelo::physics

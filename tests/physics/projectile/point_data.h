@@ -32,5 +32,7 @@ enum class Direction { Exact, ByTangent };
 
 /// What keeps a throw from meeting all data of a point at one time, empty when nothing does.
 std::string WhyNotMet(const KnownThrow& law, const TypedPoint& point, Direction direction);
+/// What keeps a throw from being at a place at a time.
+std::string WhyNotThere(const KnownThrow& law, double t, double x, double y);
 
 }  // namespace tavrelo::physics
