@@ -37,8 +37,11 @@ Verdict PlayIncline(Problem& problem) {
     const ProjectileStep step = sheet.Run(Special::Incline, "1, 1, " + angle.text);
     // Heights over the line, by the time since the launch.
     const double slope = std::tan(angle.value * std::numbers::pi / 180);
-    const double above = law.y0 - foot.y->value - slope * (law.x0 - foot.x->value);
-    const auto times = PlainRoots(-kGravity / 2, law.vy - slope * law.vx, above);
+    const auto clean = [](double value, double scale) { return IsNearlyZero(value, scale) ? 0 : value; };
+    const double above =
+        clean(law.y0 - foot.y->value - slope * (law.x0 - foot.x->value), law.ScaleOfPlace(0));
+    const double rise = clean(law.vy - slope * law.vx, law.ScaleOfSpeed(0));
+    const auto times = PlainRoots(-kGravity / 2, rise, above);
     const bool is_upright = std::abs(law.vx) < kLeastVx;
     const bool is_hit = times && !times->empty() && !is_upright;
     if (const auto message = MessageOf(step))

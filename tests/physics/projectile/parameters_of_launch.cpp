@@ -86,6 +86,12 @@ bool IsTelling(Unknown unknown, const KnownPair& known) {
            !(HoldsY(pair) && starts_level);
 }
 
+/// Whether a point lies straight over the launch but for its last digits: the angle to it has none to spare.
+bool IsAlmostOverStart(const TypedPoint& point, const KnownThrow& law, double t) {
+    const double across = point.x ? std::abs(point.x->value - law.x0) : 0;
+    return across != 0 && across < 1e-5 * law.ScaleOfPlace(t);
+}
+
 /// The answer of a click, the limit of a search typed when it is asked for.
 ProjectileStep AnswerOf(ProjectileSheet& sheet, const UnknownRow& row, const KnownThrow& law) {
     const ProjectileStep step = sheet.Click(row.procedure, 2);
@@ -108,6 +114,8 @@ Verdict Play(Problem& problem, const UnknownRow& row) {
     const bool is_rounded = chance.OneIn(4);
     const TypedPoint point = TypePair(known.pair, source, known.t, is_rounded);
     problem.Type(source.Told() + " at " + Digits(known.t));
+    if (IsAlmostOverStart(point, launch.law, known.t))
+        return Right();  // the last digits of a place decide
     ProjectileSheet sheet(problem);
     sheet.TypeLaunch(1, launch, row.given);
     if (const auto message = sheet.Plant())

@@ -10,7 +10,7 @@ namespace tavrelo::physics {
 std::optional<std::vector<double>> PlainRoots(double a, double b, double c) {
     const double square = b * b - 4 * a * c;
     const double size = std::max(b * b, std::abs(4 * a * c));
-    if (std::abs(square) < 1e-6 * size)
+    if (std::abs(square) <= 1e-6 * size)
         return std::nullopt;
     if (square < 0)
         return std::vector<double>{};
