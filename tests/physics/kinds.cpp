@@ -16,6 +16,8 @@ namespace {
 constexpr std::string_view kLinearParticle[] = {kSingularText, kCaseNotSolvedText, kSameUnknownText};
 constexpr std::string_view kTrigonometricParticle[] = {kNoEquilibriumText, kNoSuchSolutionText,
                                                        kCaseNotSolvedText, kBadDataText};
+constexpr std::string_view kAnyParticle[] = {kNoEquilibriumText, kNoSuchSolutionText, kSingularText,
+                                             kCaseNotSolvedText, kSameUnknownText,    kBadDataText};
 constexpr std::string_view kUnsolvableParticle[] = {kNoEquilibriumText, kNoSuchSolutionText, kSingularText,
                                                     kCaseNotSolvedText};
 constexpr std::string_view kTooMany[] = {kTooManyUnknownsText};
@@ -72,6 +74,7 @@ constexpr ProblemKind kKinds[] = {
      PlayPulley, kTrigonometricParticle, 0.3},
     {"particle.near-tangent", "data beside the limit where two solutions become one", 4000, PlayNearTangent,
      kTrigonometricParticle, 1},
+    {"particle.any-size", "very small and very large forces", 4000, PlayParticleOfAnySize, kAnyParticle, 0.6},
     {"particle.unsolvable", "forces that nothing can balance", 3000, PlayUnsolvableParticle,
      kUnsolvableParticle, 1},
     {"particle.too-many", "more unknowns than equations", 3000, PlayTooManyUnknowns, kTooMany, 1},
@@ -94,6 +97,8 @@ constexpr ProblemKind kKinds[] = {
     {"rigid.free-force", "a force unknown in magnitude and direction", 3000, PlayFreeForce, kAngleOfBody,
      0.3},
     {"rigid.body-on-a-rope", "a rope over a pulley on a body", 3000, PlayBodyOnARope, kAngleOfBody, 0.3},
+
+    {"rigid.any-size", "very small and very large forces", 3000, PlayBodyOfAnySize, kAngleOfBody, 0.6},
 
     {"motion.point", "a point of a known motion from its time, place or speed", 4000, PlayPoint,
      kPointRefusals, 0.1},

@@ -13,6 +13,7 @@ namespace tavrelo::physics {
 struct Problem {
     Chance chance;
     std::vector<std::string> typed = {};  // the data as a student types them
+    double scale = 1;                     // of its forces, where a kind has them of any size
 
     const std::string& Type(std::string text) { return typed.emplace_back(std::move(text)); }
 };

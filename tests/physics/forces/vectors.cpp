@@ -6,6 +6,7 @@
 #include "forces/force_kinds.h"
 #include "mechanics/forces/read_forces.h"
 #include "mechanics/forces/resultants.h"
+#include "plane.h"
 #include "statics/stated_force.h"
 #include "typed.h"
 
@@ -21,16 +22,7 @@ constexpr double kDegrees = 180 / std::numbers::pi;
 constexpr double kNearlyParallel = 1e-4;
 constexpr double kSmallestDeterminant = 1e-5;
 
-struct Vector {
-    double x, y;
-
-    double Length() const { return std::hypot(x, y); }
-    double Direction() const { return std::atan2(y, x) * kDegrees; }
-};
-double Dot(Vector a, Vector b) { return a.x * b.x + a.y * b.y; }
-double Cross(Vector a, Vector b) { return a.x * b.y - a.y * b.x; }
-Vector operator+(Vector a, Vector b) { return {a.x + b.x, a.y + b.y}; }
-Vector operator*(double factor, Vector a) { return {factor * a.x, factor * a.y}; }
+double DirectionOf(const Vector& a) { return std::atan2(a.y, a.x) * kDegrees; }
 
 // Why the vector is not the expected one in both of its forms; empty when it is.
 std::string FaultOf(const char* what, const forces::PlaneVector& found, Vector expected, double scale) {
@@ -39,7 +31,7 @@ std::string FaultOf(const char* what, const forces::PlaneVector& found, Vector e
         return std::string(what) + " is " + Digits(found.x) + ", " + Digits(found.y);
     if (std::abs(std::abs(found.magnitude) - expected.Length()) > reach)
         return std::string(what) + " has the magnitude " + Digits(found.magnitude);
-    const double turned = std::abs(std::remainder(found.direction - expected.Direction(), 360));
+    const double turned = std::abs(std::remainder(found.direction - DirectionOf(expected), 360));
     // A direction within 1e-6 of an axis counts as that of the axis; a negative magnitude keeps its
     // direction.
     if (found.magnitude > 0 && turned / kDegrees * expected.Length() > reach + 2e-6)
@@ -88,7 +80,7 @@ Verdict PlayVectorAlgebra(Problem& problem) {
     const forces::SumAndProducts found = forces::VectorSum2(a, b);
     std::string fault = FaultOf("the sum", found.sum, va + vb, size);
     if (fault.empty())
-        fault = FaultOf("the difference", found.difference, va + -1 * vb, size);
+        fault = FaultOf("the difference", found.difference, va + -vb, size);
     if (fault.empty() && !Agree(found.dot, Dot(va, vb), kRounding, product))
         fault = "the scalar product is " + Digits(found.dot);
     if (fault.empty() && !Agree(found.cross, Cross(va, vb), kRounding, product))

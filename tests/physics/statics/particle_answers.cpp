@@ -16,11 +16,12 @@ namespace {
 using mechanics::particle::Solution;
 
 // So many that a report shows all digits of what was found.
-constexpr int kDecimals = 12;
+constexpr int kDecimals = 15;
 constexpr std::size_t kFirstValueLine = 2;
 constexpr std::size_t kValueLines = 2;
-// What the twelve decimals of a report leave between its values and the forces.
+// What the decimals of a report leave between its values and the forces.
 constexpr double kReportPart = 1e-9;
+constexpr double kReportDust = 1e-13;
 
 // "F!1 = 3" or "A = 30°": the lines of a report behind its two equations.
 Values ReportedValues(const std::vector<std::string>& report) {
@@ -35,15 +36,6 @@ Values ReportedValues(const std::vector<std::string>& report) {
             std::strtod(line.c_str() + sign + 3, nullptr);
     }
     return values;
-}
-
-std::string Told(const Values& values) {
-    std::string text;
-    for (const auto& [name, value] : values.magnitudes)
-        text += " " + name + " = " + Digits(value);
-    for (const auto& [name, value] : values.angles)
-        text += " " + name + " = " + Digits(value) + " degrees";
-    return text;
 }
 
 // Why the values do not satisfy the sums; empty when they do.
@@ -71,7 +63,7 @@ std::string FaultOfTable(const std::vector<StatedForce>& forces, const Solution&
         if (!shown.HasComponents() || !shown.magnitude)
             return "force " + std::to_string(k + 1) + " is still unknown";
         const double size = std::hypot(found.x, found.y);
-        const double reach = kReportPart * std::max(size, 1.0);
+        const double reach = kReportPart * size + kReportDust;
         if (std::abs(*shown.x.number - found.x) > reach || std::abs(*shown.y.number - found.y) > reach ||
             std::abs(std::abs(*shown.magnitude) - size) > reach)
             return "force " + std::to_string(k + 1) + " is shown as " + Digits(*shown.x.number) + ", " +
@@ -84,7 +76,7 @@ std::string FaultOf(const std::vector<StatedForce>& forces, const Solution& solu
     std::string fault = FaultOfSums(forces, values);
     if (fault.empty())
         fault = FaultOfTable(forces, solution, values);
-    return fault.empty() ? fault : "with" + Told(values) + " " + fault;
+    return fault.empty() ? fault : "with " + Told(values) + " " + fault;
 }
 
 ParticleAnswers Refusal(std::string_view message) { return {std::string(message), {}, {}}; }

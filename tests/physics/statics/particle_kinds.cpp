@@ -4,46 +4,38 @@
 #include <cmath>
 
 #include "equations.h"
+#include "plane.h"
 #include "statics/particle_answers.h"
 #include "typed.h"
 
 namespace tavrelo::physics {
 namespace {
 
+constexpr int kAllDecimals = 15;
 constexpr double kLeastMagnitude = 0.5;
 constexpr double kGreatestMagnitude = 500;
+constexpr double kSmallestScale = 1e-6;
+constexpr double kLargestScale = 1e6;
 // Parallel but for so little (the sine of the angle between) two forces may count as parallel.
 constexpr double kNearlyParallel = 1e-3;
 // Beside the largest sine or cosine the two solutions become one and the solver may refuse.
 constexpr double kClearlyTwo = 0.999;
 // Solutions whose magnitude is nothing beside the forces belong to neither side.
 constexpr double kNoMagnitude = 1e-3;
-constexpr double kSameValue = 1e-6;
 
-struct Vector {
-    double x = 0;
-    double y = 0;
-
-    double Length() const { return std::hypot(x, y); }
-};
-
-double Cross(const Vector& a, const Vector& b) { return a.x * b.y - a.y * b.x; }
-Vector Along(double direction, double length = 1) {
-    return {length * CosDegrees(direction), length * SinDegrees(direction)};
+double AnyMagnitude(Problem& problem) {
+    return problem.scale * problem.chance.Size(kLeastMagnitude, kGreatestMagnitude);
 }
-Vector operator+(const Vector& a, const Vector& b) { return {a.x + b.x, a.y + b.y}; }
-Vector operator-(const Vector& a) { return {-a.x, -a.y}; }
-Vector operator*(double factor, const Vector& a) { return {factor * a.x, factor * a.y}; }
-
-double AnyMagnitude(Chance& chance) { return chance.Size(kLeastMagnitude, kGreatestMagnitude); }
 
 // Up to three known forces, and the load that brings all into equilibrium for the known values, its
 // components with few decimals or with all.
 class Loads {
   public:
-    explicit Loads(Chance& chance) : m_decimals(chance.OneIn(2) ? 2 : 12) {
-        for (std::size_t k = chance.Below(4); k > 0; --k)
-            Add(KnownForce(chance, AnyMagnitude(chance), TypedDirection(chance)));
+    explicit Loads(Problem& problem)
+        : m_decimals(problem.chance.OneIn(2) ? DecimalsFor(kGreatestMagnitude * problem.scale)
+                                             : kAllDecimals) {
+        for (std::size_t k = problem.chance.Below(4); k > 0; --k)
+            Add(KnownForce(problem.chance, AnyMagnitude(problem), TypedDirection(problem.chance)));
     }
 
     /// Adds the force that balances the loads and `unknown`, the sum of the forces with unknowns.
@@ -87,19 +79,11 @@ Column ColumnOf(Chance& chance, const std::string& symbol) {
     return column;
 }
 
-bool AreEqual(const std::map<std::string, double>& first, const std::map<std::string, double>& second) {
-    return std::ranges::equal(
-        first, second, [](const auto& a, const auto& b) { return Agree(a.second, b.second, kSameValue, 1); });
-}
-
-// Whether the two solutions offered are the same.
-bool AreEqual(const ParticleAnswers& answers) {
-    const Values &first = answers.solutions[0], &second = answers.solutions[1];
-    return AreEqual(first.magnitudes, second.magnitudes) && AreEqual(first.angles, second.angles);
-}
-
 // The verdict on a problem that has so many solutions; `is_regular` where the solver must find them all.
-Verdict Judged(const ParticleAnswers& answers, std::size_t solutions, bool is_regular) {
+// Forces of unusual size may be refused, as sums below 0.001 count as nothing.
+Verdict Judged(const Problem& problem, const ParticleAnswers& answers, std::size_t solutions,
+               bool is_regular) {
+    is_regular = is_regular && problem.scale == 1;
     if (!answers.fault.empty())
         return Wrong(answers.fault);
     if (answers.solutions.empty())
@@ -107,7 +91,9 @@ Verdict Judged(const ParticleAnswers& answers, std::size_t solutions, bool is_re
                                            : Refused(answers.refusal);
     // Equal solutions may be offered twice.
     const std::size_t offered =
-        answers.solutions.size() == 2 && AreEqual(answers) ? 1 : answers.solutions.size();
+        answers.solutions.size() == 2 && AreEqual(answers.solutions[0], answers.solutions[1])
+            ? 1
+            : answers.solutions.size();
     if (is_regular && offered != solutions)
         return Wrong("offers " + std::to_string(offered) + " solutions of " + std::to_string(solutions));
     return Right();
@@ -137,23 +123,23 @@ Verdict PlayTwoMagnitudes(Problem& problem) {
         forces = first.forces;
         forces.insert(forces.end(), second.forces.begin(), second.forces.end());
     }
-    Loads loads(chance);
-    loads.Balance(chance.Sign() * AnyMagnitude(chance) * first.per_unit +
-                  chance.Sign() * AnyMagnitude(chance) * second.per_unit);
+    Loads loads(problem);
+    loads.Balance(chance.Sign() * AnyMagnitude(problem) * first.per_unit +
+                  chance.Sign() * AnyMagnitude(problem) * second.per_unit);
     const double sine = std::abs(Cross(first.per_unit, second.per_unit)) /
                         std::max(first.per_unit.Length() * second.per_unit.Length(), 1e-9);
     const bool is_regular = sine > kNearlyParallel && first.per_unit.Length() > kNearlyParallel &&
                             second.per_unit.Length() > kNearlyParallel;
-    return Judged(SolveParticle(problem, loads.With(forces)), 1, is_regular);
+    return Judged(problem, SolveParticle(problem, loads.With(forces)), 1, is_regular);
 }
 
 Verdict PlayEquilibrant(Problem& problem) {
     Chance& chance = problem.chance;
     const StatedForce force =
         UnknownForce(Symbols(chance, 1)[0], TypedFactor(chance), AngleSymbols(chance, 1)[0]);
-    Loads loads(chance);
-    loads.Balance(Along(TypedDirection(chance), AnyMagnitude(chance)));
-    return Judged(SolveParticle(problem, loads.With({force})), 1, true);
+    Loads loads(problem);
+    loads.Balance(Along(TypedDirection(chance), AnyMagnitude(problem)));
+    return Judged(problem, SolveParticle(problem, loads.With({force})), 1, true);
 }
 
 namespace {
@@ -191,23 +177,24 @@ Verdict PlayMagnitudeAndAngle(Problem& problem) {
     std::vector<StatedForce> forces = column.forces;
     double size = 0;
     for (std::size_t k = chance.OneIn(6) ? 2 : 1; k > 0; --k) {
-        forces.push_back(UnknownDirection(chance, chance.OneIn(10) ? 1 : AnyMagnitude(chance), angle));
+        forces.push_back(UnknownDirection(
+            chance, chance.OneIn(10) && problem.scale == 1 ? 1 : AnyMagnitude(problem), angle));
         size += forces.back().x.number;
     }
-    Loads loads(chance);
-    loads.Balance(AnyMagnitude(chance) * column.per_unit + Along(chance.Between(-180.0, 180.0), size));
+    Loads loads(problem);
+    loads.Balance(AnyMagnitude(problem) * column.per_unit + Along(chance.Between(-180.0, 180.0), size));
     const Turning turning = TurningOf(column.per_unit, size, loads.Total());
     const bool is_regular = turning.is_clear && column.per_unit.Length() > kNearlyParallel;
-    return Judged(SolveParticle(problem, loads.With(forces)), turning.held, is_regular);
+    return Judged(problem, SolveParticle(problem, loads.With(forces)), turning.held, is_regular);
 }
 
 Verdict PlayTwoAngles(Problem& problem) {
     Chance& chance = problem.chance;
     const std::vector<std::string> angles = AngleSymbols(chance, 2);
-    const double magnitude = AnyMagnitude(chance);
+    const double magnitude = AnyMagnitude(problem);
     const StatedForce first = UnknownDirection(chance, magnitude, angles[0]);
     const StatedForce second = UnknownDirection(chance, magnitude * chance.Size(0.1, 10), angles[1]);
-    Loads loads(chance);
+    Loads loads(problem);
     loads.Balance(Along(chance.Between(-180.0, 180.0), first.x.number) +
                   Along(chance.Between(-180.0, 180.0), second.x.number));
     // The triangle of the two forces and the load: the cosines of its angles at the load.
@@ -216,7 +203,7 @@ Verdict PlayTwoAngles(Problem& problem) {
     const double at_second = (b * b + load * load - a * a) / (2 * b * load);
     const bool is_regular = load > kNoMagnitude * (a + b) && std::abs(at_first) < kClearlyTwo &&
                             std::abs(at_second) < kClearlyTwo;
-    return Judged(SolveParticle(problem, loads.With({first, second})), 2, is_regular);
+    return Judged(problem, SolveParticle(problem, loads.With({first, second})), 2, is_regular);
 }
 
 Verdict PlayPulley(Problem& problem) {
@@ -225,16 +212,16 @@ Verdict PlayPulley(Problem& problem) {
     const double factor = TypedFactor(chance), direction = TypedDirection(chance);
     const std::vector<StatedForce> forces = {UnknownMagnitude(chance, rope, factor, direction),
                                              UnknownForce(rope, factor, angle)};
-    Loads loads(chance);
+    Loads loads(problem);
     const double turned = direction + chance.Sign() * chance.Between(5.0, 175.0);
-    loads.Balance(AnyMagnitude(chance) * factor * (Along(direction) + Along(turned)));
+    loads.Balance(AnyMagnitude(problem) * factor * (Along(direction) + Along(turned)));
     // The load halves the angle between the ropes; a load straight up or down is refused.
     const Vector& load = loads.Total();
     const double cosine = -(load.x * CosDegrees(direction) + load.y * SinDegrees(direction)) / load.Length();
     const double sine = std::sqrt(std::max(1 - cosine * cosine, 0.0));
     const bool is_regular =
         std::abs(load.x) > 0.01 * load.Length() && cosine > 0 && std::max(sine, cosine) < kClearlyTwo;
-    return Judged(SolveParticle(problem, loads.With(forces)), 1, is_regular);
+    return Judged(problem, SolveParticle(problem, loads.With(forces)), 1, is_regular);
 }
 
 Verdict PlayNearTangent(Problem& problem) {
@@ -242,22 +229,22 @@ Verdict PlayNearTangent(Problem& problem) {
     const double beside = 1 + (chance.OneIn(10) ? 0 : chance.Sign() * chance.Size(1e-9, 0.01));
     const double direction = TypedDirection(chance);
     std::vector<StatedForce> forces;
-    Loads loads(chance);
+    Loads loads(problem);
     if (chance.OneIn(2)) {
         const Column column = ColumnOf(chance, Symbols(chance, 1)[0]);
         forces = column.forces;
-        forces.push_back(UnknownDirection(chance, AnyMagnitude(chance), AngleSymbols(chance, 1)[0]));
+        forces.push_back(UnknownDirection(chance, AnyMagnitude(problem), AngleSymbols(chance, 1)[0]));
         const double length = std::max(column.per_unit.Length(), 1e-9);
         const Vector across = {-column.per_unit.y / length, column.per_unit.x / length};
-        loads.Balance(AnyMagnitude(chance) * column.per_unit + forces.back().x.number * beside * across);
+        loads.Balance(AnyMagnitude(problem) * column.per_unit + forces.back().x.number * beside * across);
     } else {
         const std::vector<std::string> angles = AngleSymbols(chance, 2);
-        forces = {UnknownDirection(chance, AnyMagnitude(chance), angles[0]),
-                  UnknownDirection(chance, AnyMagnitude(chance), angles[1])};
+        forces = {UnknownDirection(chance, AnyMagnitude(problem), angles[0]),
+                  UnknownDirection(chance, AnyMagnitude(problem), angles[1])};
         const double together = forces[0].x.number + chance.Sign() * forces[1].x.number;
         loads.Balance(Along(direction, together * beside));
     }
-    return Judged(SolveParticle(problem, loads.With(forces)), 0, false);
+    return Judged(problem, SolveParticle(problem, loads.With(forces)), 0, false);
 }
 
 Verdict PlayUnsolvableParticle(Problem& problem) {
@@ -265,25 +252,25 @@ Verdict PlayUnsolvableParticle(Problem& problem) {
     const double direction = TypedDirection(chance);
     const std::vector<std::string> angles = AngleSymbols(chance, 2);
     std::vector<StatedForce> forces;
-    Loads loads(chance);
+    Loads loads(problem);
     switch (chance.Below(3)) {
         case 0: {  // two ropes on one line, and a load across it
             for (const std::string& symbol : Symbols(chance, 2))
                 forces.push_back(
                     UnknownMagnitude(chance, symbol, TypedFactor(chance),
                                      chance.OneIn(2) ? direction : std::remainder(direction + 180, 360)));
-            loads.Balance(Along(direction + 90, AnyMagnitude(chance)));
+            loads.Balance(Along(direction + 90, AnyMagnitude(problem)));
             break;
         }
         case 1: {  // a force too weak to hold what lies across the other one
-            const StatedForce weak = UnknownDirection(chance, AnyMagnitude(chance), angles[0]);
+            const StatedForce weak = UnknownDirection(chance, AnyMagnitude(problem), angles[0]);
             forces = {UnknownMagnitude(chance, Symbols(chance, 1)[0], TypedFactor(chance), direction), weak};
             loads.Balance(Along(direction + 90, weak.x.number * chance.Between(1.01, 5.0)));
             break;
         }
         default: {  // two forces that cannot reach the load together
-            forces = {UnknownDirection(chance, AnyMagnitude(chance), angles[0]),
-                      UnknownDirection(chance, AnyMagnitude(chance), angles[1])};
+            forces = {UnknownDirection(chance, AnyMagnitude(problem), angles[0]),
+                      UnknownDirection(chance, AnyMagnitude(problem), angles[1])};
             const double together = forces[0].x.number + forces[1].x.number;
             loads.Balance(Along(direction, together * chance.Between(1.01, 5.0)));
         }
@@ -316,9 +303,17 @@ Verdict PlayTooManyUnknowns(Problem& problem) {
         default:
             forces = {UnknownForce(symbols[0], 1, angles[0]), UnknownDirection(chance, 20, angles[1])};
     }
-    Loads loads(chance);
-    loads.Balance(Along(chance.Between(-180.0, 180.0), AnyMagnitude(chance)));
+    Loads loads(problem);
+    loads.Balance(Along(chance.Between(-180.0, 180.0), AnyMagnitude(problem)));
     return MustBeRefused(SolveParticle(problem, loads.With(forces)));
+}
+
+Verdict PlayParticleOfAnySize(Problem& problem) {
+    using Play = Verdict (*)(Problem&);
+    constexpr Play kPlays[] = {PlayTwoMagnitudes, PlayEquilibrant, PlayMagnitudeAndAngle,
+                               PlayTwoAngles,     PlayPulley,      PlayNearTangent};
+    problem.scale = problem.chance.Size(kSmallestScale, kLargestScale);
+    return problem.chance.Of(kPlays)(problem);
 }
 
 }  // namespace tavrelo::physics

@@ -17,6 +17,8 @@ Verdict PlayPulley(Problem& problem);
 Verdict PlayNearTangent(Problem& problem);
 /// Forces that nothing can balance, or that more than one answer balances.
 Verdict PlayUnsolvableParticle(Problem& problem);
+/// Any of the patterns above with very small or very large forces.
+Verdict PlayParticleOfAnySize(Problem& problem);
 /// More unknowns than two equations can find.
 Verdict PlayTooManyUnknowns(Problem& problem);
 

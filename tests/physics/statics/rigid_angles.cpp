@@ -13,7 +13,9 @@ constexpr int kBody = 1;
 // Beside the largest sine the two solutions become one and the solver may refuse.
 constexpr double kClearlyTwo = 0.999;
 constexpr double kNothing = 1e-3;
-constexpr double kSameValue = 1e-6;
+constexpr int kAllDecimals = 15;
+constexpr double kSmallestScale = 1e-6;
+constexpr double kLargestScale = 1e6;
 
 // x, y and moment.
 using Triple = std::array<double, 3>;
@@ -77,11 +79,11 @@ struct AngleSum {
 // Typed last: a force and a couple that bring the body into equilibrium for the known values.
 void AddBalance(Chance& chance, TypedStructure& structure, const AskedBody& asked, const Values& values) {
     const std::vector<double> before = structure.Rest({asked}, values);
-    const int decimals = chance.OneIn(2) ? 2 : 10;
+    const int decimals = chance.OneIn(2) ? structure.Decimals() : kAllDecimals;
     const char point = AnyPoint(chance, structure.Points());
     structure.Add({kBody, point, KnownComponents(-before[0], -before[1], decimals)});
     const double couple = -structure.Rest({asked}, values)[2];
-    StatedRow row = {kBody, point, {}, KnownCouple(couple)};
+    StatedRow row = {kBody, point, {}, KnownCouple(couple, decimals)};
     if (row.couple->value.number != 0)
         structure.Add(row);
 }
@@ -110,7 +112,7 @@ std::array<std::string, 2> AddTwoUnknowns(Chance& chance, TypedStructure& struct
         }
     }
     for (const std::string& name : names)
-        values.magnitudes[name] = chance.Sign() * chance.Size(1, 300);
+        values.magnitudes[name] = chance.Sign() * structure.AnyLoad();
     return names;
 }
 
@@ -135,15 +137,11 @@ Eliminated WithoutOthers(const TurnedBody& body, const std::array<std::string, 2
     return {sum, is_independent && sum.Amplitude() > kNothing * Length(weights) * Length(turned)};
 }
 
-bool AreEqual(const Values& first, const Values& second) {
-    for (const auto& [name, angle] : first.angles)
-        if (std::abs(std::remainder(angle - second.angles.at(name), 360)) > kSameValue)
-            return false;
-    return true;
-}
-
-Verdict JudgedCount(const StructureAnswers& answers, std::size_t solutions, bool is_regular) {
-    const Verdict verdict = JudgedStructure(answers, is_regular && solutions > 0);
+Verdict JudgedCount(TypedStructure& structure, const AskedBody& asked, std::size_t solutions,
+                    bool is_regular) {
+    const StructureAnswers answers = structure.Solve({asked});
+    is_regular = is_regular && structure.IsOfUsualSize();
+    const Verdict verdict = JudgedStructure(structure, answers, is_regular && solutions > 0);
     if (verdict.kind != Verdict::Kind::Right || !is_regular)
         return verdict;
     const bool are_equal =
@@ -163,13 +161,13 @@ Verdict PlayTurningForce(Problem& problem) {
     Values values;
     values.angles[NameOf(angle)] = chance.Between(-180.0, 180.0);
     structure.Add(
-        {kBody, AnyPoint(chance, structure.Points()), UnknownDirection(chance, chance.Size(1, 300), angle)});
+        {kBody, AnyPoint(chance, structure.Points()), UnknownDirection(chance, structure.AnyLoad(), angle)});
     const auto names = AddTwoUnknowns(chance, structure, values);
     const AskedBody asked = {kBody, AnyPoint(chance, structure.Points())};
     AddLoads(chance, structure, kBody, structure.Points());
     AddBalance(chance, structure, asked, values);
     const auto [sum, is_clear] = WithoutOthers(TurnedBody(structure, asked, NameOf(angle), values), names);
-    return JudgedCount(structure.Solve({asked}), 2, is_clear && std::abs(sum.Cosine()) < kClearlyTwo);
+    return JudgedCount(structure, asked, 2, is_clear && std::abs(sum.Cosine()) < kClearlyTwo);
 }
 
 Verdict PlayWeakTurningForce(Problem& problem) {
@@ -179,7 +177,7 @@ Verdict PlayWeakTurningForce(Problem& problem) {
     Values values;
     values.angles[NameOf(angle)] = 0;
     structure.Add(
-        {kBody, AnyPoint(chance, structure.Points()), UnknownDirection(chance, chance.Size(1, 300), angle)});
+        {kBody, AnyPoint(chance, structure.Points()), UnknownDirection(chance, structure.AnyLoad(), angle)});
     const auto names = AddTwoUnknowns(chance, structure, values);
     const AskedBody asked = {kBody, AnyPoint(chance, structure.Points())};
     AddLoads(chance, structure, kBody, structure.Points());
@@ -192,12 +190,12 @@ Verdict PlayWeakTurningForce(Problem& problem) {
         const bool is_far = chance.OneIn(2);
         const double part = is_far ? chance.Between(1.01, 4.0) : 1 + chance.Sign() * chance.Size(1e-8, 0.01);
         const double couple = (part * sum.Amplitude() - sum.r) / weights[2];
-        structure.Add({kBody, asked.reference, {}, KnownCouple(couple)});
+        structure.Add({kBody, asked.reference, {}, KnownCouple(couple, kAllDecimals)});
         const auto [moved, still_clear] = WithoutOthers(body, names);
         if (still_clear && std::abs(moved.Cosine()) > 1.005)
             return RefusedStructure(structure.Solve({asked}));
     }
-    return JudgedStructure(structure.Solve({asked}), false);
+    return JudgedStructure(structure, structure.Solve({asked}), false);
 }
 
 Verdict PlayFreeForce(Problem& problem) {
@@ -226,7 +224,7 @@ Verdict PlayFreeForce(Problem& problem) {
     const double determinant = std::abs(Dot(third, Cross(level, upright)));
     const bool is_regular =
         determinant > kNothing * Length(third) * Length(level) * Length(upright) && determinant > 1e-6;
-    return JudgedCount(structure.Solve({asked}), 1, is_regular);
+    return JudgedCount(structure, asked, 1, is_regular);
 }
 
 Verdict PlayBodyOnARope(Problem& problem) {
@@ -241,8 +239,8 @@ Verdict PlayBodyOnARope(Problem& problem) {
     structure.Add(Rope(chance, kBody, AnyPoint(chance, points), symbols[1], TypedDirection(chance)));
     Values values;
     values.angles[NameOf(angle)] = chance.Between(-180.0, 180.0);
-    values.magnitudes[rope] = chance.Size(1, 300);
-    values.magnitudes[other] = chance.Sign() * chance.Size(1, 300);
+    values.magnitudes[rope] = structure.AnyLoad();
+    values.magnitudes[other] = chance.Sign() * structure.AnyLoad();
     AddLoads(chance, structure, kBody, points);
     const AskedBody asked = {kBody, AnyPoint(chance, points)};
     AddBalance(chance, structure, asked, values);
@@ -266,7 +264,15 @@ Verdict PlayBodyOnARope(Problem& problem) {
         is_clear = is_clear && std::abs(pull) > kNothing;
         pulling += pull > 0 ? 1 : 0;
     }
-    return JudgedCount(structure.Solve({asked}), pulling, is_clear);
+    return JudgedCount(structure, asked, pulling, is_clear);
+}
+
+Verdict PlayBodyOfAnySize(Problem& problem) {
+    using Play = Verdict (*)(Problem&);
+    constexpr Play kPlays[] = {PlayHeldBody,     PlayStructure, PlayTrussByJoints, PlayTrussBySection,
+                               PlayTurningForce, PlayFreeForce, PlayBodyOnARope,   PlayWeakTurningForce};
+    problem.scale = problem.chance.Size(kSmallestScale, kLargestScale);
+    return problem.chance.Of(kPlays)(problem);
 }
 
 }  // namespace tavrelo::physics

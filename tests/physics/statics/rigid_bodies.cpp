@@ -43,7 +43,7 @@ void AddHolding(Chance& chance, TypedStructure& structure) {
         default:  // the load's own couple beside a reaction
             structure.AddSupport(kBody, first, false);
             structure.Add({kBody, AnyPoint(chance, points),
-                           KnownForce(chance, chance.Size(1, 100), TypedDirection(chance)),
+                           KnownForce(chance, structure.AnyLoad(), TypedDirection(chance)),
                            UnknownCouple(chance, CoupleSymbol(chance))});
     }
 }
@@ -72,7 +72,7 @@ Verdict PlayHeldBody(Problem& problem) {
     if (!loads_first)
         AddLoads(chance, structure, kBody, structure.Points());
     const std::vector<AskedBody> asked = {{kBody, AnyPoint(chance, structure.Points())}};
-    return JudgedStructure(structure.Solve(asked), AreRegular(structure, asked));
+    return JudgedStructure(structure, structure.Solve(asked), AreRegular(structure, asked));
 }
 
 Verdict PlayBadlyHeldBody(Problem& problem) {
@@ -116,10 +116,10 @@ Verdict PlayUprightForces(Problem& problem) {
     else
         structure.Add({kBody, points.back(), UnknownMagnitude(chance, symbols[1], TypedFactor(chance), -90)});
     for (const char point : points)
-        structure.Add({kBody, point, KnownForce(chance, chance.Size(1, 500), chance.OneIn(3) ? 90 : -90)});
+        structure.Add({kBody, point, KnownForce(chance, structure.AnyLoad(), chance.OneIn(3) ? 90 : -90)});
     // Nothing acts along x: its equation says nothing and is left out.
     const StructureAnswers answers = structure.Solve({{kBody, AnyPoint(chance, points)}}, "1x");
-    return JudgedStructure(answers, true);
+    return JudgedStructure(structure, answers, true);
 }
 
 Verdict PlayOtherCounts(Problem& problem) {

@@ -14,8 +14,6 @@ namespace {
 constexpr double kLeastDistance = 0.3;
 constexpr double kClearlyIndependent = 1e-4;
 constexpr double kClearDeterminant = 1e-6;
-constexpr double kLeastLoad = 1;
-constexpr double kGreatestLoad = 500;
 
 double Distance(Components a, Components b) { return std::hypot(a.x - b.x, a.y - b.y); }
 
@@ -80,12 +78,12 @@ void AddLoads(Chance& chance, TypedStructure& structure, int body, const std::st
         const char point = AnyPoint(chance, points);
         StatedRow row = {body, point};
         if (!chance.OneIn(5))
-            row.force = KnownForce(chance, chance.Size(kLeastLoad, kGreatestLoad), TypedDirection(chance));
+            row.force = KnownForce(chance, structure.AnyLoad(), TypedDirection(chance));
         if (!row.force || chance.OneIn(6))
-            row.couple = KnownCouple(chance.Sign() * chance.Size(kLeastLoad, kGreatestLoad));
+            row.couple = KnownCouple(chance.Sign() * structure.AnyLoad(), structure.Decimals());
         structure.Add(row);
     }
-    if (points.size() > 1 && points.size() <= 6 && chance.OneIn(6)) {
+    if (points.size() > 1 && points.size() <= 6 && structure.IsOfUsualSize() && chance.OneIn(6)) {
         std::vector<double> values;
         for (std::size_t k = 0; k < points.size(); ++k)
             values.push_back(chance.Sign() * chance.Between(1.0, 50.0));
@@ -102,12 +100,13 @@ std::string CoupleSymbol(Chance& chance) {
     return chance.Of(kCouples);
 }
 
-Verdict JudgedStructure(const StructureAnswers& answers, bool is_regular) {
+Verdict JudgedStructure(const TypedStructure& structure, const StructureAnswers& answers, bool is_regular) {
     if (!answers.fault.empty())
         return Wrong(answers.fault);
     if (!answers.solutions.empty())
         return Right();
-    return is_regular ? Wrong("refused although regular: " + answers.refusal) : Refused(answers.refusal);
+    return is_regular && structure.IsOfUsualSize() ? Wrong("refused although regular: " + answers.refusal)
+                                                   : Refused(answers.refusal);
 }
 
 Verdict RefusedStructure(const StructureAnswers& answers) {

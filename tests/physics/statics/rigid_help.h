@@ -24,8 +24,9 @@ StatedRow Rope(Chance& chance, int body, char point, const std::string& symbol, 
 /// The names of unknown couples, none of them that of a force.
 std::string CoupleSymbol(Chance& chance);
 
-/// The verdict on a structure; `is_regular` where the solver must find its one solution.
-Verdict JudgedStructure(const StructureAnswers& answers, bool is_regular);
+/// The verdict on a structure; `is_regular` where the solver must find its one solution. Forces of unusual
+/// size may be refused: determinants count as zero by a limit of their own.
+Verdict JudgedStructure(const TypedStructure& structure, const StructureAnswers& answers, bool is_regular);
 /// Any solution is wrong.
 Verdict RefusedStructure(const StructureAnswers& answers);
 

@@ -35,6 +35,8 @@ Verdict PlayFreeForce(Problem& problem);
 Verdict PlayBodyOnARope(Problem& problem);
 /// A known force too weak to hold the body, or beside that limit.
 Verdict PlayWeakTurningForce(Problem& problem);
+/// Any of the above with very small or very large forces.
+Verdict PlayBodyOfAnySize(Problem& problem);
 
 inline constexpr std::string_view kNoBodySolutionText = "No hay solución.";
 

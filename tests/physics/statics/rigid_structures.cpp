@@ -145,7 +145,7 @@ Verdict PlayStructure(Problem& problem) {
     for (int body = kFirstPart; body <= last; ++body)
         AddLoads(chance, structure, body, parts.PointsOf(body));
     const std::vector<AskedBody> asked = parts.Asked();
-    return JudgedStructure(structure.Solve(asked), AreRegular(structure, asked));
+    return JudgedStructure(structure, structure.Solve(asked), AreRegular(structure, asked));
 }
 
 Verdict PlayTrussByJoints(Problem& problem) {
@@ -170,8 +170,8 @@ Verdict PlayTrussByJoints(Problem& problem) {
     for (const char joint : joints)
         if (chance.OneIn(2))
             structure.Add(
-                {body_of(joint), joint, KnownForce(chance, chance.Size(1, 300), TypedDirection(chance))});
-    return JudgedStructure(structure.Solve(asked), AreRegular(structure, asked));
+                {body_of(joint), joint, KnownForce(chance, structure.AnyLoad(), TypedDirection(chance))});
+    return JudgedStructure(structure, structure.Solve(asked), AreRegular(structure, asked));
 }
 
 Verdict PlayTrussBySection(Problem& problem) {
@@ -193,7 +193,7 @@ Verdict PlayTrussBySection(Problem& problem) {
     }
     const std::vector<AskedBody> asked = {{kWhole, AnyPoint(chance, joints)},
                                           {kFirstPart, AnyPoint(chance, part)}};
-    return JudgedStructure(structure.Solve(asked), AreRegular(structure, asked));
+    return JudgedStructure(structure, structure.Solve(asked), AreRegular(structure, asked));
 }
 
 Verdict PlayBadlyHeldStructure(Problem& problem) {

@@ -1,5 +1,6 @@
 #include "statics/stated_force.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cmath>
@@ -12,6 +13,10 @@ namespace {
 
 constexpr std::array kSymbols = {"F",  "G",  "T",   "N",   "R",   "P",   "Q", "W",  "F1", "F2",
                                  "T1", "N2", "F12", "R13", "Tab", "Tcd", "f", "f1", "fb", "B"};
+constexpr double kSameValue = 1e-6;
+constexpr double kSameAngle = 1e-6;
+constexpr int kFewestDecimals = 2;
+constexpr double kDigitsOfForce = 4;
 constexpr std::array kAngles = {"a", "b", "q", "a1", "t2", "alfa", "beta", "F", "x"};
 constexpr std::array kAxes = {0.0, 90.0, 180.0, -90.0};
 constexpr std::array kUsual = {30.0, 45.0, 60.0, 120.0, 135.0, 150.0, -30.0, -45.0, -60.0, -135.0, -150.0};
@@ -81,6 +86,24 @@ StatedForce ByMagnitude(Chance& chance, double magnitude, double direction) {
 
 }  // namespace
 
+std::string Told(const Values& values) {
+    std::string text;
+    for (const auto& [name, value] : values.magnitudes)
+        text += (text.empty() ? "" : ", ") + name + " = " + Digits(value);
+    for (const auto& [name, value] : values.angles)
+        text += (text.empty() ? "" : ", ") + name + " = " + Digits(value) + " degrees";
+    return text;
+}
+
+bool AreEqual(const Values& first, const Values& second) {
+    return std::ranges::equal(
+               first.magnitudes, second.magnitudes,
+               [](const auto& a, const auto& b) { return Agree(a.second, b.second, kSameValue); }) &&
+           std::ranges::equal(first.angles, second.angles, [](const auto& a, const auto& b) {
+               return std::abs(std::remainder(a.second - b.second, 360)) <= kSameAngle;
+           });
+}
+
 std::string NameOf(const std::string& symbol) {
     std::string name = symbol;
     for (std::size_t k = symbol.starts_with('f') ? 1 : 0; k < name.size(); ++k)
@@ -111,7 +134,8 @@ StatedForce KnownForce(Chance& chance, double magnitude, double direction) {
     StatedForce force;
     const std::size_t way = chance.Below(6);
     if (way == 0) {
-        force = KnownComponents(magnitude * CosDegrees(direction), magnitude * SinDegrees(direction), 3);
+        force = KnownComponents(magnitude * CosDegrees(direction), magnitude * SinDegrees(direction),
+                                DecimalsFor(magnitude));
     } else if (way <= 3 && (IsLevel(direction) || IsUpright(direction))) {
         const Typed typed = TypedMagnitude(chance, magnitude);
         const bool level = IsLevel(direction);
@@ -126,11 +150,15 @@ StatedForce KnownForce(Chance& chance, double magnitude, double direction) {
     return force;
 }
 
+int DecimalsFor(double size) {
+    return std::max(kFewestDecimals, static_cast<int>(std::ceil(kDigitsOfForce - std::log10(size))));
+}
+
 StatedForce KnownComponents(double x, double y, int decimals) {
     Typed first = Rounded(x, decimals);
     const Typed second = Rounded(y, decimals);
     if (first.value == 0 && second.value == 0)
-        first = Typed{"0.5", 0.5};
+        first = Rounded(std::pow(10, -decimals), decimals);
     return {first.text + "," + second.text, {first.value}, {second.value}};
 }
 

@@ -14,6 +14,11 @@ struct Values {
     std::map<std::string, double> angles = {};  // degrees
 };
 
+/// "F = 3, A = 30 degrees", with all digits.
+std::string Told(const Values& values);
+/// Whether all values agree but for rounding, angles but for whole turns.
+bool AreEqual(const Values& first, const Values& second);
+
 /// The name by which an unknown is told from others: in capitals, but that a friction's small "f" stays.
 std::string NameOf(const std::string& symbol);
 
@@ -43,6 +48,8 @@ double TypedDirection(Chance& chance);
 
 /// The notation is left to chance among all that can write the force.
 StatedForce KnownForce(Chance& chance, double magnitude, double direction);
+/// How many decimals a student gives to a component of a force of that size: two, and more for a small one.
+int DecimalsFor(double size);
 /// Two components with so many decimals.
 StatedForce KnownComponents(double x, double y, int decimals);
 /// `factor` times the symbol along the direction; the factor is above 0 and has few decimals.

@@ -19,8 +19,11 @@ namespace {
 namespace rigid = mechanics::rigid;
 
 constexpr int kDecimals = 3;
+constexpr double kLeastLoad = 1;
+constexpr double kGreatestLoad = 500;
 constexpr double kSamePlace = 1e-9;  // of a length of about 10
 constexpr double kSameForce = 1e-9;
+constexpr double kForceDust = 1e-13;  // of the largest one, at an axis
 
 const std::vector<std::string> kAxisNames = {"x", "y", "moment"};
 
@@ -45,18 +48,12 @@ Values ValuesOf(const rigid::BodyResults& results) {
     return values;
 }
 
-std::string Told(const Values& values) {
-    std::string text;
-    for (const auto& [name, value] : values.magnitudes)
-        text += " " + name + " = " + Digits(value);
-    for (const auto& [name, value] : values.angles)
-        text += " " + name + " = " + Digits(value) + " degrees";
-    return text;
-}
-
 // Why the forces with the results are not those of the values; empty when they are.
 std::string FaultOfTable(const std::vector<StatedRow>& rows, const rigid::BodyForces& table,
                          const std::vector<AskedBody>& bodies, const Values& values) {
+    double largest = 0;
+    for (const auto& [name, value] : values.magnitudes)
+        largest = std::max(largest, std::abs(value));
     for (std::size_t k = 0; k < rows.size(); ++k) {
         const bool is_asked =
             std::ranges::any_of(bodies, [&](const AskedBody& asked) { return asked.body == rows[k].body; });
@@ -64,7 +61,7 @@ std::string FaultOfTable(const std::vector<StatedRow>& rows, const rigid::BodyFo
             continue;
         const Components force = At(*rows[k].force, values);
         const notation::Force& shown = table.at(k).force.value();
-        const double reach = kSameForce * std::max(std::hypot(force.x, force.y), 1.0);
+        const double reach = kSameForce * std::hypot(force.x, force.y) + kForceDust * largest;
         if (!shown.HasComponents() || std::abs(*shown.x.number - force.x) > reach ||
             std::abs(*shown.y.number - force.y) > reach)
             return "row " + std::to_string(k + 1) + " is not what was found";
@@ -74,8 +71,8 @@ std::string FaultOfTable(const std::vector<StatedRow>& rows, const rigid::BodyFo
 
 }  // namespace
 
-StatedCouple KnownCouple(double size) {
-    const Typed typed = Rounded(size, 2);
+StatedCouple KnownCouple(double size, int decimals) {
+    const Typed typed = Rounded(size, decimals);
     return {typed.text, {typed.value}};
 }
 
@@ -221,6 +218,10 @@ void TypedStructure::CopyFromWhole(int body) {
         }
 }
 
+double TypedStructure::AnyLoad() { return m_told.scale * m_told.chance.Size(kLeastLoad, kGreatestLoad); }
+
+int TypedStructure::Decimals() const { return DecimalsFor(kGreatestLoad * m_told.scale); }
+
 Components TypedStructure::PlaceOf(char point) const {
     return m_places.at(static_cast<std::size_t>(point - 'A')).at;
 }
@@ -321,7 +322,7 @@ StructureAnswers TypedStructure::Solve(const std::vector<AskedBody>& bodies, con
         if (fault.empty())
             fault = FaultOfTable(m_rows, rigid::WithResults(m_problem.forces, results), bodies, values);
         if (!fault.empty() && answers.fault.empty())
-            answers.fault = "with" + Told(values) + " " + fault;
+            answers.fault = "with " + Told(values) + " " + fault;
     };
     try {
         const auto outcome = rigid::SolveEquations(std::get<rigid::BodyEquations>(equations), bodies.size());

@@ -15,7 +15,7 @@ struct StatedCouple {
     std::string text;
     StatedComponent value;
 };
-StatedCouple KnownCouple(double size);
+StatedCouple KnownCouple(double size, int decimals);
 StatedCouple UnknownCouple(Chance& chance, const std::string& symbol);
 
 /// A force, a couple or both on a point of a body.
@@ -64,6 +64,13 @@ class TypedStructure {
     void AddSeries(int body, const std::string& points, const std::vector<double>& values, bool level);
     /// Copies the forces of the whole on points of the body.
     void CopyFromWhole(int body);
+
+    /// The size of a force as they are in this problem.
+    double AnyLoad();
+    /// Of the components of such a force, as a student gives them.
+    int Decimals() const;
+    /// Whether all forces are of the size that textbooks give them.
+    bool IsOfUsualSize() const { return m_told.scale == 1; }
 
     Components PlaceOf(char point) const;
     const std::string& Points() const { return m_points; }
