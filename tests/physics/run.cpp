@@ -84,6 +84,7 @@ bool PlayKind(const ProblemKind& kind, std::uint64_t seed, std::optional<int> pr
     const bool too_many = count > 1 && tally.refused > kind.most_refused * count;
     if (too_many)
         out << "  WRONG: more than " << kind.most_refused << " of the problems are refused\n";
+    out.flush();  // a run may be long
     return tally.wrong == 0 && !too_many;
 }
 
