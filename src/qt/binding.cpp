@@ -1,6 +1,7 @@
 #include "qt/binding.h"
 
 #include <QEvent>
+#include <QFocusEvent>
 #include <QPalette>
 #include <QScopedValueRollback>
 
@@ -93,9 +94,25 @@ void Binding::ShowColors() {
     m_widget.setAutoFillBackground(m_control.HasBackColor() && BackRole() == QPalette::Window);
 }
 
-bool Binding::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn && m_control.IsUsable())
+void Binding::Rest() {
+    m_is_resting = true;
+    m_widget.setFocus(Qt::OtherFocusReason);
+}
+
+void Binding::Wake() {
+    m_is_resting = false;
+    if (m_control.IsUsable())
         Form().UserFocused(m_control);
+}
+
+bool Binding::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn && !m_is_resting && m_control.IsUsable())
+        Form().UserFocused(m_control);
+    if (event->type() == QEvent::FocusOut) {
+        const auto reason = static_cast<QFocusEvent*>(event)->reason();
+        m_is_resting =
+            m_is_resting && (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason);
+    }
     return QObject::eventFilter(watched, event);
 }
 

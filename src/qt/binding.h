@@ -36,6 +36,13 @@ class Binding : public QObject {
     /// Shows everything, also after a change of the zoom.
     void RefreshAll();
 
+    /// The widget takes the keys while no control has the program's focus; the model is told only when the
+    /// user does something there.
+    void Rest();
+    bool IsResting() const { return m_is_resting; }
+    /// The user acts on a widget at which the keys only rested.
+    void Wake();
+
     /// Whether any change of the content renews the widget as a whole. Of such a one all changes of a handler
     /// are shown together, behind it.
     virtual bool IsRenewedWhole() const { return false; }
@@ -72,6 +79,7 @@ class Binding : public QObject {
     QWidget& m_widget;
     ViewContext& m_context;
     int m_refreshing = 0;
+    bool m_is_resting = false;
     std::pair<text::Color, text::Color> m_colors{text::kBlack, window::Control::kNoColor};
 };
 

@@ -33,10 +33,12 @@ QColor EdgeColor(const QStyleOption& option) {
 }
 
 void DrawRounded(const QStyleOption& option, QPainter& painter, const QColor& face, double scale) {
+    constexpr double kFocusedEdge = 2;
     const double radius = kCornerRadius * scale;
+    const bool has_focus = (option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_Enabled);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(EdgeColor(option));
+    painter.setPen(QPen(EdgeColor(option), has_focus ? kFocusedEdge * scale : 1));
     painter.setBrush(face);
     painter.drawRoundedRect(Inside(option.rect), radius, radius);
     painter.restore();
@@ -56,7 +58,42 @@ void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale) {
         painter.fillRect(tab.rect.left(), tab.rect.top(), tab.rect.width(), height,
                          tab.palette.color(QPalette::WindowText));
     }
+    if (tab.state & QStyle::State_HasFocus) {
+        constexpr int kInset = 3;
+        DrawFocusFrame(painter, tab.rect.adjusted(kInset, kInset, -kInset, -kInset), scale);
+    }
     painter.restore();
+}
+
+void DrawFocusFrame(QPainter& painter, const QRect& rect, double scale, bool is_held) {
+    const int width = std::max(2, qRound(2 * scale));
+    const auto frame = [&painter](const QRect& outer, int thickness, const QBrush& brush) {
+        painter.fillRect(outer.left(), outer.top(), outer.width(), thickness, brush);
+        painter.fillRect(outer.left(), outer.bottom() + 1 - thickness, outer.width(), thickness, brush);
+        painter.fillRect(outer.left(), outer.top(), thickness, outer.height(), brush);
+        painter.fillRect(outer.right() + 1 - thickness, outer.top(), thickness, outer.height(), brush);
+    };
+    frame(rect, width + 2, Qt::white);
+    const QColor dark = QColor::fromRgb(kFocus);
+    frame(rect.adjusted(1, 1, -1, -1), width, is_held ? QBrush(dark, Qt::Dense4Pattern) : QBrush(dark));
+}
+
+void DrawCellFocus(QPainter& painter, const QRect& cell) {
+    constexpr int kWidth = 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(QColor::fromRgb(kFocus), kWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(cell.adjusted(0, 0, -1, -1));
+    painter.restore();
+}
+
+void DrawHover(QPainter& painter, const QRect& rect, bool is_pressed) {
+    constexpr int kHoverStrength = 40;  // of 255
+    constexpr int kPressStrength = 90;
+    QColor color = QColor::fromRgb(kAccent);
+    color.setAlpha(is_pressed ? kPressStrength : kHoverStrength);
+    painter.fillRect(rect, color);
 }
 
 void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter& painter) {

@@ -19,6 +19,7 @@ inline constexpr QRgb kEdge = 0xffa9b4c0;
 inline constexpr QRgb kSoftEdge = 0xffc9d1da;
 inline constexpr QRgb kHeading = 0xffe6ebf1;
 inline constexpr QRgb kAccent = 0xff1d6fc4;
+inline constexpr QRgb kFocus = 0xff0b3d91;
 inline constexpr QRgb kChoice = 0xffbcd9f7;
 inline constexpr QRgb kFadedChoice = 0xffdbe6f0;
 inline constexpr QRgb kHeldSlider = 0xff7c8a99;
@@ -36,6 +37,13 @@ void DrawRounded(const QStyleOption& option, QPainter& painter, const QColor& fa
 /// A small triangle in the middle of a rectangle.
 void DrawArrow(const QStyleOption& option, const QRect& rect, Qt::ArrowType direction, QPainter& painter,
                double scale);
+/// The frame of what the keys are at, seen on any colour: dark between light lines; dashed while something is
+/// held.
+void DrawFocusFrame(QPainter& painter, const QRect& rect, double scale, bool is_held = false);
+/// The frame around a cell of a table, on its lines, so that the text stays clear.
+void DrawCellFocus(QPainter& painter, const QRect& cell);
+/// What lies below the pointer, or is pressed by it.
+void DrawHover(QPainter& painter, const QRect& rect, bool is_pressed);
 void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale);
 /// A bar without buttons at its ends.
 void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter& painter);

@@ -157,8 +157,16 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     const bool is_dialog = windowType() == Qt::Dialog;
     if (is_dialog && event->key() == Qt::Key_Escape)
         close();
+    else if (event->key() == Qt::Key_Escape && OnEscape)
+        OnEscape();
     else
         event->ignore();
+}
+
+bool FormWindow::focusNextPrevChild(bool next) {
+    if (OnTab)
+        OnTab();
+    return QWidget::focusNextPrevChild(next);
 }
 
 }  // namespace tavrelo::qt

@@ -61,12 +61,17 @@ class FormWindow : public QWidget {
     std::function<void()> OnResize;
     /// It was maximised, restored or the like.
     std::function<void()> OnWindowState;
+    /// The keys are about to go to the next control, or the one before.
+    std::function<void()> OnTab;
+    /// Escape, which no control took.
+    std::function<void()> OnEscape;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     void PlaceParts();

@@ -5,20 +5,17 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <cmath>
 
+#include "qt/flat_parts.h"
 #include "qt/keys.h"
 #include "qt/text.h"
 
 namespace tavrelo::qt {
 namespace {
-
-bool IsArrow(window::Key key) {
-    return key == window::Key::Left || key == window::Key::Right || key == window::Key::Up ||
-           key == window::Key::Down;
-}
 
 void SetUpHeading(QHeaderView& heading) {
     heading.setSectionsClickable(false);
@@ -189,7 +186,19 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
     m_grid.UserDblClick(cell.row, cell.col);
 }
 
+bool GridView::TakeMouseKey(const QKeyEvent& event) {
+    const bool is_double_click = event.key() == Qt::Key_F2 && event.modifiers() == Qt::NoModifier;
+    const bool is_press = event.key() == Qt::Key_Space && event.modifiers() == Qt::ControlModifier;
+    if (is_double_click)
+        m_grid.UserDblClick(m_grid.Row(), m_grid.Col());
+    else if (is_press)
+        m_grid.UserPress(m_grid.Row(), m_grid.Col());
+    return is_double_click || is_press;
+}
+
 bool GridView::TakeKey(const QKeyEvent& event) {
+    if (TakeMouseKey(event))
+        return true;
     const auto stroke = ToKeyStroke(event);
     if (stroke && m_grid.UserKeyDown(*stroke))
         return true;
@@ -245,6 +254,18 @@ QVariant GridView::inputMethodQuery(Qt::InputMethodQuery query) const {
     if (query == Qt::ImCursorRectangle)
         return visualRect(currentIndex());
     return QTableView::inputMethodQuery(query);
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(viewport());
+    const QRect cell = visualRect(currentIndex());
+    if (cell.isValid())
+        DrawCellFocus(painter, cell);
+    else
+        DrawFocusFrame(painter, viewport()->rect(), 1);
 }
 
 void GridView::focusInEvent(QFocusEvent*) {

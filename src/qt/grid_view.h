@@ -32,6 +32,7 @@ class GridView : public QTableView {
     void inputMethodEvent(QInputMethodEvent* event) override;
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     struct Cell {
@@ -49,6 +50,8 @@ class GridView : public QTableView {
     int ShowColumns(double pixels_per_twip);
     void ShowCorner(const QSize& size);
     bool TakeKey(const QKeyEvent& event);
+    /// The keys for what the mouse does to the current cell beyond choosing it.
+    bool TakeMouseKey(const QKeyEvent& event);
     void CopyBlock() const;
 
     window::Grid& m_grid;

@@ -50,6 +50,10 @@ bool IsPrintable(char32_t character) { return character != 0 && QChar::isPrint(c
 
 }  // namespace
 
+bool IsArrow(window::Key key) {
+    return key == Key::Left || key == Key::Right || key == Key::Up || key == Key::Down;
+}
+
 std::optional<window::KeyStroke> ToKeyStroke(const QKeyEvent& event) {
     window::KeyStroke stroke;
     stroke.shift = event.modifiers() & Qt::ShiftModifier;

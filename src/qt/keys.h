@@ -9,6 +9,7 @@
 
 namespace tavrelo::qt {
 
+bool IsArrow(window::Key key);
 /// The stroke that the model knows for a key event; nothing for keys that only the widgets and the desktop
 /// know.
 std::optional<window::KeyStroke> ToKeyStroke(const QKeyEvent& event);

@@ -116,6 +116,9 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
                                                                              : QColor::fromRgb(kSoftEdge));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            // The frame of a page has room for a second line.
+            if (qobject_cast<const QAbstractScrollArea*>(widget) && option->state & State_HasFocus)
+                painter->drawRect(option->rect.adjusted(1, 1, -2, -2));
             return;
         case PE_IndicatorArrowUp:
             DrawArrow(*option, option->rect, Qt::UpArrow, *painter, scale);
@@ -124,7 +127,7 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
             DrawArrow(*option, option->rect, Qt::DownArrow, *painter, scale);
             return;
         case PE_FrameFocusRect:
-            painter->setPen(QPen(QColor::fromRgb(kAccent), std::max(1, qRound(scale))));
+            painter->setPen(QPen(QColor::fromRgb(kFocus), std::max(1, qRound(scale))));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
             return;

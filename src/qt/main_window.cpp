@@ -9,7 +9,9 @@
 #include <functional>
 #include <utility>
 
+#include "qt/accessible_picture.h"
 #include "qt/fonts.h"
+#include "qt/shortcuts.h"
 #include "qt/zoom.h"
 
 namespace tavrelo::qt {
@@ -30,7 +32,10 @@ MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
       m_dialog_context{form, artwork},
       m_main(form.Get<window::Window>("Form1"), nullptr, Qt::Window),
       m_dialog(form.Get<window::Window>("Form2"), &m_main, Qt::Dialog),
-      m_bar(m_main) {
+      m_bar(m_main),
+      m_guide(form, m_main, m_dialog,
+              {[this](const window::Control& control) { return MadeBindingOf(control); },
+               [this](const QWidget* widget) { return BindingOf(widget); }}) {
     for (window::Control* control : form.Controls())
         if (control->Kind() != window::ControlKind::Window)
             m_unmade.push_back(control);
@@ -43,6 +48,7 @@ MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
     m_main.OnWindowState = [this] { m_asked_size = QSize(); };
     m_bar.OnZoom = [this](double zoom) { SetZoom(zoom); };
     m_bar.OnFit = [this] { FitToFrame(); };
+    m_guide.OnLastStop = [this](QWidget& last) { m_bar.FollowByTab(&last); };
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         // What is under a pressed button must not move away.
         if (now && QApplication::mouseButtons() == Qt::NoButton)
@@ -53,6 +59,7 @@ MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
         m_dialog.raise();
         m_dialog.activateWindow();
     };
+    InstallAccessiblePictures();
     qApp->installEventFilter(this);
 }
 
@@ -73,7 +80,6 @@ void MainWindow::MakeWidgets() {
         return;
     for (window::Control* control : shown)
         BindingOf(*control);
-    OrderTabs();
 }
 
 QWidget& MainWindow::ParentWidgetOf(const window::Control& control) {
@@ -109,22 +115,6 @@ void MainWindow::Stack(const window::Control& control, QWidget& widget) {
             raised->second->Widget().raise();
 }
 
-void MainWindow::OrderTabs() {
-    QWidget* previous = nullptr;
-    QWidget* last_of_page = nullptr;
-    for (window::Control* control : m_context.form.Controls()) {
-        const auto made = m_bindings.find(control);
-        if (made == m_bindings.end() || made->second->Widget().focusPolicy() == Qt::NoFocus)
-            continue;
-        if (previous && previous->window() == made->second->Widget().window())
-            QWidget::setTabOrder(previous, &made->second->Widget());
-        previous = &made->second->Widget();
-        if (previous->window() == &m_main)
-            last_of_page = previous;
-    }
-    m_bar.FollowByTab(last_of_page);
-}
-
 void MainWindow::MakeShortcuts() {
     const auto add = [this](const QKeySequence& keys, auto action) {
         auto* shortcut = new QShortcut(keys, &m_main);
@@ -135,6 +125,7 @@ void MainWindow::MakeShortcuts() {
     add(QKeySequence(Qt::CTRL | Qt::Key_Equal), [this, middle] { StepZoom(+1, middle()); });
     add(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this, middle] { StepZoom(-1, middle()); });
     add(QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); });
+    MakeProgramShortcuts(m_context.form, m_main, m_guide);
 }
 
 void MainWindow::Show() {
@@ -142,6 +133,7 @@ void MainWindow::Show() {
     ShowWindows();
     if (window::Control* focus = m_context.form.Focus())
         OnChange(*focus, window::Change::Focus);
+    m_guide.RestIfLost();
 }
 
 void MainWindow::ShowWindows() {
@@ -158,6 +150,11 @@ QWidget& MainWindow::WidgetOf(window::Control& control) {
     return BindingOf(control).Widget();
 }
 
+Binding* MainWindow::MadeBindingOf(const window::Control& control) const {
+    const auto found = m_bindings.find(&control);
+    return found == m_bindings.end() ? nullptr : found->second.get();
+}
+
 Binding* MainWindow::BindingOf(const QWidget* widget) const {
     for (; widget; widget = widget->parentWidget())
         if (const auto found = m_by_widget.find(widget); found != m_by_widget.end())
@@ -165,20 +162,16 @@ Binding* MainWindow::BindingOf(const QWidget* widget) const {
     return nullptr;
 }
 
-window::Control* MainWindow::FocusedControl() const {
-    const Binding* binding = BindingOf(QApplication::focusWidget());
-    if (!binding)
-        binding = BindingOf(m_main.focusWidget());
-    return binding ? &binding->Model() : nullptr;
-}
-
 void MainWindow::OnChange(window::Control& control, window::Change change) {
     const bool may_show = change == window::Change::State || change == window::Change::Selection;
     if (may_show)
         DropLostFocus();
-    if (control.Kind() == window::ControlKind::Window)
+    if (control.Kind() == window::ControlKind::Window) {
         ShowWindows();
-    else if (change == window::Change::Focus || m_bindings.contains(&control))
+        m_guide.RestSoon(control);
+    }
+    if (control.Kind() != window::ControlKind::Window &&
+        (change == window::Change::Focus || m_bindings.contains(&control)))
         ShowChange(BindingOf(control), change);
     if (control.Kind() == window::ControlKind::TabStrip && change == window::Change::Selection)
         RefreshPages(control);
@@ -220,8 +213,10 @@ void MainWindow::RefreshPages(const window::Control& strip) {
 void MainWindow::DropLostFocus() {
     for (FormWindow* window : {&m_main, &m_dialog}) {
         const Binding* focused = BindingOf(window->focusWidget());
-        if (focused && !focused->Model().IsUsable())
-            window->setFocus();
+        if (!focused || focused->Model().IsUsable())
+            continue;
+        window->setFocus();
+        m_guide.RestSoon(focused->Model());
     }
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "qt/binding.h"
+#include "qt/focus_guide.h"
 #include "qt/form_window.h"
 #include "qt/zoom_bar.h"
 
@@ -30,8 +31,8 @@ class MainWindow : public QObject {
     /// The widget that shows a control of the form, or its window.
     QWidget& WidgetOf(window::Control& control);
     /// The control with the keyboard focus, or the one that has it when the program's window is active; or
-    /// null.
-    window::Control* FocusedControl() const;
+    /// null, also while the keys only rest somewhere.
+    window::Control* FocusedControl() const { return m_guide.FocusedControl(); }
 
     /// The zoom of the program's page.
     double Zoom() const { return m_context.zoom; }
@@ -55,19 +56,18 @@ class MainWindow : public QObject {
     /// The binding of a control, made with those of its panels if need be.
     Binding& BindingOf(window::Control& control);
     QWidget& ParentWidgetOf(const window::Control& control);
-    /// Widgets lie over one another and follow by Tab in the order of the form's table, whenever they were
-    /// made.
+    /// Widgets lie over one another in the order of the form's table, whenever they were made.
     void Stack(const window::Control& control, QWidget& widget);
-    void OrderTabs();
     void OnChange(window::Control& control, window::Change change);
     /// Shows a change at once, or behind the handler when it would renew a whole table or text.
     void ShowChange(Binding& binding, window::Change change);
     void ShowLateChanges();
     void ShowWindows();
-    /// When the control in use becomes unusable, no other widget inherits the focus.
+    /// When the control in use becomes unusable, no other control inherits the program's focus.
     void DropLostFocus();
     void RefreshPages(const window::Control& strip);
     Binding* BindingOf(const QWidget* widget) const;
+    Binding* MadeBindingOf(const window::Control& control) const;
 
     void ApplyZoom(double zoom);
     /// Zooms around a place of the window.
@@ -86,6 +86,7 @@ class MainWindow : public QObject {
     std::vector<window::Control*> m_unmade;  // controls that were not in view yet
     std::unordered_map<const window::Control*, std::unique_ptr<Binding>> m_bindings;
     std::unordered_map<const QWidget*, Binding*> m_by_widget;
+    FocusGuide m_guide;
     struct LateChange {
         Binding* binding;
         window::Change change;  // a content is shown with its selection

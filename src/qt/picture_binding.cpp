@@ -21,6 +21,7 @@ class PictureBinding : public Binding {
         m_view.ShowPointer();
     }
     void ShowContent() override { m_view.update(); }
+    void ShowSelection() override { m_view.ShowCells(); }
 
   private:
     PictureView& m_view;

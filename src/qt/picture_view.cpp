@@ -1,7 +1,9 @@
 #include "qt/picture_view.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -9,6 +11,8 @@
 
 #include "qt/canvas.h"
 #include "qt/clipboard.h"
+#include "qt/flat_parts.h"
+#include "qt/keys.h"
 #include "qt/pointers.h"
 
 namespace tavrelo::qt {
@@ -16,10 +20,14 @@ namespace tavrelo::qt {
 PictureView::PictureView(window::Picture& model, QWidget& parent, const ViewContext& context)
     : QWidget(&parent), m_picture(model), m_context(context) {
     setMouseTracking(true);
+    if (model.HasCells())
+        setFocusPolicy(Qt::TabFocus);
 }
 
 void PictureView::SetMenu(bool has_menu) {
     m_has_menu = has_menu;
+    if (has_menu)
+        setFocusPolicy(Qt::TabFocus);
     setContextMenuPolicy(has_menu ? Qt::DefaultContextMenu : Qt::PreventContextMenu);
 }
 
@@ -42,12 +50,114 @@ void PictureView::paintEvent(QPaintEvent*) {
     if (m_has_menu)
         painter.fillRect(rect(), Qt::white);
     PaintRecording(painter, m_picture.Canvas(), m_context.zoom, m_context.artwork);
-    if (!m_has_menu)
-        return;
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    if (m_has_menu) {
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    PaintCells(painter);
+}
+
+void PictureView::PaintCells(QPainter& painter) const {
+    const auto cells = Cells();
+    const auto place_of = [&](int cell) {
+        return m_context.Scaled(cells[static_cast<std::size_t>(cell)].bounds);
+    };
+    if (m_pointed_cell >= 0 && m_pointed_cell < static_cast<int>(cells.size()) && underMouse())
+        DrawHover(painter, place_of(m_pointed_cell), m_is_pressed);
+    if (!hasFocus())
+        return;
+    const int current = m_picture.CurrentCell(cells);
+    const QRect place = current == window::kNoCell ? rect() : place_of(current);
+    DrawFocusFrame(painter, place & rect(), m_context.zoom, m_picture.HeldWith().has_value());
+}
+
+QRect PictureView::CellOnScreen(int cell) const {
+    const QRect place = m_context.Scaled(Cells()[static_cast<std::size_t>(cell)].bounds);
+    return {mapToGlobal(place.topLeft()), place.size()};
+}
+
+void PictureView::FocusCell(int cell) {
+    m_picture.UserGoToCell(cell);
+    setFocus(Qt::OtherFocusReason);
+}
+
+void PictureView::PressCell(int cell) {
+    m_picture.UserGoToCell(cell);
+    m_picture.UserChooseCell({});
+}
+
+void PictureView::ShowCells() {
+    update();
+    TellCurrentCell();
+}
+
+void PictureView::TellCurrentCell() {
+    const int current = hasFocus() && QAccessible::isActive() ? CurrentCell() : window::kNoCell;
+    if (current == window::kNoCell)
+        return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(current);
+    QAccessible::updateAccessibility(&event);
+}
+
+bool PictureView::TakeKey(const QKeyEvent& event) {
+    const bool asks_menu =
+        event.key() == Qt::Key_Menu || (event.key() == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+    if (asks_menu && m_has_menu) {
+        ShowMenu(mapToGlobal(rect().center()));
+        return true;
+    }
+    const auto stroke = ToKeyStroke(event);
+    const bool chooses = (stroke && stroke->key == window::Key::Enter) || event.key() == Qt::Key_Space;
+    if (m_picture.HasCells() && (asks_menu || chooses)) {
+        window::CellPress press;
+        press.button = asks_menu ? window::MouseButton::Right : window::MouseButton::Left;
+        press.shift = !asks_menu && event.modifiers().testFlag(Qt::ShiftModifier);
+        press.ctrl = event.modifiers().testFlag(Qt::ControlModifier);
+        press.alt = event.modifiers().testFlag(Qt::AltModifier);
+        m_picture.UserChooseCell(press);
+        return true;
+    }
+    if (!stroke)
+        return false;
+    if (stroke->key == window::Key::Escape && m_picture.HeldWith()) {
+        m_picture.UserLetGo();
+        return true;
+    }
+    const bool moves = !stroke->ctrl && !stroke->alt && !stroke->shift;
+    // At the edge the arrow is taken all the same: it must not turn into something else.
+    return moves && m_picture.HasCells() && (m_picture.UserMoveCell(stroke->key) || IsArrow(stroke->key));
+}
+
+void PictureView::keyPressEvent(QKeyEvent* event) {
+    if (!TakeKey(*event))
+        event->ignore();
+}
+
+void PictureView::focusInEvent(QFocusEvent*) {
+    update();
+    // The widget tells its own focus first.
+    QMetaObject::invokeMethod(
+        this, [this] { TellCurrentCell(); }, Qt::QueuedConnection);
+}
+
+void PictureView::focusOutEvent(QFocusEvent* event) {
+    const bool stays =
+        event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+    if (!stays)
+        m_picture.UserLetGo();
+    update();
+}
+
+void PictureView::leaveEvent(QEvent*) { PointAt(window::kNoCell); }
+
+void PictureView::PointAt(int cell) {
+    if (cell == m_pointed_cell)
+        return;
+    m_pointed_cell = cell;
+    update();
 }
 
 window::MouseStroke PictureView::ToStroke(const QMouseEvent& event) const {
@@ -67,23 +177,42 @@ bool PictureView::IsForModel(const QMouseEvent& event) const {
 }
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
-    if (IsForModel(*event))
-        m_picture.UserMouseDown(ToStroke(*event));
+    if (!IsForModel(*event))
+        return;
+    m_is_pressed = true;
+    update();
+    m_picture.UserMouseDown(ToStroke(*event));
 }
 
-void PictureView::mouseMoveEvent(QMouseEvent* event) { m_picture.UserMouseMove(ToStroke(*event)); }
+void PictureView::mouseMoveEvent(QMouseEvent* event) {
+    m_picture.UserMouseMove(ToStroke(*event));
+    const QPointF pixels = event->position() / m_context.zoom;
+    const auto cells = Cells();
+    const int cell = window::CellUnder(cells, {pixels.x(), pixels.y()});
+    const bool is_usable = cell != window::kNoCell && cells[static_cast<std::size_t>(cell)].enabled;
+    PointAt(is_usable ? cell : window::kNoCell);
+}
 
 void PictureView::mouseReleaseEvent(QMouseEvent* event) {
-    if (IsForModel(*event))
-        m_picture.UserMouseUp(ToStroke(*event));
+    if (!IsForModel(*event))
+        return;
+    m_is_pressed = false;
+    update();
+    m_picture.UserMouseUp(ToStroke(*event));
 }
 
 void PictureView::contextMenuEvent(QContextMenuEvent* event) {
+    // The key has its own way.
+    if (event->reason() != QContextMenuEvent::Keyboard)
+        ShowMenu(event->globalPos());
+}
+
+void PictureView::ShowMenu(const QPoint& place) {
     QMenu menu(this);
     menu.setFont(font());
     menu.addAction(QStringLiteral("Copiar imagen"), this, &PictureView::CopyImage);
     menu.addAction(QStringLiteral("Guardar imagen..."), this, &PictureView::SaveImage);
-    menu.exec(event->globalPos());
+    menu.exec(place);
 }
 
 void PictureView::CopyImage() const { SystemClipboard(m_context.artwork).SetPicture(m_picture.Canvas()); }

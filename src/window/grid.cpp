@@ -197,8 +197,12 @@ void Grid::UserDblClick(int row, int col) {
 }
 
 void Grid::UserNavigate(Key key, bool extend) {
-    if (m_row < 0)
+    if (m_row < 0) {
+        // The keys need a cell to begin with.
+        if (HasCell(m_fixed_rows, m_fixed_cols))
+            MoveTo(m_fixed_rows, m_fixed_cols);
         return;
+    }
     const Step step = StepOf(key);
     if (extend) {
         CellBlock block = m_dragged;

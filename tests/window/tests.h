@@ -51,6 +51,29 @@ class FocusTest : public QObject {
     void DoesNotJumpIntoTheDialog();
 };
 
+class KeyboardTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void RestsOnTheToolbarAtTheStart();
+    void MovesInsideTheToolbar();
+    void AltAndANumberPressTheToolbar();
+    void DialogTakesTheKeysAndGivesThemBack();
+    void HelpClosesByEscape();
+    void EscapeLeavesAGroup();
+    void KeysRestNearAControlThatIsDisabled();
+    void TabGoesThroughEveryTool();
+    void SolvesAParticle();
+    void SolvesABeam();
+    void RunsARoutine();
+    void ConfiguresAMotionTable();
+    void HeldKeysReachTheStrip();
+    void EveryCellDoesWhatItSays();
+    void ATableIsClickedByKeys();
+    void CellsAreAccessible();
+    void FocusIsSeen_data();
+    void FocusIsSeen();
+};
+
 class TypingTest : public QObject {
     Q_OBJECT
   private slots:

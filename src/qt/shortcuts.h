@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QWidget>
+
+#include "qt/focus_guide.h"
+#include "window/form1.h"
+
+namespace tavrelo::qt {
+
+/// The keys of the whole window: the toolbar's buttons, help, preferences, from panel to panel.
+void MakeProgramShortcuts(window::Form1& form, QWidget& window, FocusGuide& guide);
+
+}  // namespace tavrelo::qt
