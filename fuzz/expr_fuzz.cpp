@@ -2,11 +2,14 @@
 // nothing may crash or hang, no result may be infinite or not a number, and no text may come out broken or
 // out of proportion.
 
+#include <array>
+#include <bit>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -71,6 +74,54 @@ void CheckRoots(CExpression& expression) {
     }
 }
 
+/// What an evaluation came to: a number or the text of a failure.
+struct Outcome {
+    double number = 0.0;
+    std::string failure;
+};
+
+template <typename Evaluation>
+Outcome OutcomeOf(Evaluation evaluate) {
+    try {
+        return {evaluate(), {}};
+    } catch (const RuntimeFailure& failure) {
+        return {0.0, failure.what()};
+    }
+}
+
+void RequireEqual(const Outcome& a, const Outcome& b) {
+    Require(a.failure == b.failure, "another failure by the numeric form");
+    Require(std::bit_cast<std::uint64_t>(a.number) == std::bit_cast<std::uint64_t>(b.number),
+            "another value by the numeric form");
+}
+
+/// The first value of a formula comes from its program, the second and the columns from its numeric form.
+void CheckNumericForm(const std::string& text, const double& angle_factor) {
+    static constexpr std::array<std::array<double, 3>, 5> kPoints = {
+        {{0.5, 2, 3.25}, {-0.5, 2, 1e300}, {0, 0, 1}, {30, -7, 0.1}, {1e-160, 1e160, -2}}};
+    CExpression numeric(angle_factor);
+    try {
+        numeric.SetExpression(text);
+    } catch (const RuntimeFailure&) {
+        return;
+    }
+    for (std::size_t k = 0; k < kPoints.size(); ++k) {
+        CExpression fresh(angle_factor);
+        fresh.SetExpression(text);
+        const Outcome expected = OutcomeOf([&] { return fresh.EvaluateNumber(kPoints[k]); });
+        RequireEqual(OutcomeOf([&] { return numeric.EvaluateNumber(kPoints[k]); }), expected);
+        const std::array<double, 3> at = kPoints[k];
+        const std::array<double, 2> columns[] = {{at[0], at[0]}, {at[1], at[1]}, {at[2], at[2]}};
+        const std::span<const double> spans[] = {columns[0], columns[1], columns[2]};
+        std::array<double, 2> values{};
+        const Outcome column = OutcomeOf([&] {
+            numeric.EvaluateColumn(spans, values);
+            return values[1];
+        });
+        RequireEqual(column, expected);
+    }
+}
+
 void CheckFormula(const std::string& text, const double& angle_factor) {
     CExpression expression(angle_factor);
     Try([&] { expression.SetExpression(text); });
@@ -84,6 +135,7 @@ void CheckFormula(const std::string& text, const double& angle_factor) {
     const std::vector<double> numbers = {-0.5, 2, 1e300};
     Try([&] { Require(std::isfinite(expression.EvaluateNumber(numbers)), "number is not finite"); });
     CheckRoots(expression);
+    CheckNumericForm(text, angle_factor);
 }
 
 void CheckPostfix(const std::string& text) {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "expr/numeric_program.h"
 #include "expr/parser.h"
 #include "expr/program.h"
 #include "expr/variables.h"
@@ -58,7 +61,7 @@ class CExpression {
     VariablePtr Variable(const text::Value& var_name, bool create_if_needed);
     /// Puts a variable (not null) in its place by name, instead of one of the same name; its 1-based
     /// position.
-    int AddVariable(VariablePtr new_var) { return m_variables.Add(std::move(new_var)); }
+    int AddVariable(VariablePtr new_var);
     int VariablesCount() const { return m_variables.Count(); }
 
     int RootsCount() const { return static_cast<int>(m_roots.size()); }
@@ -75,6 +78,16 @@ class CExpression {
     /// RuntimeFailure whatever RaiseErrors says. Allocates nothing.
     double EvaluateNumber(std::span<const double> vars = {});
 
+    /// EvaluateNumber at many points, in their order: `columns` holds a column of numbers for each of the
+    /// first variables by name, all as long as `values`. Faster than point by point where the points are
+    /// known beforehand. When a point fails, so does the call, as that point; the values before it are
+    /// written then.
+    void EvaluateColumn(std::span<const std::span<const double>> columns, std::span<double> values);
+    /// The same with a column for the first variable only.
+    void EvaluateColumn(std::span<const double> column, std::span<double> values) {
+        EvaluateColumn(std::span(&column, 1), values);
+    }
+
     /// Assigns the formula and evaluates it.
     text::Value Evaluate(std::string expr, std::span<const text::Value> vars);
 
@@ -90,8 +103,18 @@ class CExpression {
   private:
     bool IsEvaluable() const { return m_program.complete && ErrorCode() == 0; }
     Operand RunProgram() const { return Run(m_program, *m_angle_factor); }
-    template <typename Argument>
-    void AssignVariables(std::span<const Argument> vars);
+    void AssignVariables(std::span<const text::Value> vars);
+    void AssignVariables(std::span<const double> vars);
+
+    using Columns = std::span<const std::span<const double>>;
+    void ForgetNumeric();
+    void PrepareNumeric();
+    double RunNumber();
+    bool TakeNumbers(std::size_t first, std::span<double> numbers) const;
+    bool EvaluateBlock(Columns columns, std::span<const double> held, std::size_t first,
+                       std::span<double> values);
+    void EvaluatePoints(Columns columns, std::size_t first, std::span<double> values);
+    void AssignPoint(Columns columns, std::size_t point);
 
     const double* m_angle_factor;
     std::string m_expression;
@@ -99,6 +122,12 @@ class CExpression {
     VariableList m_variables;
     std::vector<double> m_roots;
     Program m_program;
+
+    /// How far the numeric form of the formula has come. It is made for the second value only, so that what
+    /// is asked once does not pay for it.
+    enum class NumericState : unsigned char { Unused, UsedOnce, Tried };
+    NumericProgram m_numeric;
+    NumericState m_numeric_state = NumericState::Unused;
 };
 
 }  // namespace tavrelo::expr

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
+#include "expr/kernels.h"
 #include "numeric/angles.h"
 #include "numeric/checked.h"
 #include "text/number_text.h"
@@ -22,9 +23,17 @@ constexpr double kHalfTurnDegrees = 180.0;
 
 double Reciprocal(double x) { return CheckedDivide(1.0, x); }
 
-double Sine(double angle, double factor) { return Finite(std::sin(angle * factor)); }
-double Cosine(double angle, double factor) { return Finite(std::cos(angle * factor)); }
-double Tangent(double angle, double factor) { return Finite(std::tan(angle * factor)); }
+double Sine(double angle, double factor) { return Finite(SineOf(angle, factor)); }
+double Cosine(double angle, double factor) { return Finite(CosineOf(angle, factor)); }
+double Tangent(double angle, double factor) { return Finite(TangentOf(angle, factor)); }
+double ArcTangent(double x) { return Finite(ArcTangentOf(x)); }
+
+double CheckedPower(double base, double exponent) {
+    if (base == 0.0 && exponent < 0.0) {
+        numeric::ThrowDivisionByZero();
+    }
+    return Finite(Power(base, exponent));
+}
 
 double SignOf(double x) { return x > 0.0 ? 1.0 : x < 0.0 ? -1.0 : 0.0; }
 
@@ -55,24 +64,8 @@ double Leg(double a, double b) {
     return numeric::CheckedSqrt(a > b ? first - second : second - first);
 }
 
-/// Rounded to twelve decimals, a >= b. Rounding keeps the order, so only numbers that are almost equal need
-/// it.
-bool IsAtLeast(double a, double b) {
-    constexpr int kDecimals = 12;
-    constexpr double kFarApart = 1e-11;
-    constexpr double kRelativelyFarApart = 1e-13;
-    if (a >= b) {
-        return true;
-    }
-    if (b - a > kFarApart + kRelativelyFarApart * std::max(std::abs(a), std::abs(b))) {
-        return false;
-    }
-    return text::RoundTo(a, kDecimals) >= text::RoundTo(b, kDecimals);
-}
-
-/// (x - a)^n behind a, 0 before it: the step functions of beam theory.
 double StepPower(double n, double x, double a) {
-    return IsAtLeast(x, a) ? numeric::CheckedPower(numeric::CheckedSubtract(x, a), n) : 0.0;
+    return IsAtLeast(x, a) ? CheckedPower(numeric::CheckedSubtract(x, a), n) : 0.0;
 }
 
 double IsWithin(double x, double low, double high) {
@@ -94,7 +87,7 @@ constexpr UnaryRow kUnary[] = {
     {Token::Fix, [](double x, double) { return std::trunc(x); }},
     {Token::Sgn, [](double x, double) { return SignOf(x); }},
     {Token::R, [](double x, double) { return numeric::CheckedSqrt(x); }},
-    {Token::R3, [](double x, double) { return numeric::CheckedPower(x, 1.0 / 3.0); }},
+    {Token::R3, [](double x, double) { return CheckedPower(x, 1.0 / 3.0); }},
     {Token::Ln, [](double x, double) { return numeric::CheckedLog(x); }},
     {Token::Log10, [](double x, double) { return numeric::CheckedLog(x) / std::log(10.0); }},
     {Token::Exp, [](double x, double) { return numeric::CheckedExp(x); }},
@@ -104,10 +97,10 @@ constexpr UnaryRow kUnary[] = {
     {Token::Cot, [](double x, double factor) { return Reciprocal(Tangent(x, factor)); }},
     {Token::Csc, [](double x, double factor) { return Reciprocal(Sine(x, factor)); }},
     {Token::Sec, [](double x, double factor) { return Reciprocal(Cosine(x, factor)); }},
-    {Token::Atan, [](double x, double) { return numeric::ArcTanD(x); }},
+    {Token::Atan, [](double x, double) { return ArcTangent(x); }},
     {Token::Asen, [](double x, double) { return numeric::ArcSinD(x); }},
     {Token::Acos, [](double x, double) { return numeric::ArcCosD(x); }},
-    {Token::Acot, [](double x, double) { return kRightAngleDegrees - numeric::ArcTanD(x); }},
+    {Token::Acot, [](double x, double) { return kRightAngleDegrees - ArcTangent(x); }},
     {Token::Acsc, [](double x, double) { return numeric::ArcSinD(Reciprocal(x)); }},
     {Token::Asec, [](double x, double) { return numeric::ArcCosD(Reciprocal(x)); }},
     {Token::Senh, [](double x, double) { return numeric::SinH(x); }},
@@ -120,7 +113,7 @@ struct BinaryRow {
 };
 
 constexpr BinaryRow kBinary[] = {
-    {Token::Power, [](double a, double b, double) { return numeric::CheckedPower(a, b); }},
+    {Token::Power, [](double a, double b, double) { return CheckedPower(a, b); }},
     {Token::Product, [](double a, double b, double) { return Finite(a * b); }},
     {Token::Quotient, [](double a, double b, double) { return CheckedDivide(a, b); }},
     {Token::IntegerQuotient, [](double a, double b, double) { return IntegerQuotient(a, b); }},
@@ -186,6 +179,20 @@ constexpr auto kOperations = [] {
 }();
 
 }  // namespace
+
+/// Rounding keeps the order, so only numbers that are almost equal need it.
+bool IsAtLeast(double a, double b) {
+    constexpr int kDecimals = 12;
+    constexpr double kFarApart = 1e-11;
+    constexpr double kRelativelyFarApart = 1e-13;
+    if (a >= b) {
+        return true;
+    }
+    if (b - a > kFarApart + kRelativelyFarApart * std::max(std::abs(a), std::abs(b))) {
+        return false;
+    }
+    return text::RoundTo(a, kDecimals) >= text::RoundTo(b, kDecimals);
+}
 
 const Operation& OperationOf(Token token) { return kOperations[static_cast<std::size_t>(token)]; }
 

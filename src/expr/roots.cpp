@@ -21,8 +21,7 @@ struct Point {
 
 class RootScan {
   public:
-    RootScan(const ScannedFunction& function, double tolerance)
-        : m_function(function), m_tolerance(tolerance) {}
+    RootScan(ScannedFunction function, double tolerance) : m_function(function), m_tolerance(tolerance) {}
 
     std::vector<double> Run(const ScanRange& range);
 
@@ -30,7 +29,7 @@ class RootScan {
     bool Evaluate(Point& point) const;
     void RefineBracket();
 
-    const ScannedFunction& m_function;
+    ScannedFunction m_function;
     double m_tolerance;
     Point m_left;
     Point m_right;
@@ -86,7 +85,7 @@ std::vector<double> RootScan::Run(const ScanRange& range) {
 
 }  // namespace
 
-std::vector<double> ScanRoots(const ScannedFunction& function, ScanRange range) {
+std::vector<double> ScanRoots(ScannedFunction function, ScanRange range) {
     if (range.low > range.high) {
         range.high = range.low;
     }

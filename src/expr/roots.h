@@ -1,12 +1,13 @@
 #pragma once
 
-#include <functional>
 #include <vector>
+
+#include "numeric/function_ref.h"
 
 namespace tavrelo::expr {
 
 /// The value at x; fails with a RuntimeFailure where there is none.
-using ScannedFunction = std::function<double(double x)>;
+using ScannedFunction = numeric::RealFunction;
 
 struct ScanRange {
     double low;
@@ -23,6 +24,6 @@ struct ScanRange {
 /// With low > high one step is searched from `low`; an interval of 0 or less is a 200th of the range. A scan
 /// that makes no headway, of more than 100000 steps or with limits that are not finite ends at once with the
 /// roots it has.
-std::vector<double> ScanRoots(const ScannedFunction& function, ScanRange range);
+std::vector<double> ScanRoots(ScannedFunction function, ScanRange range);
 
 }  // namespace tavrelo::expr

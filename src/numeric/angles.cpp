@@ -8,7 +8,6 @@ namespace tavrelo::numeric {
 
 namespace {
 
-constexpr double kWholeDegreeTolerance = 1e-12;
 constexpr double kQuarterTurn = 90.0;
 constexpr double kEighthTurn = 45.0;
 constexpr double kHalfTurn = 180.0;
@@ -39,11 +38,6 @@ ClockReading RightHalfReading(double a) {
 }
 
 }  // namespace
-
-double WholeDegrees(double degrees) {
-    const double whole = std::nearbyint(degrees);
-    return whole != 0.0 && std::abs(degrees - whole) <= kWholeDegreeTolerance ? whole : degrees;
-}
 
 double SinH(double x) { return (CheckedExp(x) - CheckedExp(-x)) * 0.5; }
 double CosH(double x) { return (CheckedExp(x) + CheckedExp(-x)) * 0.5; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 namespace tavrelo::numeric {
 
 // The program's own fifteen-digit constants; every result in degrees is built on them.
@@ -13,7 +15,14 @@ inline constexpr double kDirectionTolerance = 1e-6;
 
 /// A result in degrees within 1e-12 of a whole number other than 0 is that whole number: the constants above
 /// are a hair too large, and 90 must be 90. Nothing else is rounded.
-double WholeDegrees(double degrees);
+inline double WholeDegrees(double degrees) {
+    constexpr double kWholeDegreeTolerance = 1e-12;
+    // From here on a double has no place for a fraction, and a smaller one added to it is rounded to a whole
+    // number, ties to even.
+    constexpr double kNoFraction = 6755399441055744.0;  // 1.5 times 2 to the power 52
+    const double whole = (degrees + kNoFraction) - kNoFraction;
+    return whole != 0.0 && std::abs(degrees - whole) <= kWholeDegreeTolerance ? whole : degrees;
+}
 
 double SinH(double x);
 double CosH(double x);

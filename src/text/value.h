@@ -25,6 +25,15 @@ class Value {
     const double* IfNumber() const { return std::get_if<double>(&m_data); }
     const std::string* IfText() const { return std::get_if<std::string>(&m_data); }
 
+    /// Becomes that number; without a temporary where a number was held before.
+    void SetNumber(double number) {
+        if (double* held = std::get_if<double>(&m_data)) {
+            *held = number;
+        } else {
+            m_data = number;
+        }
+    }
+
     /// The number, or the number that the text writes (see ToNumber); nothing counts as 0.
     /// Fails with TypeMismatch on any other text.
     double Number() const;
