@@ -1,5 +1,7 @@
 #include "expr/lexer.h"
 
+#include <cstdint>
+
 #include "text/number_text.h"
 
 namespace tavrelo::expr {
@@ -12,15 +14,6 @@ bool IsNameCharacter(char c) { return IsLetter(c) || IsDigit(c) || c == '_'; }
 bool IsSign(char c) { return c == '+' || c == '-'; }
 
 }  // namespace
-
-bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-void Lexer::SkipBlanks() {
-    while (Peek() == ' ') {
-        ++m_position;
-    }
-}
 
 void Lexer::SkipDigits() {
     while (IsDigit(Peek())) {
@@ -53,7 +46,33 @@ std::string_view Lexer::ParseName() {
     return name;
 }
 
+std::optional<double> ScanShortNumber(std::string_view number) {
+    constexpr std::size_t kExactDigits = 15;
+    static constexpr double kPowersOfTen[kExactDigits + 1] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                              1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    if (number.size() > kExactDigits || number.find_first_of("0123456789") == std::string_view::npos) {
+        return std::nullopt;
+    }
+    std::int64_t digits = 0;
+    std::size_t decimals = 0;
+    bool behind_point = false;
+    for (const char c : number) {
+        if (IsDigit(c)) {
+            digits = 10 * digits + (c - '0');
+            decimals += behind_point ? 1 : 0;
+        } else if (c == '.' && !behind_point) {
+            behind_point = true;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return static_cast<double>(digits) / kPowersOfTen[decimals];
+}
+
 double ScanNumber(std::string_view number) {
+    if (const auto value = ScanShortNumber(number)) {
+        return *value;
+    }
     const std::size_t letter = number.find_first_of(kExponentLetters);
     const std::string_view mantissa = number.substr(0, letter);
     if (mantissa.find_first_of("0123456789") == std::string_view::npos) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace tavrelo::expr {
@@ -25,7 +26,11 @@ class Lexer {
     char Previous() const { return m_text[m_position - 1]; }
 
     /// Blanks only: a tab or a line end is no separator.
-    void SkipBlanks();
+    void SkipBlanks() {
+        while (Peek() == ' ') {
+            ++m_position;
+        }
+    }
 
     /// Digits, maybe a point and digits, maybe one of EeDd with a sign and digits; each part may be empty.
     std::string_view ParseNumber();
@@ -40,8 +45,13 @@ class Lexer {
     std::size_t m_position = 0;
 };
 
-bool IsLetter(char c);
-bool IsDigit(char c);
+inline bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+inline bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// The value of a number of ParseNumber that is digits alone, maybe with a point among them, few enough that
+/// their digits and the power of ten are exact doubles and so the quotient is the nearest one. Nothing for
+/// any other.
+std::optional<double> ScanShortNumber(std::string_view number);
 
 /// The value of a number of ParseNumber that holds a point, read as far as it goes: a missing mantissa is 0
 /// and an exponent without digits is dropped. Fails with Overflow past the range of a double.

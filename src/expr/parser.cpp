@@ -1,5 +1,6 @@
 #include "expr/parser.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -165,7 +166,12 @@ void Parser::ParseNumber() {
         instruction.kind = OperandKind::Number;
     } else {
         instruction.text = literal;
-        instruction.kind = ClassifyText(instruction.text, instruction.number);
+        if (const auto value = ScanShortNumber(literal)) {
+            instruction.number = *value;
+            instruction.kind = OperandKind::NumericText;
+        } else {
+            instruction.kind = ClassifyText(instruction.text, instruction.number);
+        }
     }
     if (negated) {
         instruction.number = -NumberOf({instruction.number, &instruction.text, instruction.kind});
@@ -355,6 +361,8 @@ ParseError ParseExpression(std::string_view text, VariableList& variables, bool 
                            Program& program) {
     program.complete = false;
     program.instructions.clear();
+    // No token is shorter than a character.
+    program.instructions.reserve(std::min(text.size(), kMaxInstructions));
     return Parser(text, variables, create_variables, program).Run();
 }
 

@@ -132,17 +132,34 @@ constexpr auto kFunctions = [] {
     return functions;
 }();
 
+/// The operator of one sign alone, by its character: most of them, and no other begins with it.
+constexpr auto kSingleSigns = [] {
+    std::array<Token, 128> signs{};
+    for (const char* sign = ",)^*/\\+-="; *sign != '\0'; ++sign) {
+        for (std::size_t id = IndexOf(kFirstOperator); id <= IndexOf(kLastOperator); ++id) {
+            if (kRows[id].name == std::string_view(sign, 1)) {
+                signs[static_cast<unsigned char>(*sign)] = static_cast<Token>(id);
+            }
+        }
+    }
+    return signs;
+}();
+
 bool StandsAt(std::string_view text, std::size_t position, std::string_view name) {
     return text::EqualIgnoringCase(text.substr(position, name.size()), name);
 }
 
 }  // namespace
 
-const TokenRow& RowOf(Token token) { return kRows[IndexOf(token)]; }
+const std::array<TokenRow, kTokenCount> kTokenRows = kRows;
 
 Token FindOperator(std::string_view text, std::size_t position) {
     if (position >= text.size()) {
         return Token::End;
+    }
+    const auto character = static_cast<unsigned char>(text[position]);
+    if (character < kSingleSigns.size() && kSingleSigns[character] != Token::None) {
+        return kSingleSigns[character];
     }
     const char first = ToCapital(text[position]);
     for (std::size_t id = IndexOf(kFirstOperator); id <= IndexOf(kLastOperator); ++id) {

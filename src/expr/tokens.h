@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -95,7 +97,9 @@ struct TokenRow {
     int args = 0;  // 0 for operators and constants, kCloser, else the number of arguments
 };
 
-const TokenRow& RowOf(Token token);
+extern const std::array<TokenRow, kTokenCount> kTokenRows;
+
+inline const TokenRow& RowOf(Token token) { return kTokenRows[static_cast<std::size_t>(token)]; }
 
 /// The operator whose text stands at `position` (any case), or None. The byte behind the text counts as the
 /// NUL that ends a formula.

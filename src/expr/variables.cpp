@@ -12,6 +12,15 @@ VariablePtr VariableList::At(int position) const {
 }
 
 VariablePtr VariableList::Find(std::string_view name) const {
+    // Most names are one letter.
+    if (name.size() == 1 && static_cast<unsigned char>(name.front()) < 0x80) {
+        for (const Entry& entry : m_entries) {
+            if (text::EqualIgnoringCase(entry.key, name)) {
+                return entry.variable;
+            }
+        }
+        return nullptr;
+    }
     const std::string key = text::ToUpper(name);
     const auto entry = std::find_if(m_entries.begin(), m_entries.end(),
                                     [&](const Entry& candidate) { return candidate.key == key; });
