@@ -53,7 +53,11 @@ DerivativeEstimate Derivative(RealFunction f, double x, double h) {
 }
 
 double SecondDeriv(RealFunction f, double x, double h) {
-    const double sum = -f(x + 2.0 * h) + 16.0 * f(x + h) - 30.0 * f(x) + 16.0 * f(x - h) - f(x - 2.0 * h);
+    return SecondDifference({f(x + 2.0 * h), f(x + h), f(x), f(x - h), f(x - 2.0 * h)}, h);
+}
+
+double SecondDifference(const std::array<double, 5>& values, double h) {
+    const double sum = -values[0] + 16.0 * values[1] - 30.0 * values[2] + 16.0 * values[3] - values[4];
     return CheckedDivide(sum, 12.0 * h * h);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "numeric/function_ref.h"
 
 namespace tavrelo::numeric {
@@ -17,5 +19,7 @@ DerivativeEstimate Derivative(RealFunction f, double x, double h);
 /// The second derivative of f at x by the central difference of five points x - 2h to x + 2h. Fails with
 /// DivisionByZero for h = 0 (or an h whose square is too small for a double) and with what f fails with.
 double SecondDeriv(RealFunction f, double x, double h);
+/// The same from the five values, from x + 2h down to x - 2h.
+double SecondDifference(const std::array<double, 5>& values, double h);
 
 }  // namespace tavrelo::numeric

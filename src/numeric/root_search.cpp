@@ -1,7 +1,10 @@
 #include "numeric/root_search.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
+#include <span>
 #include <utility>
 
 #include "numeric/checked.h"
@@ -27,31 +30,58 @@ struct Bracket {
 /// Walks the samples from left to right and stops at the cells in which the sign changes.
 class SignScan {
   public:
-    SignScan(RealFunction f, double left, double right)
-        : m_f(f), m_left(left), m_step(CheckedSubtract(right, left) / kRootCells), m_last(Take(0)) {}
+    SignScan(SampledFunction f, double left, double right)
+        : m_f(f), m_left(left), m_step(CheckedSubtract(right, left) / kRootCells), m_last(Value(0)) {}
 
     /// The next change of sign; false at the end.
     bool FindNext(Bracket& bracket);
 
   private:
-    // A multiple of the step, not a running sum: the samples stay where the interval's ends put them.
-    Sample Take(int k) const {
-        const double x = m_left + k * m_step;
-        return {x, Finite(m_f(x))};
-    }
+    static constexpr int kBlock = static_cast<int>(kSampleBlock);
 
-    RealFunction m_f;
+    // A multiple of the step, not a running sum: the samples stay where the interval's ends put them.
+    double Place(int k) const { return m_left + k * m_step; }
+    double Value(int k);
+    void FillBlock(int first);
+
+    SampledFunction m_f;
     double m_left;
     double m_step;
-    Sample m_last;
+    std::array<double, kSampleBlock> m_places;
+    std::array<double, kSampleBlock> m_values;
+    bool m_block_failed = false;
+    double m_last;  // the value at the left end of the next cell
     int m_next = 1;
 };
 
+void SignScan::FillBlock(int first) {
+    const auto count = static_cast<std::size_t>(std::min(kBlock, kRootCells + 1 - first));
+    for (std::size_t i = 0; i < count; ++i) {
+        m_places[i] = Place(first + static_cast<int>(i));
+    }
+    try {
+        m_f.Column(std::span(m_places).first(count), std::span(m_values).first(count));
+        m_block_failed = false;
+    } catch (const RuntimeFailure&) {
+        m_block_failed = true;
+    }
+}
+
+/// In a block where a sample fails each is taken by itself, so that only one that is reached does harm.
+double SignScan::Value(int k) {
+    if (k % kBlock == 0) {
+        FillBlock(k);
+    }
+    return Finite(m_block_failed ? m_f(Place(k)) : m_values[static_cast<std::size_t>(k % kBlock)]);
+}
+
 bool SignScan::FindNext(Bracket& bracket) {
     while (m_next <= kRootCells) {
-        bracket = {m_last, Take(m_next++)};
-        m_last = bracket.right;
-        if (CheckedMultiply(bracket.left.y, bracket.right.y) < 0.0) {
+        const int k = m_next++;
+        const double value = Value(k);
+        const double last = std::exchange(m_last, value);
+        if (CheckedMultiply(last, value) < 0.0) {
+            bracket = {{Place(k - 1), last}, {Place(k), value}};
             return true;
         }
     }
@@ -68,22 +98,26 @@ bool HasMore(SignScan& scan) {
     }
 }
 
-std::vector<Bracket> FindBrackets(RealFunction f, double left, double right, bool& more) {
+struct Brackets {
+    std::array<Bracket, kMostRoots> found;
+    std::size_t count = 0;
+    bool more = false;
+};
+
+void FindBrackets(SampledFunction f, double left, double right, Brackets& brackets) {
     SignScan scan(f, left, right);
-    std::vector<Bracket> brackets;
     Bracket bracket;
-    while (brackets.size() < static_cast<std::size_t>(kMostRoots)) {
+    while (brackets.count < brackets.found.size()) {
         if (!scan.FindNext(bracket)) {
-            return brackets;
+            return;
         }
-        brackets.push_back(bracket);
+        brackets.found[brackets.count++] = bracket;
     }
-    more = HasMore(scan);
-    return brackets;
+    brackets.more = HasMore(scan);
 }
 
 /// The root moves from the end with the negative value towards the other one.
-double Bisect(RealFunction f, const Bracket& bracket) {
+double Bisect(SampledFunction f, const Bracket& bracket) {
     const bool rises = bracket.left.y < 0.0;
     double root = rises ? bracket.left.x : bracket.right.x;
     double dx = rises ? bracket.right.x - bracket.left.x : bracket.left.x - bracket.right.x;
@@ -91,9 +125,8 @@ double Bisect(RealFunction f, const Bracket& bracket) {
         dx *= 0.5;
         const double middle = root + dx;
         const double value = Finite(f(middle));
-        if (value <= 0.0) {
-            root = middle;
-        }
+        // No branch: which half it is cannot be predicted.
+        root += value <= 0.0 ? dx : 0.0;
         if (std::abs(dx) < kNarrowCell || std::abs(value) < kSmallValue) {
             break;
         }
@@ -101,9 +134,14 @@ double Bisect(RealFunction f, const Bracket& bracket) {
     return root;
 }
 
-FoundRoots Search(RealFunction f, double left, double right) {
+FoundRoots Search(SampledFunction f, double left, double right) {
+    Brackets brackets;
+    FindBrackets(f, left, right, brackets);
     FoundRoots found;
-    for (const Bracket& bracket : FindBrackets(f, left, right, found.more)) {
+    found.more = brackets.more;
+    found.roots.reserve(brackets.count);
+    found.values.reserve(brackets.count);
+    for (const Bracket& bracket : std::span(brackets.found).first(brackets.count)) {
         found.roots.push_back(Bisect(f, bracket));
         found.values.push_back(Finite(f(found.roots.back())));
     }
@@ -117,7 +155,7 @@ std::string_view TextOf(RootsRefusal refusal) {
                                          : "Ocurrió un error en el cálculo de las raíces.";
 }
 
-std::variant<RootsRefusal, FoundRoots> FindRoots(RealFunction f, double a, double b) {
+std::variant<RootsRefusal, FoundRoots> FindRoots(SampledFunction f, double a, double b) {
     try {
         FoundRoots found = a <= b ? Search(f, a, b) : Search(f, b, a);
         if (found.roots.empty()) {

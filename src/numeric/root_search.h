@@ -4,7 +4,7 @@
 #include <variant>
 #include <vector>
 
-#include "numeric/function_ref.h"
+#include "numeric/sampled_function.h"
 
 namespace tavrelo::numeric {
 
@@ -28,6 +28,7 @@ struct FoundRoots {
 /// The roots of f between a and b, in either order: the changes of sign from sample to sample, each refined
 /// by at most 40 halvings until the cell is below 1e-6 or the value below 1e-10. It goes by sign, so a pole
 /// counts as a root, and a root that falls on a sample, like every root without a change of sign, is missed.
-std::variant<RootsRefusal, FoundRoots> FindRoots(RealFunction f, double a, double b);
+/// The samples are taken by columns, so f may be asked for some behind the last one that counts.
+std::variant<RootsRefusal, FoundRoots> FindRoots(SampledFunction f, double a, double b);
 
 }  // namespace tavrelo::numeric
