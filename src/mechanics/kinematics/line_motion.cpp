@@ -1,6 +1,7 @@
 #include "mechanics/kinematics/line_motion.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "mechanics/kinematics/time_steps.h"
@@ -35,6 +36,11 @@ class Equation {
     double At(double t, const numeric::OdeState& y) {
         const double values[] = {t, y[0], y[1]};
         return Finite(m_formula.At(std::span(values).first(static_cast<std::size_t>(m_order) + 1)));
+    }
+    /// The formula along a table of times and states.
+    std::vector<double> AtAll(const numeric::OdeTable& table) {
+        return m_order == 1 ? m_formula.AtAll({table.x, table.y[0]})
+                            : m_formula.AtAll({table.x, table.y[0], table.y[1]});
     }
     /// Carries the state on to the time t; false when there are too many steps.
     bool MoveTo(double t) {
@@ -79,6 +85,23 @@ std::vector<double> Sampled(const std::vector<double>& times, auto&& function) {
     return values;
 }
 
+/// numeric::SecondDeriv at all times, its five points taken by columns.
+std::vector<double> SecondDerivatives(MotionFormula& formula, const std::vector<double>& times, double step) {
+    constexpr std::array<double, 5> kPlaces = {2.0, 1.0, 0.0, -1.0, -2.0};
+    std::array<std::vector<double>, kPlaces.size()> values;
+    std::vector<double> places(times.size());
+    for (std::size_t i = 0; i < kPlaces.size(); ++i) {
+        std::transform(times.begin(), times.end(), places.begin(),
+                       [&](double t) { return t + kPlaces[i] * step; });
+        values[i] = formula.AtAll({places});
+    }
+    std::vector<double> derivatives(times.size());
+    for (std::size_t k = 0; k < times.size(); ++k)
+        derivatives[k] = numeric::SecondDifference(
+            {values[0][k], values[1][k], values[2][k], values[3][k], values[4][k]}, step);
+    return derivatives;
+}
+
 LineCurves SamplePosition(const LineMotion& motion, double t0, double t1, const CurveChoice& choice,
                           const double& angle_factor) {
     MotionFormula formula(motion.formula, 1, angle_factor);
@@ -86,12 +109,12 @@ LineCurves SamplePosition(const LineMotion& motion, double t0, double t1, const 
     LineCurves curves = {EqualSteps(t0, t1, kGraphSteps), {}, {}, {}};
     const double step = (t1 - t0) / kGraphSteps;
     if (choice.x)
-        curves.x = Sampled(curves.t, x);
+        curves.x = formula.AtAll({curves.t});
     if (choice.v)
         curves.v = Sampled(curves.t,
                            [&](double t) { return numeric::Derivative(x, t, kGraphDerivativeStep).value; });
     if (choice.a)
-        curves.a = Sampled(curves.t, [&](double t) { return numeric::SecondDeriv(x, t, step); });
+        curves.a = SecondDerivatives(formula, curves.t, step);
     return curves;
 }
 
@@ -104,9 +127,7 @@ std::variant<LineCurves, TooManySteps> SampleEquation(const LineMotion& motion, 
     if (table.x.size() < 2)
         throw numeric::RuntimeFailure(numeric::FailureCode::OutOfDomain, "times of a graph too close");
     LineCurves curves = {table.x, {}, {}, {}};
-    std::vector<double> formula;
-    for (std::size_t k = 0; k < table.x.size(); ++k)
-        formula.push_back(equation.At(table.x[k], {table.y[0][k], table.y[1][k]}));
+    const std::vector<double> formula = equation.AtAll(table);
     const bool velocity_given = motion.way == Way::Velocity;
     if (choice.x)
         curves.x = table.y[0];

@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "expr/expression.h"
 
@@ -38,6 +39,13 @@ class MotionFormula {
     /// Fails where the formula has no value.
     double At(std::span<const double> values) { return m_expression.EvaluateNumber(values); }
     double At(std::initializer_list<double> values) { return At(std::span(values.begin(), values.size())); }
+    /// At of many points: a column of numbers for each variable, all of one length. Fails where the formula
+    /// has no value at one of them.
+    std::vector<double> AtAll(std::initializer_list<std::span<const double>> columns) {
+        std::vector<double> values(columns.begin()->size());
+        m_expression.EvaluateColumn(std::span(columns.begin(), columns.size()), values);
+        return values;
+    }
 
   private:
     expr::CExpression m_expression;

@@ -50,13 +50,15 @@ Trajectory SamplePlane(const PlaneMotion& motion, double t0, double t1, const do
     MotionFormula first(motion.first, 1, angle_factor);
     MotionFormula second(motion.second, 1, angle_factor);
     const auto [from, to] = std::minmax(t0, t1);
-    Trajectory path;
-    for (const double t : EqualSteps(from, to, kGraphSteps)) {
-        const double u = Finite(first.At({t}));
-        const double w = Finite(second.At({t}));
-        const bool polar = motion.way == Way::Polar;
-        path.x.push_back(polar ? Finite(u * std::cos(angle_factor * w)) : u);
-        path.y.push_back(polar ? Finite(u * std::sin(angle_factor * w)) : w);
+    const std::vector<double> times = EqualSteps(from, to, kGraphSteps);
+    Trajectory path = {first.AtAll({times}), second.AtAll({times})};
+    if (motion.way == Way::Polar) {
+        for (std::size_t k = 0; k < times.size(); ++k) {
+            const double r = path.x[k];
+            const double angle = angle_factor * path.y[k];
+            path.x[k] = Finite(r * std::cos(angle));
+            path.y[k] = Finite(r * std::sin(angle));
+        }
     }
     return path;
 }

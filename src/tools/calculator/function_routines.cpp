@@ -25,23 +25,40 @@ struct Points {
     std::span<const double> At(std::size_t index) const {
         return std::span(coordinates).subspan(index * variables, variables);
     }
+    std::vector<double> Column(std::size_t variable) const {
+        std::vector<double> column(Count());
+        for (std::size_t k = 0; k < column.size(); ++k)
+            column[k] = At(k)[variable];
+        return column;
+    }
 };
+
+std::vector<double> ValuesAt(RoutineRun& run, const Points& points) {
+    std::vector<std::vector<double>> columns;
+    for (std::size_t variable = 0; variable < points.variables; ++variable)
+        columns.push_back(points.Column(variable));
+    const std::vector<std::span<const double>> spans(columns.begin(), columns.end());
+    std::vector<double> values(points.Count());
+    run.expression.Get().EvaluateColumn(spans, values);
+    return values;
+}
 
 text::Refusal TooManyValues() { return {"Calculo máximo " + std::to_string(kMostValues) + " valores."}; }
 
-std::string ValueLine(RoutineRun& run, std::span<const double> point) {
+std::string ValueLine(const RoutineRun& run, std::span<const double> point, double value) {
     std::string list;
     for (const double coordinate : point)
         list += (list.empty() ? "" : ", ") + run.Shown(coordinate);
-    return "f(" + list + ") = " + run.Shown(run.Evaluate(point));
+    return "f(" + list + ") = " + run.Shown(value);
 }
 
 Outcome CalcTable(RoutineRun& run, const Points& points) {
     if (points.Count() > kMostValues)
         return TooManyValues();
+    const std::vector<double> values = ValuesAt(run, points);
     std::vector<std::string> lines = {"Función: " + run.ShownFormula()};
-    for (std::size_t k = 0; k < points.Count(); ++k)
-        lines.push_back(ValueLine(run, points.At(k)));
+    for (std::size_t k = 0; k < values.size(); ++k)
+        lines.push_back(ValueLine(run, points.At(k), values[k]));
     run.Report(lines);
     return std::nullopt;
 }
@@ -52,7 +69,7 @@ Outcome SimpsonIntegral(RoutineRun& run) {
     const double last = run.arguments.Number(1);
     const double value = text::IsNum(run.formula)
                              ? numeric::IntegrateConstant(text::ToNumber(run.formula), first, last)
-                             : numeric::Integrate([&](double x) { return run.At(x); }, first, last);
+                             : numeric::Integrate(run.Function(), first, last);
     run.Report(
         {"La integral de la función " + run.ShownFormula(),
          "entre x!1 = " + run.Shown(first) + " y x!2 = " + run.Shown(last) + " es:" + run.Shown(value)});
@@ -107,8 +124,7 @@ Outcome TableOfSteps(RoutineRun& run) {
 Outcome FirstDerivative(RoutineRun& run) {
     std::vector<std::string> lines = {"Derivada(s) de la función f(x) = " + run.ShownFormula()};
     for (const double x : run.arguments.AllNumbers()) {
-        const auto derivative =
-            numeric::Derivative([&](double at) { return run.At(at); }, x, kFirstDerivativeStep);
+        const auto derivative = numeric::Derivative(run.Function(), x, kFirstDerivativeStep);
         lines.push_back("f '(" + run.Shown(x) + ") = " + run.Shown(derivative.value) + " (" +
                         run.Shown(derivative.error) + ")");
     }
@@ -119,7 +135,7 @@ Outcome FirstDerivative(RoutineRun& run) {
 Outcome SecondDerivative(RoutineRun& run) {
     const double x = run.arguments.Number(0);
     const double step = run.arguments.Count() > 1 ? run.arguments.Number(1) : kSecondDerivativeStep;
-    const double value = numeric::SecondDeriv([&](double at) { return run.At(at); }, x, step);
+    const double value = numeric::SecondDeriv(run.Function(), x, step);
     run.Report({"Segunda derivada de la función f(x) = " + run.ShownFormula(),
                 ";e = " + run.Shown(step) + ":   f ''(" + run.Shown(x) + ") = " + run.Shown(value)});
     return std::nullopt;

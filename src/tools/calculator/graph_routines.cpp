@@ -37,9 +37,8 @@ Numbers ParameterOf(const Arguments& arguments) {
 /// The formula at each of the points; where it has no value the picture is cleared and the failure goes on.
 Numbers Sample(RoutineRun& run, const Numbers& at) {
     try {
-        Numbers values;
-        for (const double x : at)
-            values.push_back(run.At(x));
+        Numbers values(at.size());
+        run.Function().Column(at, values);
         return values;
     } catch (const numeric::RuntimeFailure&) {
         run.Picture().Cls();

@@ -124,7 +124,7 @@ Outcome Trigonometric(RoutineRun& run) {
 Outcome RootSearch(RoutineRun& run) {
     const double first = run.arguments.Number(0);
     const double last = run.arguments.Number(1);
-    const auto outcome = numeric::FindRoots([&](double x) { return run.At(x); }, first, last);
+    const auto outcome = numeric::FindRoots(run.Function(), first, last);
     if (const auto* refusal = std::get_if<numeric::RootsRefusal>(&outcome))
         return text::Refusal{std::string(TextOf(*refusal))};
     const auto& found = std::get<numeric::FoundRoots>(outcome);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "drawing/draw_engine.h"
+#include "expr/formula_function.h"
 #include "tools/calculator/arguments.h"
 #include "tools/calculator/calculator_controls.h"
 
@@ -36,6 +37,8 @@ struct RoutineRun {
     /// The present formula at the given values of X, Y, Z. Fails with a RuntimeFailure.
     double Evaluate(std::span<const double> at) { return expression.Get().EvaluateNumber(at); }
     double At(double x) { return Evaluate(std::span(&x, 1)); }
+    /// The present formula as a function of X.
+    expr::FormulaFunction Function() { return expr::FormulaFunction(expression.Get()); }
 
     window::Recorder& Picture() const { return controls.pic.Canvas(); }
     /// The box of an integration that was given up.
