@@ -20,14 +20,15 @@ class Program {
     ~Program();
 
     window::Form1& Window();
+    /// The tools and what stands around them (app/tools.h), to look at.
+    struct Tools;
+    const Tools& Parts() const { return *m_tools; }
 
     /// The text of a global of the program by its name ("Decimals", "CurrentTool"; truth as "yes" or "no");
     /// nothing for a name that the program does not have.
     std::optional<std::string> GlobalValue(std::string_view name) const;
 
   private:
-    struct Tools;
-
     void NameGlobals();
 
     window::Form1 m_form;

@@ -1,10 +1,13 @@
 #include "player.h"
 
+#include <algorithm>
 #include <exception>
 
 #include "acts.h"
+#include "buttons.h"
 #include "checks.h"
 #include "commands.h"
+#include "problems.h"
 #include "words.h"
 
 namespace tavrelo::sessions {
@@ -79,6 +82,7 @@ class Game {
     std::optional<std::string> Step() {
         const std::string act = RandomAct(*m_seat.driver, m_chance);
         const Contents before = ContentsOf(m_seat.session);
+        const Problems problems = ProblemsOf(Tools());
         m_answers.clear();
         std::vector<std::string> shown;
         std::optional<std::string> failure;
@@ -94,11 +98,14 @@ class Game {
         m_lines.push_back("> " + act);
         if (failure)
             return failure;
-        return Check(act, shown, before);
+        if (auto reason = Check(shown, before))
+            return reason;
+        if (auto reason = CheckProblem(act, shown, problems))
+            return reason;
+        return m_peer ? Compare(act, shown) : std::nullopt;
     }
 
-    std::optional<std::string> Check(const std::string& act, const std::vector<std::string>& shown,
-                                     const Contents& before) {
+    std::optional<std::string> Check(const std::vector<std::string>& shown, const Contents& before) {
         const Contents after = ContentsOf(m_seat.session);
         if (const auto line = FindNoNumber(shown))
             return "a box holds no number: " + *line;
@@ -107,11 +114,25 @@ class Game {
         if (IsRefusal(shown))
             if (const auto name = ChangedProblem(before, after))
                 return "the refusal \"" + shown.back() + "\" changed " + *name;
-        return m_peer ? Compare(act, shown, after) : std::nullopt;
+        return std::nullopt;
     }
 
-    std::optional<std::string> Compare(const std::string& act, const std::vector<std::string>& shown,
-                                       const Contents& after) {
+    /// The problems behind what is shown.
+    std::optional<std::string> CheckProblem(const std::string& act, const std::vector<std::string>& shown,
+                                            const Problems& before) {
+        m_least_decimals = std::min<int>(m_least_decimals, Tools().form.publics.Decimals);
+        if (auto wrong = WrongShown(Tools(), m_least_decimals))
+            return wrong;
+        const bool refused = IsRefusal(shown);
+        if (refused)
+            if (const auto tool = ChangedTool(before, ProblemsOf(Tools())))
+                return "the refusal \"" + shown.back() + "\" changed the problem of " + *tool;
+        const bool confirmed = std::ranges::find(m_answers, "answer Yes") != m_answers.end();
+        return m_buttons.FindWrong(Tools(), {act, refused, confirmed, before.particle.size()});
+    }
+
+    std::optional<std::string> Compare(const std::string& act, const std::vector<std::string>& shown) {
+        const Contents after = ContentsOf(m_seat.session);
         std::vector<std::string> peer_shown;
         try {
             for (const std::string& answer : m_answers)
@@ -127,10 +148,14 @@ class Game {
         return std::nullopt;
     }
 
+    const app::Program::Tools& Tools() { return m_seat.driver->Program().Parts(); }
+
     const Plan& m_plan;
     Chance m_chance;
     Seat m_seat;
     std::optional<Seat> m_peer;
+    ButtonRules m_buttons;
+    int m_least_decimals = text::kDefaultDecimals;
     std::vector<std::string> m_answers;
     std::vector<std::string> m_lines;
 };

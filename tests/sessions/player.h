@@ -23,7 +23,8 @@ struct Fault {
 };
 
 /// Plays one random session. After each act: nothing has left the guard, no text of the window holds a number
-/// that is none, a refusal has left the problem as it was, and both programs show the same.
+/// that is none, what is shown is what the problem holds, a refusal has left the problem as it was, the
+/// buttons are as the state of the tool tells, and both programs show the same.
 std::optional<Fault> PlaySession(const Plan& plan);
 
 }  // namespace tavrelo::sessions

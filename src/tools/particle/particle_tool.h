@@ -28,6 +28,7 @@ class ParticleTool {
     /// Solves the table and writes the report. A refusal is shown in a box, and nothing changes (false).
     bool SolveAndReport();
 
+    const ForcesInView& Forces() const { return m_forces; }
     std::size_t ForceCount() const { return m_forces.Count(); }
     std::size_t BackupCount() const { return m_backup.Count(); }
 
