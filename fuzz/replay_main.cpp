@@ -1,14 +1,17 @@
-// Runs a fuzz harness without a fuzzer: over every file of a seed folder and over mutations of it. The
-// mutations are the same in every run, so a failure comes back.
+// fuzz_NAME FOLDER [SECONDS [SEED]]: runs a fuzz harness without a fuzzer, over every file of a seed folder
+// and over mutations of it. The mutations are the same in every run with the same seed, so a failure comes
+// back. With a time it goes on until that is over.
 
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <limits>
 #include <random>
 #include <string>
 #include <string_view>
@@ -19,6 +22,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 namespace {
 
 constexpr int kMutationsPerSeed = 2000;
+constexpr unsigned kSeed = 20240;
 constexpr int kMostEdits = 6;
 constexpr std::size_t kMostBytes = 10'000;
 /// After this much time the mutations that are left are dropped, so that a slow machine ends too; the count
@@ -84,7 +88,7 @@ std::string Contents(const std::filesystem::path& file) {
 
 class Mutator {
   public:
-    explicit Mutator(const std::vector<std::string>& seeds) : m_seeds(seeds) {}
+    Mutator(const std::vector<std::string>& seeds, unsigned seed) : m_seeds(seeds), m_random(seed) {}
 
     std::string Mutate(std::string text) {
         for (std::size_t edits = 1 + Below(kMostEdits); edits > 0; --edits) {
@@ -137,7 +141,7 @@ class Mutator {
     }
 
     const std::vector<std::string>& m_seeds;
-    std::mt19937 m_random{20240};
+    std::mt19937 m_random;
 };
 
 void RunOnce(const std::string& input) {
@@ -147,10 +151,15 @@ void RunOnce(const std::string& input) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage: " << argv[0] << " <seed folder>\n";
+    constexpr int kMostArguments = 4;
+    if (argc < 2 || argc > kMostArguments) {
+        std::cerr << "usage: " << argv[0] << " <seed folder> [seconds [random seed]]\n";
         return 1;
     }
+    const bool has_time = argc > 2;
+    const int rounds = has_time ? std::numeric_limits<int>::max() : kMutationsPerSeed;
+    const auto limit = has_time ? std::chrono::seconds(std::atoi(argv[2])) : kTimeLimit;
+    const unsigned seed = argc == kMostArguments ? static_cast<unsigned>(std::atoi(argv[3])) : kSeed;
     std::vector<std::string> seeds;
     for (const std::filesystem::path& file : SeedFiles(argv[1])) {
         seeds.push_back(Contents(file));
@@ -159,16 +168,16 @@ int main(int argc, char** argv) {
         std::cerr << "no seeds in " << argv[1] << "\n";
         return 1;
     }
-    for (const std::string& seed : seeds) {
-        RunOnce(seed);
+    for (const std::string& each : seeds) {
+        RunOnce(each);
     }
-    Mutator mutator(seeds);
-    const auto end = std::chrono::steady_clock::now() + kTimeLimit;
+    Mutator mutator(seeds, seed);
+    const auto end = std::chrono::steady_clock::now() + limit;
     std::size_t mutations = 0;
     // Round by round, so that a time limit takes from all seeds alike.
-    for (int round = 0; round < kMutationsPerSeed && std::chrono::steady_clock::now() < end; ++round) {
-        for (const std::string& seed : seeds) {
-            RunOnce(mutator.Mutate(seed));
+    for (int round = 0; round < rounds && std::chrono::steady_clock::now() < end; ++round) {
+        for (const std::string& each : seeds) {
+            RunOnce(mutator.Mutate(each));
             ++mutations;
         }
     }

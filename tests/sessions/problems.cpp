@@ -46,18 +46,22 @@ Wrong DiffersFromNumber(const std::string& place, const std::string& shown, doub
 }
 
 /// A component that shows a number is known, and is that number; an unknown one shows its symbol until the
-/// table is brought up to date. A vector along an axis ("h-20") is entered without its sign.
-Wrong WrongComponent(const Grid& grid, int row, int col, const std::optional<double>& held,
+/// table is brought up to date, or 0 where the force has no part along the axis. A vector along an axis
+/// ("h-20") is entered without its sign.
+Wrong WrongComponent(const Grid& grid, int row, int col, const notation::ForceComponent& held,
                      const Reading& reading) {
+    constexpr double kNothing = 1e-8;
     const std::string& shown = grid.Cell(row, col);
     if (!text::IsNum(shown))
         return std::nullopt;
-    if (!held)
+    if (!held.number && std::abs(held.coefficient) < kNothing)
+        return Differs(Place(grid, row, col), shown, "0");
+    if (!held.number)
         return Place(grid, row, col) + " shows \"" + shown + "\", but it is not known";
     const bool along_axis = reading.typed.starts_with('h') || reading.typed.starts_with('v');
-    if (along_axis && IsNear(shown, std::abs(*held), reading.least_decimals))
+    if (along_axis && IsNear(shown, std::abs(*held.number), reading.least_decimals))
         return std::nullopt;
-    return DiffersFromNumber(Place(grid, row, col), shown, *held, reading.least_decimals);
+    return DiffersFromNumber(Place(grid, row, col), shown, *held.number, reading.least_decimals);
 }
 
 Wrong WrongHeadings(const Grid& grid) {
@@ -87,9 +91,9 @@ Wrong WrongParticle(const tools::particle::ParticleTool& tool, const Grid& grid,
                 Differs(Place(grid, row, kForce), grid.Cell(row, kForce), held.Arrows()[k].given_text))
             return wrong;
         const Reading reading{held.Arrows()[k].given_text, least_decimals};
-        if (auto wrong = WrongComponent(grid, row, kFx, force.x.number, reading))
+        if (auto wrong = WrongComponent(grid, row, kFx, force.x, reading))
             return wrong;
-        if (auto wrong = WrongComponent(grid, row, kFy, force.y.number, reading))
+        if (auto wrong = WrongComponent(grid, row, kFy, force.y, reading))
             return wrong;
     }
     return std::nullopt;
@@ -103,24 +107,30 @@ Wrong WrongBodyForce(const Grid& grid, int row, const mechanics::rigid::BodyForc
         return wrong;
     if (auto wrong = Differs(Place(grid, row, kText), grid.Cell(row, kText), held.text))
         return wrong;
-    const auto fx = held.force ? held.force->x.number : std::nullopt;
-    const auto fy = held.force ? held.force->y.number : std::nullopt;
     const Reading reading{held.text, least_decimals};
-    if (auto wrong = WrongComponent(grid, row, kFx, fx, reading))
-        return wrong;
-    if (auto wrong = WrongComponent(grid, row, kFy, fy, reading))
-        return wrong;
-    return WrongComponent(grid, row, kCouple, held.couple ? held.couple->value : std::nullopt, reading);
+    if (held.force) {
+        if (auto wrong = WrongComponent(grid, row, kFx, held.force->x, reading))
+            return wrong;
+        if (auto wrong = WrongComponent(grid, row, kFy, held.force->y, reading))
+            return wrong;
+    }
+    if (!held.couple || !text::IsNum(grid.Cell(row, kCouple)))
+        return std::nullopt;
+    if (!held.couple->value)
+        return Place(grid, row, kCouple) + " shows a couple that is not known";
+    return DiffersFromNumber(Place(grid, row, kCouple), grid.Cell(row, kCouple), *held.couple->value,
+                             least_decimals);
 }
 
 /// The lists of a structure, but for the digits of their numbers.
 Wrong WrongLists(const mechanics::rigid::RigidProblem& problem, const window::Form1& form) {
     const auto rows = [&](const char* name) { return form.Get<window::ListBox>(name).Items(); };
-    if (rows("lstCoords").size() != problem.structure.points.size())
+    const std::vector<std::string> letters = mechanics::rigid::LettersOf(problem.structure.segments);
+    if (rows("lstCoords").size() != letters.size())
         return "lstCoords has not as many rows as the structure has points";
     if (rows("lstSeps").size() != problem.structure.segments.size())
         return "lstSeps has not as many rows as the structure has vectors";
-    if (rows("lstSysts") != mechanics::rigid::LettersOf(problem.structure.segments))
+    if (rows("lstSysts") != letters)
         return "lstSysts has not the letters of the structure";
     for (const std::string& body : rows("lstDCL"))
         if (!problem.IsDefined(static_cast<int>(text::ToNumber(body))))
