@@ -13,6 +13,7 @@
 #include "qt/flat_parts.h"
 #include "qt/keys.h"
 #include "qt/text.h"
+#include "window/cell_typing.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -212,19 +213,8 @@ bool GridView::TakeKey(const QKeyEvent& event) {
 }
 
 void GridView::CopyBlock() const {
-    bool has_text = false;
-    QStringList lines;
-    const window::CellBlock& block = m_grid.Selection();
-    for (int row = std::max(block.first_row, 0); row <= block.last_row; ++row) {
-        QStringList cells;
-        for (int col = std::max(block.first_col, 0); col <= block.last_col; ++col) {
-            cells << ToQString(m_grid.Cell(row, col));
-            has_text = has_text || !cells.back().isEmpty();
-        }
-        lines << cells.join(QLatin1Char('\t'));
-    }
-    if (has_text)
-        QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+    if (const auto text = window::TextOfBlock(m_grid))
+        QGuiApplication::clipboard()->setText(ToQString(*text));
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {

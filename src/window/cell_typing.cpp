@@ -1,5 +1,7 @@
 #include "window/cell_typing.h"
 
+#include <algorithm>
+
 #include "text/utf8.h"
 
 namespace tavrelo::window {
@@ -94,6 +96,20 @@ bool EditCell(Grid& grid, const CellRules& rules, Clipboard& clipboard, const Ke
         default:
             return false;
     }
+}
+
+std::optional<std::string> TextOfBlock(const Grid& grid) {
+    const CellBlock& block = grid.Selection();
+    bool has_text = false;
+    std::string text;
+    for (int row = std::max(block.first_row, 0); row <= block.last_row; ++row) {
+        text += row > block.first_row ? "\n" : "";
+        for (int col = std::max(block.first_col, 0); col <= block.last_col; ++col) {
+            text += (col > block.first_col ? "\t" : "") + grid.Cell(row, col);
+            has_text = has_text || !grid.Cell(row, col).empty();
+        }
+    }
+    return has_text ? std::optional(text) : std::nullopt;
 }
 
 void EmptyCells(Grid& grid, const CellBlock& block) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -35,6 +36,10 @@ bool TypeIntoCell(Grid& grid, const CellRules& rules, char32_t character);
 /// Delete, and Ctrl with C, X or V, on the current cell; false for any other key. A pasted text is taken
 /// without the blanks around it and without its last line end.
 bool EditCell(Grid& grid, const CellRules& rules, Clipboard& clipboard, const KeyStroke& stroke);
+
+/// What the copying keys take of a table that has nothing else to do with them: the texts of the selected
+/// block, cells parted by tabs and rows by line ends. Nothing when no cell of it holds a text.
+std::optional<std::string> TextOfBlock(const Grid& grid);
 
 /// Every cell of the block becomes empty; the view is told once.
 void EmptyCells(Grid& grid, const CellBlock& block);

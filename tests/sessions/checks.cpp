@@ -34,9 +34,11 @@ bool HoldsNoNumber(const std::string& line) {
         [&](std::string_view word) { return HoldsWord(small, word); });
 }
 
-/// Boxes that only tell what happens next.
+/// Boxes that go with something done: they tell what happens next, or refuse a limit after the first click
+/// has given the only mover all the points.
 constexpr std::string_view kNotices[] = {
     "| Se graficará x(t).",
+    "| Cada tramo debe tener al mínimo 2 puntos.",
 };
 
 constexpr std::string_view kProblemControls[] = {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "acts.h"
 #include "buttons.h"
@@ -52,6 +53,7 @@ class Game {
             {[this](Buttons buttons) { return Choose(buttons); }, [this] { return WriteText(); }});
         if (plan.make_peer)
             m_peer.emplace(plan.make_peer());
+        m_contents = ContentsOf(m_seat.session);
     }
 
     std::optional<Fault> Play() {
@@ -81,7 +83,6 @@ class Game {
 
     std::optional<std::string> Step() {
         const std::string act = RandomAct(*m_seat.driver, m_chance);
-        const Contents before = ContentsOf(m_seat.session);
         const Problems problems = ProblemsOf(Tools());
         m_answers.clear();
         std::vector<std::string> shown;
@@ -98,21 +99,21 @@ class Game {
         m_lines.push_back("> " + act);
         if (failure)
             return failure;
-        if (auto reason = Check(shown, before))
+        if (auto reason = Check(shown))
             return reason;
         if (auto reason = CheckProblem(act, shown, problems))
             return reason;
         return m_peer ? Compare(act, shown) : std::nullopt;
     }
 
-    std::optional<std::string> Check(const std::vector<std::string>& shown, const Contents& before) {
-        const Contents after = ContentsOf(m_seat.session);
+    std::optional<std::string> Check(const std::vector<std::string>& shown) {
+        const Contents before = std::exchange(m_contents, ContentsOf(m_seat.session));
         if (const auto line = FindNoNumber(shown))
             return "a box holds no number: " + *line;
-        if (const auto line = FindNoNumber(after))
+        if (const auto line = FindNoNumber(m_contents))
             return "no number in " + *line;
         if (IsRefusal(shown))
-            if (const auto name = ChangedProblem(before, after))
+            if (const auto name = ChangedProblem(before, m_contents))
                 return "the refusal \"" + shown.back() + "\" changed " + *name;
         return std::nullopt;
     }
@@ -132,7 +133,6 @@ class Game {
     }
 
     std::optional<std::string> Compare(const std::string& act, const std::vector<std::string>& shown) {
-        const Contents after = ContentsOf(m_seat.session);
         std::vector<std::string> peer_shown;
         try {
             for (const std::string& answer : m_answers)
@@ -143,7 +143,7 @@ class Game {
         }
         if (shown != peer_shown)
             return "the two programs show different boxes";
-        if (const auto difference = FirstDifference(after, ContentsOf(m_peer->session)))
+        if (const auto difference = FirstDifference(m_contents, ContentsOf(m_peer->session)))
             return "the two programs differ in " + *difference;
         return std::nullopt;
     }
@@ -154,6 +154,7 @@ class Game {
     Chance m_chance;
     Seat m_seat;
     std::optional<Seat> m_peer;
+    Contents m_contents;  // after the last act
     ButtonRules m_buttons;
     int m_least_decimals = text::kDefaultDecimals;
     std::vector<std::string> m_answers;

@@ -2,6 +2,7 @@
 
 #include "text/utf8.h"
 #include "text_editing.h"
+#include "window/cell_typing.h"
 
 namespace tavrelo::transcript {
 namespace {
@@ -95,6 +96,7 @@ class ModelDriver : public Driver {
 
   private:
     window::Form1& Window() { return m_program.Window(); }
+    void TakeInTable(window::Grid& grid, const KeyStroke& stroke);
 
     RecordedHost m_world;
     app::Program m_program;
@@ -136,10 +138,19 @@ void ModelDriver::Stroke(window::Control& control, const KeyStroke& stroke) {
             m_editing.Take(*box, stroke);
         box->UserKeyUp(stroke);
     } else if (auto* grid = dynamic_cast<window::Grid*>(&control)) {
-        if (!Offer(*grid, stroke) && IsArrow(stroke.key))
-            grid->UserNavigate(stroke.key, stroke.shift);
+        if (!Offer(*grid, stroke))
+            TakeInTable(*grid, stroke);
         grid->UserKeyUp(stroke);
     }
+}
+
+/// What the view of a table does by itself with a key that the program left alone.
+void ModelDriver::TakeInTable(window::Grid& grid, const KeyStroke& stroke) {
+    if (IsArrow(stroke.key) && !stroke.ctrl && !stroke.alt)
+        grid.UserNavigate(stroke.key, stroke.shift);
+    else if (IsCopying(stroke))
+        if (const auto text = window::TextOfBlock(grid))
+            m_world.clipboard.SetText(*text);
 }
 
 void ModelDriver::ReplaceText(window::TextControl& box, const std::string& text) {

@@ -47,6 +47,11 @@ char32_t LetterOf(const KeyStroke& stroke) {
 
 }  // namespace
 
+bool IsCopying(const KeyStroke& stroke) {
+    const bool is_letter = stroke.key == Key::Character && stroke.ctrl && !stroke.alt && !stroke.shift;
+    return (is_letter && stroke.character == U'c') || LetterOf(stroke) == U'c';
+}
+
 void TextEditing::Take(TextControl& box, const KeyStroke& stroke) {
     if (const char32_t letter = LetterOf(stroke))
         return TakeShortcut(box, letter);

@@ -7,6 +7,9 @@
 
 namespace tavrelo::transcript {
 
+/// Ctrl with C, or the older Ctrl with Insert.
+bool IsCopying(const window::KeyStroke& stroke);
+
 /// What a box of one line does by itself with a key that the program left alone: typing, deleting, moving the
 /// caret, copying and pasting. A locked box only lets copy.
 class TextEditing {

@@ -115,5 +115,18 @@ TEST_F(CellTypingTest, ABlockIsEmptiedAtOnce) {
     EXPECT_EQ(told, 1);
 }
 
+TEST_F(CellTypingTest, ABlockIsCopiedWithTabsAndLineEnds) {
+    EXPECT_EQ(TextOfBlock(grid), std::nullopt);  // nothing stands there
+    grid.SetCell(1, 1, "1");
+    grid.SetCell(2, 2, "ñ");
+    EXPECT_EQ(TextOfBlock(grid), "1");
+    grid.Select({1, 1, 2, 2});
+    EXPECT_EQ(TextOfBlock(grid), "1\t\n\tñ");
+    grid.Select({2, 1, 2, 2});
+    EXPECT_EQ(TextOfBlock(grid), "\tñ");
+    grid.SetCurrent(-1, -1);
+    EXPECT_EQ(TextOfBlock(grid), std::nullopt);
+}
+
 }  // namespace
 }  // namespace tavrelo::window
