@@ -128,7 +128,7 @@ std::string PathWords(const ToldCurve& path, int decimals) {
         const auto [low, high] = std::ranges::minmax(values);
         return std::string(name) + " de " + NumberWords(low, decimals) + " a " + NumberWords(high, decimals);
     };
-    return "Empieza en " + place(path.xs.front(), path.ys.front()) + " y termina en " +
+    return "empieza en " + place(path.xs.front(), path.ys.front()) + " y termina en " +
            place(path.xs.back(), path.ys.back()) + ". Abarca " + extent(path.across, path.xs) + ", " +
            extent(path.upward, path.ys) + ".";
 }

@@ -30,7 +30,8 @@ std::vector<Stretch> StretchesOf(std::span<const double> xs, std::span<const dou
 /// a 8, en x 5. Cero en x 1 y x 3. Baja de x 0 a x 2, sube de x 2 a x 5." Nothing for no samples.
 std::string CurveWords(const ToldCurve& curve, int decimals);
 
-/// A path: where it begins, where it ends and what it covers; the samples in the order of the motion.
+/// A path, begun in small letters: where it begins, where it ends and what it covers; the samples in the
+/// order of the motion.
 std::string PathWords(const ToldCurve& path, int decimals);
 
 }  // namespace tavrelo::drawing

@@ -1,9 +1,11 @@
 #include "drawing/words.h"
 
+#include <cmath>
 #include <iterator>
 
 #include "text/number_text.h"
 #include "text/picture_markup.h"
+#include "text/spoken.h"
 #include "text/utf8.h"
 
 namespace tavrelo::drawing {
@@ -58,8 +60,9 @@ std::string AsSentence(std::string words) {
 }
 
 std::string NumberWords(double number, int decimals) {
-    const std::string rounded = text::RoundedText(number, decimals);
-    return rounded.starts_with('-') ? "menos " + rounded.substr(1) : rounded;
+    if (!std::isfinite(number))
+        return "fuera de alcance";
+    return text::SpokenText(text::RoundedText(number, decimals));
 }
 
 std::string DegreesWords(double degrees, int decimals) {
@@ -68,7 +71,7 @@ std::string DegreesWords(double degrees, int decimals) {
 }
 
 std::string DirectionWords(double degrees, int decimals) {
-    const std::string rounded = text::RoundedText(degrees, decimals);
+    const std::string rounded = std::isfinite(degrees) ? text::RoundedText(degrees, decimals) : std::string();
     for (const NamedDirection& named : kDirections)
         if (rounded == named.degrees)
             return std::string(named.words);
@@ -83,7 +86,8 @@ std::string LabelWords(std::string_view markup) {
     std::string words;
     for (const text::PlacedRun& run : text::LayOutMarkup(markup, text::Font{}, text::kBlack))
         words += run.text;
-    return words;
+    words = text::ReplaceAll(words, ",", ", ");
+    return text::ReplaceAll(words, "-", "menos ");
 }
 
 }  // namespace tavrelo::drawing

@@ -28,7 +28,7 @@ std::string ListedAtLength(std::span<const std::string> items);
 /// With a capital at its beginning.
 std::string AsSentence(std::string words);
 
-/// A rounded number as it is said: "menos 2.5".
+/// A rounded number as it is said: "menos 2.5". Never fails: words for a drawing cannot stop it.
 std::string NumberWords(double number, int decimals);
 /// "30 grados", "1 grado".
 std::string DegreesWords(double degrees, int decimals);
@@ -38,7 +38,7 @@ std::string DirectionWords(double degrees, int decimals);
 /// "x 4, y menos 3".
 std::string PlaceWords(double x, double y, int decimals);
 
-/// The characters of a label without its marks: "F!1" is "F1".
+/// A label without its marks: "F!1" is "F1", "-A!x,A!y" is "menos Ax, Ay".
 std::string LabelWords(std::string_view markup);
 
 }  // namespace tavrelo::drawing

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "drawing/clock_face.h"
+#include "drawing/words.h"
 #include "expr/expression.h"
 #include "notation/clock_direction.h"
 #include "text/number_text.h"
@@ -72,9 +73,16 @@ void DirectionClock::Reset() {
 }
 
 void DirectionClock::Draw() {
-    const std::string& angle = m_controls.txtAngle.Text();
-    drawing::DrawClockFace(m_controls.picClock.Canvas(), m_hour,
-                           text::IsNum(angle) ? text::ToNumber(angle) : 0, Rotation());
+    const std::string& typed = m_controls.txtAngle.Text();
+    const double angle = text::IsNum(typed) ? text::ToNumber(typed) : 0;
+    window::Recorder& face = m_controls.picClock.Canvas();
+    drawing::DrawClockFace(face, m_hour, angle, Rotation());
+    std::string words =
+        "Dirección de la hora " + std::to_string(m_hour) + ": " +
+        drawing::DirectionWords(notation::ClockDir(m_hour, angle, true), text::kDefaultDecimals);
+    if (Rotation() != 0)
+        words += ", con los ejes girados " + drawing::DegreesWords(Rotation(), text::kDefaultDecimals);
+    face.Describe(words + ".");
 }
 
 std::vector<window::PictureCell> DirectionClock::HourCells() const {

@@ -22,6 +22,7 @@ void ClearBoardLine(window::Surface& board, int slot, const BoardBand& band) {
 }
 
 void PrintBoardLine(window::Surface& board, int slot, std::string_view markup) {
+    board.DescribeByTexts();
     board.ForeColor = text::kBlack;
     drawing::PrintMarkup(board, markup, kLeft, HeightOf(slot) - kTextDrop, text::kTextFont, kSize);
 }

@@ -38,6 +38,7 @@ constexpr int kNoConfiguration = -1;
 void ShowArguments(window::Picture& panel, std::span<const std::string_view> lines) {
     window::Recorder& surface = panel.Canvas();
     surface.Cls();
+    surface.DescribeByTexts();
     surface.ForeColor = text::kBlack;
     for (std::size_t k = 0; k < lines.size(); ++k) {
         const auto column = static_cast<int>(k / kLinesOfColumn);

@@ -148,6 +148,7 @@ void PaintEmptyStrip(Surface& strip) {
         PrintDigit(strip, column, column - 1, text::kBlack);
     }
     OutlineStrip(strip);
+    strip.Describe("Puntos 0 a 8, sin configurar.");
 }
 
 void PaintStripPrompt(Surface& strip, std::string_view prompt, double left) {
@@ -157,6 +158,8 @@ void PaintStripPrompt(Surface& strip, std::string_view prompt, double left) {
             break;
     }
     PrintAt(strip, prompt, left, kPromptTop, text::kBlack);
+    if (!prompt.empty())
+        strip.Describe(std::string(prompt) + ".");
 }
 
 void PaintPointStrip(Surface& strip, std::span<const StripLabel> labels) {

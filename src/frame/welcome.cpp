@@ -46,6 +46,7 @@ void ShowWelcome(window::Surface& surface) {
         surface.CurrentY = line.top;
         surface.Print(line.text);
     }
+    surface.DescribeByTexts();
     surface.CurrentFont = kept_font;
     surface.ForeColor = kept_color;
 }

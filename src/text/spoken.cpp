@@ -191,6 +191,8 @@ class Speaker {
     }
 
     void SpeakWord(const SpokenToken& token) {
+        if (token.text == U"R" && Next() && Next()->IsSign(U'(') && Next()->blanks == 0)
+            return SpeakRoot();
         if (const std::string_view function = FunctionName(token.text); !function.empty() && TakesArgument())
             return SpeakFunction(token, function);
         if (token.is_vector)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 
 namespace tavrelo::text {
 namespace {
@@ -129,6 +130,12 @@ std::string_view GreekName(char32_t letter) { return NameOf(kGreek, letter, &Cha
 
 std::string_view SignName(char32_t sign) { return NameOf(kSigns, sign, &CharacterName::character); }
 
-std::string_view FunctionName(std::u32string_view word) { return NameOf(kFunctions, word, &WordName::word); }
+std::string_view FunctionName(std::u32string_view word) {
+    std::u32string small(word);
+    for (char32_t& letter : small)
+        if (letter >= U'A' && letter <= U'Z')
+            letter += U'a' - U'A';
+    return NameOf(kFunctions, small, &WordName::word);
+}
 
 }  // namespace tavrelo::text

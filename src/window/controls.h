@@ -343,7 +343,7 @@ class Picture : public Control {
     /// Fits the canvas to the bounds; what was drawn stays.
     void FitCanvas();
     /// What the picture shows, in words for those who do not see it; empty for one without content.
-    const std::string& Description() const { return m_canvas.Words(); }
+    std::string Description() const { return m_canvas.Words(); }
 
     MouseUnits Units() const { return m_units; }
     void SetUnits(MouseUnits units) { m_units = units; }

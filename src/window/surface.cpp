@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "text/spoken.h"
+
 namespace tavrelo::window {
 namespace {
 
@@ -92,14 +94,30 @@ void Recorder::Resize(double width, double height) {
     m_height = height;
 }
 
+void Recorder::DescribeByTexts() {
+    if (!std::exchange(m_recording.is_page, true))
+        Changed();
+}
+
+std::string Recorder::Words() const {
+    if (!m_recording.is_page)
+        return m_recording.words;
+    std::vector<const TextOp*> texts = VisibleTextOps();
+    std::ranges::stable_sort(texts, {}, &TextOp::y);
+    std::string words = m_recording.words;
+    for (const TextOp* text : texts)
+        words += (words.empty() ? "" : "\n") + text::SpokenText(text->runs);
+    return words;
+}
+
 void Recorder::Restore(Recording recording) {
     m_recording = std::move(recording);
     Changed();
 }
 
-std::vector<std::string> Recorder::VisibleTexts() const {
-    std::vector<std::string> texts;
+std::vector<const TextOp*> Recorder::VisibleTextOps() const {
     const std::vector<DrawOp>& operations = Operations();
+    std::vector<const TextOp*> texts;
     for (auto op = operations.begin(); op != operations.end(); ++op) {
         const auto* text = std::get_if<TextOp>(&*op);
         if (!text)
@@ -109,8 +127,15 @@ std::vector<std::string> Recorder::VisibleTexts() const {
             return box && Covers(*box, *text);
         });
         if (!covered)
-            texts.push_back(text->PlainText());
+            texts.push_back(text);
     }
+    return texts;
+}
+
+std::vector<std::string> Recorder::VisibleTexts() const {
+    std::vector<std::string> texts;
+    for (const TextOp* text : VisibleTextOps())
+        texts.push_back(text->PlainText());
     return texts;
 }
 

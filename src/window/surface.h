@@ -80,6 +80,8 @@ class Surface {
     /// go on behind one another. The words stand and fall with the drawing: the next Cls takes both away. A
     /// surface that only paints keeps none.
     virtual void Describe(std::string_view /*sentences*/) {}
+    /// The drawing is a page of texts, and they are its words. Ends with the next Cls, too.
+    virtual void DescribeByTexts() {}
 
     /// y counted from the bottom upward, as y counted from the top downward; the one place that converts.
     double FromBottom(double y) const { return Height() - y; }
@@ -116,6 +118,7 @@ class Surface {
 struct Recording {
     std::vector<DrawOp> operations;
     std::string words;
+    bool is_page = false;  // whose texts are its words
 };
 
 /// A surface that keeps its operations, from which a picture is repainted at any scale.
@@ -127,11 +130,13 @@ class Recorder : public Surface {
     double Height() const override { return m_height; }
     void Draw(DrawOp op) override;
     void Describe(std::string_view sentences) override;
+    void DescribeByTexts() override;
     void Resize(double width, double height);
 
     const std::vector<DrawOp>& Operations() const { return m_recording.operations; }
-    /// All that was described since the last Cls.
-    const std::string& Words() const { return m_recording.words; }
+    /// All that was described since the last Cls; of a page the texts that stand on it, as they are read
+    /// aloud, from the top downward.
+    std::string Words() const;
     /// Drawing and words, to be put back in view by Restore.
     const Recording& Kept() const { return m_recording; }
     void Restore(Recording recording);
@@ -145,6 +150,7 @@ class Recorder : public Surface {
 
   private:
     void Changed() const;
+    std::vector<const TextOp*> VisibleTextOps() const;
 
     double m_width;
     double m_height;

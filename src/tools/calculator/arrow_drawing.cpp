@@ -7,6 +7,7 @@
 #include "drawing/label_placer.h"
 #include "notation/clock_direction.h"
 #include "numeric/angles.h"
+#include "tools/calculator/describe.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -180,6 +181,7 @@ void DrawFromCenter(RoutineRun& run, const std::vector<DrawnVector>& vectors, Ax
     AddCenterAxes(drawing, center, turn);
     AddVectors(drawing, {1, center}, vectors, arrow_scale);
     drawing.PlaceLabels();
+    drawing.Surface().Describe(DescribeFromCenter(vectors, turn, run.decimals));
 }
 
 void DrawAtPoints(RoutineRun& run, const std::vector<DrawnVector>& vectors) {
@@ -192,6 +194,7 @@ void DrawAtPoints(RoutineRun& run, const std::vector<DrawnVector>& vectors) {
     drawing.Avoid(origin, {origin.x, 0});
     AddVectors(drawing, placing, vectors, arrow_scale);
     drawing.PlaceLabels();
+    drawing.Surface().Describe(DescribeAtPoints(vectors, run.decimals));
 }
 
 void DrawVerticalForces(RoutineRun& run, const std::vector<DrawnVector>& forces) {
@@ -208,6 +211,7 @@ void DrawVerticalForces(RoutineRun& run, const std::vector<DrawnVector>& forces)
     drawing.AddArrow(placing.origin, 0, 1, kAxisLength, "Z", kAxisColor);
     AddVectors(drawing, placing, seen, arrow_scale);
     drawing.PlaceLabels();
+    drawing.Surface().Describe(DescribeVerticalForces(forces, run.decimals));
 }
 
 }  // namespace tavrelo::tools::calculator

@@ -15,6 +15,7 @@ constexpr double kTop = 4;         // pixels from the top of the panel
 constexpr text::Color kTitleColor = text::Rgb(0, 0, 128);
 
 void PrintLine(window::Recorder& surface, std::string_view markup, text::Color color) {
+    surface.DescribeByTexts();
     surface.ForeColor = color;
     drawing::PrintMarkup(surface, markup, kLeft, surface.FromBottom(kTop), text::kTextFont, kPromptSize);
 }

@@ -4,6 +4,7 @@
 
 #include "drawing/label_placer.h"
 #include "numeric/angles.h"
+#include "tools/calculator/describe.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -98,6 +99,7 @@ void DrawFigure(RoutineRun& run, const Figure& figure) {
     run.engine.Begin();
     DrawSides(surface, figure, points, labels);
     DrawLabels(surface, figure, points, labels);
+    surface.Describe(DescribeFigure(figure, run.decimals));
 }
 
 }  // namespace tavrelo::tools::calculator

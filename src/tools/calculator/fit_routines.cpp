@@ -6,6 +6,7 @@
 #include "expr/polynomial_text.h"
 #include "numeric/fits.h"
 #include "text/number_text.h"
+#include "tools/calculator/describe.h"
 #include "tools/calculator/result_text.h"
 
 namespace tavrelo::tools::calculator {
@@ -41,6 +42,7 @@ void DrawFit(RoutineRun& run, const Data& data, const Numbers& coefs) {
     run.engine.Begin();
     run.engine.DrawGraph(surface, curve.xs, curve.ys, kCurveColor, run.decimals);
     run.engine.DrawGraphPoints(surface, {curve.xs, curve.ys}, {data.xs, data.ys}, kPointColor);
+    surface.Describe(DescribeFit(data.xs, data.ys, {"x", "y", curve.xs, curve.ys}, run.decimals));
 }
 
 /// The polynomial in the language of the formula box.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "drawing/words.h"
 #include "notation/clock_direction.h"
 #include "text/number_text.h"
 #include "tools/calculator/arrow_drawing.h"
@@ -218,6 +219,8 @@ void DrawLoadResultant(RoutineRun& run, const mechanics::forces::LineResultant& 
                                    .color = kResultColor,
                                    .label = "R",
                                    .width = kWidth});
+    surface.Describe("Resultante R de la carga, " + std::string(is_upward ? "hacia arriba" : "hacia abajo") +
+                     ", en x " + drawing::NumberWords(result.x, run.decimals) + ".");
 }
 
 }  // namespace

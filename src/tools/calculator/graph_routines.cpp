@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "text/utf8.h"
+#include "tools/calculator/describe.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -75,7 +76,9 @@ std::pair<std::string, std::string> SplitPair(const std::string& text) {
 
 void DrawFormula(RoutineRun& run, double first, double last) {
     const Numbers xs = Spaced(first, last, kSteps + 1);
-    DrawCurve(run, xs, Sample(run, xs));
+    const Numbers ys = Sample(run, xs);
+    DrawCurve(run, xs, ys);
+    run.Picture().Describe(DescribeGraph(run.typed_formula, {"x", "y", xs, ys}, run.decimals));
 }
 
 Outcome CartesianGraph(RoutineRun& run) {
@@ -93,6 +96,7 @@ Outcome PolarGraph(RoutineRun& run) {
         ys.push_back(radii[k] * std::sin(angles[k] * unit));
     }
     DrawCurve(run, xs, ys);
+    run.Picture().Describe(DescribePath("r = " + run.typed_formula, {"x", "y", xs, ys}, run.decimals));
     return std::nullopt;
 }
 
@@ -103,7 +107,10 @@ Outcome ParametricGraph(RoutineRun& run) {
             return refusal;
     const Numbers parameter = ParameterOf(run.arguments);
     const Numbers xs = SampleFormula(run, first, parameter);
-    DrawCurve(run, xs, SampleFormula(run, second, parameter));
+    const Numbers ys = SampleFormula(run, second, parameter);
+    DrawCurve(run, xs, ys);
+    run.Picture().Describe(
+        DescribePath("x = " + first + ", y = " + second, {"x", "y", xs, ys}, run.decimals));
     return std::nullopt;
 }
 

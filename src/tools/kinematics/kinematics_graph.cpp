@@ -7,6 +7,7 @@
 #include "drawing/draw_engine.h"
 #include "drawing/graph_frame.h"
 #include "text/number_text.h"
+#include "tools/kinematics/describe.h"
 
 namespace tavrelo::tools::kinematics {
 namespace {
@@ -83,6 +84,7 @@ void DrawCurves(window::Surface& surface, const mechanics::kinematics::LineCurve
         PrintLegend(surface, curve, scale, place++, decimals);
     }
     LabelEnds(surface, frame, times, "t = ", "t = ", decimals);
+    surface.Describe(DescribeCurves(curves, decimals));
 }
 
 void DrawTrajectory(window::Surface& surface, const mechanics::kinematics::Trajectory& path, int decimals) {
@@ -101,6 +103,7 @@ void DrawTrajectory(window::Surface& surface, const mechanics::kinematics::Traje
     LabelEnds(surface, frame, x, "x!m!í!n = ", "x!m!á!x = ", decimals);
     drawing::LabelYExtreme(surface, frame, "y!m!í!n = " + Shown(y.Low(), decimals), frame.bottom);
     drawing::LabelYExtreme(surface, frame, "y!m!á!x = " + Shown(y.High(), decimals), frame.top);
+    surface.Describe(DescribeTrajectory(path, decimals));
 }
 
 }  // namespace tavrelo::tools::kinematics

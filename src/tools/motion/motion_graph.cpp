@@ -11,6 +11,7 @@
 #include "drawing/graph_frame.h"
 #include "frame/points_colors.h"
 #include "text/number_text.h"
+#include "tools/motion/describe.h"
 
 namespace tavrelo::tools::motion {
 namespace {
@@ -125,6 +126,7 @@ void DrawMotionGraph(Surface& picture, const MotionGraph& graph, int decimals) {
     NameAxes(picture, frame);
     for (const GraphName& name : graph.names)
         NameCurve(picture, graph, times, positions, name);
+    picture.Describe(DescribeMotionGraph(graph, decimals));
 }
 
 }  // namespace tavrelo::tools::motion

@@ -2,6 +2,7 @@
 
 #include "frame/points_colors.h"
 #include "frame/points_strip.h"
+#include "frame/points_words.h"
 #include "mechanics/motion/problem.h"
 
 namespace tavrelo::tools::motion {
@@ -134,6 +135,7 @@ void PaintMotionStrip(window::Recorder& strip, const Configuration& configuratio
     frame::PaintPointStrip(strip, LabelsOf(configuration));
     for (const AccelerationSpan& span : SpansOf(configuration))
         frame::PaintBracket(strip, span.first_column, span.points);
+    strip.Describe(frame::DescribeConfiguration(configuration));
 }
 
 }  // namespace tavrelo::tools::motion

@@ -2,8 +2,10 @@
 
 #include <vector>
 
+#include "drawing/words.h"
 #include "frame/points_colors.h"
 #include "frame/points_strip.h"
+#include "frame/points_words.h"
 
 namespace tavrelo::tools::projectile {
 namespace {
@@ -51,6 +53,19 @@ std::vector<frame::StripLabel> LabelsOf(const mechanics::points::Configuration& 
     return labels;
 }
 
+/// "md" and "cs" over the columns.
+std::string DescribeSpeedModes(const Problem& problem) {
+    std::vector<std::string> columns;
+    for (int column = 1; column <= frame::kPointColumns; ++column)
+        if (problem.ModeOf(column) == SpeedMode::Components)
+            columns.push_back(std::to_string(column));
+    if (columns.empty())
+        return "Velocidad por magnitud y dirección en todas las columnas.";
+    return (columns.size() == 1 ? "Velocidad por componentes en la columna "
+                                : "Velocidad por componentes en las columnas ") +
+           drawing::Listed(columns) + ", por magnitud y dirección en las demás.";
+}
+
 }  // namespace
 
 StripMeaning MeaningOfPress(const MouseStroke& stroke, Stage stage) {
@@ -94,6 +109,7 @@ void PaintStrip(window::Recorder& strip, const Problem& problem) {
     frame::PaintPointStrip(strip, LabelsOf(problem.configuration));
     for (int column = 1; column <= frame::kPointColumns; ++column)
         frame::PaintSpeedMode(strip, column, problem.ModeOf(column) == SpeedMode::Components ? "cs" : "md");
+    strip.Describe(frame::DescribeConfiguration(problem.configuration) + " " + DescribeSpeedModes(problem));
 }
 
 }  // namespace tavrelo::tools::projectile

@@ -244,7 +244,7 @@ void Projectile::Show(const mechanics::projectile::Event& event) {
                    },
                    [this](const ShowBoard&) { ShowGraph(false); },
                    [this](const mechanics::projectile::ShowGraph& shown) {
-                       DrawTrajectories(m_controls.pic1.Canvas(), shown.graph);
+                       DrawTrajectories(m_controls.pic1.Canvas(), shown.graph, m_form.publics.Decimals);
                        ShowGraph(true);
                    },
                    [this](const InsertFormula& inserted) { m_controls.rtbExpr.SetText(inserted.formula); },

@@ -6,6 +6,7 @@
 #include "drawing/graph_frame.h"
 #include "frame/points_colors.h"
 #include "text/picture_markup.h"
+#include "tools/projectile/describe.h"
 
 namespace tavrelo::tools::projectile {
 namespace {
@@ -96,7 +97,7 @@ void NameAxes(Surface& picture, const GraphFrame& frame, const Graph& graph) {
 
 }  // namespace
 
-void DrawTrajectories(Surface& picture, const Graph& graph) {
+void DrawTrajectories(Surface& picture, const Graph& graph, int decimals) {
     const GraphFrame frame = FrameOf(picture, graph);
     picture.Cls();
     drawing::DrawGraphFrame(picture, frame);
@@ -110,6 +111,7 @@ void DrawTrajectories(Surface& picture, const Graph& graph) {
     if (graph.curves.size() > 1)
         for (const GraphCurve& curve : graph.curves)
             NameCurve(picture, frame, graph, curve);
+    picture.Describe(DescribeTrajectories(graph, decimals));
 }
 
 }  // namespace tavrelo::tools::projectile

@@ -6,7 +6,7 @@
 namespace tavrelo::tools::projectile {
 
 /// Clears the picture and draws the trajectories in their frame, each in its mover's colour, the ranges
-/// beside the frame.
-void DrawTrajectories(window::Surface& picture, const mechanics::projectile::Graph& graph);
+/// beside the frame. `decimals` are those of its words.
+void DrawTrajectories(window::Surface& picture, const mechanics::projectile::Graph& graph, int decimals);
 
 }  // namespace tavrelo::tools::projectile

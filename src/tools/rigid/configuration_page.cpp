@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "drawing/words.h"
 #include "notation/number_product.h"
 #include "notation/vector_format.h"
 #include "text/utf8.h"
@@ -195,13 +196,25 @@ void ConfigurationPage::AddVectors() {
     if (Problem().structure.segments.empty())
         BeginAt(step.problem.structure.origin);
     const auto unknown_origin = step.unknown_origin;
+    const mechanics::rigid::PointTable before = Problem().structure.points;
     TakeStructure(std::move(step));
     m_view.Redraw();
+    AnnouncePoints(before);
     ShowSeps();
     RestoreConfigCtrls();
     m_form.SetFocus(m_controls.txtSegm[kChainBox]);
     if (unknown_origin)
         m_view.Refuse(*unknown_origin, m_controls.txtOrigin);
+}
+
+void ConfigurationPage::AnnouncePoints(const mechanics::rigid::PointTable& before) const {
+    std::vector<std::string> added;
+    for (const auto& [name, x, y] : Problem().structure.points)
+        if (!mechanics::rigid::FindPoint(before, name))
+            added.push_back(name + " en " + drawing::PlaceWords(x, y, m_view.Decimals()));
+    if (!added.empty())
+        m_form.Announce((added.size() == 1 ? "Punto añadido: " : "Puntos añadidos: ") +
+                        drawing::ListedAtLength(added) + ".");
 }
 
 void ConfigurationPage::Refuse(const ChainRefusal& refusal) {

@@ -46,6 +46,8 @@ class ConfigurationPage {
     std::string Origin() const;
     void BeginAt(const std::string& point);
     void TakeStructure(mechanics::rigid::StructureStep step);
+    /// Says which points there were not before.
+    void AnnouncePoints(const mechanics::rigid::PointTable& before) const;
     void Refuse(const mechanics::rigid::ChainRefusal& refusal);
     window::TextBox& BoxOf(const mechanics::rigid::ChainRefusal& refusal) const;
     void ShowCoords();

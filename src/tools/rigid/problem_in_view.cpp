@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "text/number_text.h"
+#include "tools/rigid/describe.h"
 #include "tools/rigid/force_grid.h"
 #include "tools/rigid/force_layout.h"
 #include "tools/rigid/rigid_picture.h"
@@ -41,8 +42,10 @@ void ProblemInView::Take(RigidProblem problem) {
 
 void ProblemInView::Take(mechanics::rigid::ForceStep step) {
     m_problem = std::move(step.problem);
-    for (const auto& written : step.written)
+    for (const auto& written : step.written) {
         ShowNewForce(LookOf(written));
+        AnnounceAdded();
+    }
 }
 
 void ProblemInView::CopyForces(std::span<const std::size_t> rows, int body) {
@@ -57,6 +60,13 @@ void ProblemInView::ShowNewForce(ForceLook look) {
     m_view.looks.push_back(std::move(look));
 }
 
+void ProblemInView::AnnounceAdded() const {
+    const std::size_t row = m_view.looks.size() - 1;
+    m_form.Announce("Fuerza " + std::to_string(row + 1) + " añadida al sistema " +
+                    std::to_string(m_problem.forces[row].body) + ": " +
+                    DescribeBodyForce({m_problem, m_view, Decimals()}, row) + ".");
+}
+
 void ProblemInView::TakeSolution(const mechanics::rigid::BodyResults& results) {
     m_problem.forces = mechanics::rigid::WithResults(m_problem.forces, results);
     for (std::size_t row = 0; row < m_problem.forces.size(); ++row)
@@ -69,6 +79,7 @@ void ProblemInView::RemoveForce(std::size_t row) {
     m_problem = mechanics::rigid::WithoutForce(std::move(m_problem), row);
     m_view.looks.erase(m_view.looks.begin() + static_cast<std::ptrdiff_t>(row));
     m_controls.gd1.RemoveNumberedRow(static_cast<int>(row) + 1);
+    m_form.Announce("Fuerza " + std::to_string(row + 1) + " quitada.");
 }
 
 void ProblemInView::Backup() {

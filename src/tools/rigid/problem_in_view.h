@@ -56,6 +56,7 @@ class ProblemInView {
   private:
     void AskDrawDirections();
     void ShowNewForce(ForceLook look);
+    void AnnounceAdded() const;  // of the last force
 
     window::Form1& m_form;
     SharedControls m_controls;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 
+#include "tools/rigid/describe.h"
 #include "tools/rigid/force_layout.h"
 #include "tools/rigid/structure_layout.h"
 
@@ -35,6 +36,7 @@ Diagram DiagramOf(const RigidScene& scene, CanvasSize size) {
 void RedrawAll(window::Surface& canvas, const RigidScene& scene) {
     canvas.Cls();
     Draw(canvas, DiagramOf(scene, SizeOf(canvas)));
+    canvas.Describe(DescribeScene(scene));
 }
 
 void DrawOver(window::Surface& canvas, const mechanics::rigid::PointTable& points,
@@ -42,6 +44,7 @@ void DrawOver(window::Surface& canvas, const mechanics::rigid::PointTable& point
     DiagramLayout layout(SizeOf(canvas));
     AddChain(layout, PlacesOf(points, SizeOf(canvas)), line);
     Draw(canvas, layout.Finished());
+    canvas.Describe(DescribeLine(line));
 }
 
 }  // namespace tavrelo::tools::rigid

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <limits>
 #include <vector>
 
 #include "drawing/curve_words.h"
@@ -36,6 +36,8 @@ TEST(Words, JoinLists) {
 TEST(Words, TellNumbersAndDirections) {
     EXPECT_EQ(NumberWords(-2.5, 3), "menos 2.5");
     EXPECT_EQ(NumberWords(-0.0001, 3), "0");
+    EXPECT_EQ(NumberWords(-2e20, 3), "menos 2 por 10 elevado a 20");
+    EXPECT_EQ(NumberWords(std::numeric_limits<double>::infinity(), 3), "fuera de alcance");
     EXPECT_EQ(DegreesWords(1, 3), "1 grado");
     EXPECT_EQ(DegreesWords(-45, 3), "menos 45 grados");
     EXPECT_EQ(DirectionWords(0, 3), "hacia la derecha");
@@ -91,7 +93,7 @@ TEST(Zeros, LieWhereTheCurveCrossesAndNotAtAPole) {
 
 TEST(PathWords, TellBothEndsAndTheExtent) {
     EXPECT_EQ(PathWords({"x", "y", Values{1, 0, -1}, Values{0, 1, 0}}, 3),
-              "Empieza en x 1, y 0 y termina en x menos 1, y 0. Abarca x de menos 1 a 1, y de 0 a 1.");
+              "empieza en x 1, y 0 y termina en x menos 1, y 0. Abarca x de menos 1 a 1, y de 0 a 1.");
 }
 
 }  // namespace

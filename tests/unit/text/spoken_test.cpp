@@ -109,7 +109,9 @@ TEST(SpokenText, ReadsTypedFormulas) {
         {"x^2-3", "x al cuadrado menos 3"},
         {"2^(n+1)*3", "2 elevado a n más 1 fin de exponente por 3"},
         {"√(3²+4²)", "raíz de 3 al cuadrado más 4 al cuadrado fin de raíz"},
+        {"R(3^2+4^2)", "raíz de 3 al cuadrado más 4 al cuadrado fin de raíz"},
         {"sen(30)", "seno de 30"},
+        {"2*COS(x+1)", "2 por coseno de abre paréntesis x más 1 cierra paréntesis"},
         {"1° y 2°", "1 grado y 2 grados"},
         {"≤ 5 ⇒ x ≈ 2", "menor o igual que 5 implica x aproximadamente igual a 2"},
     };

@@ -64,6 +64,26 @@ TEST(Recorder, BringsAKeptDrawingBackWithItsWords) {
     EXPECT_EQ(surface.Words(), "La letra x.");
 }
 
+/// A line that a white band has covered is no longer read; the others are read from the top downward.
+TEST(Recorder, ReadsAPageByTheTextsThatStandOnIt) {
+    Recorder surface(50, 100);
+    const auto print = [&](double y, const char* text) {
+        surface.CurrentX = 0;
+        surface.CurrentY = y;
+        surface.Print(text);
+    };
+    print(60, "y = 2");
+    print(20, "x = 1");
+    print(40, "z = 0");
+    EXPECT_EQ(surface.Words(), "");
+    surface.DescribeByTexts();
+    surface.Box(0, 40, 50, 55, text::kWhite, true);
+    EXPECT_EQ(surface.Words(), "x igual a 1\ny igual a 2");
+    surface.Cls();
+    print(0, "w");
+    EXPECT_EQ(surface.Words(), "");
+}
+
 TEST(Surface, ThePenEndsBehindWhatWasDrawn) {
     Recorder surface(50, 50);
     surface.Line(1, 2, 30, 40, text::kBlack);
