@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "qt/bindings.h"
 #include "qt/picture_view.h"
+#include "qt/text.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -13,18 +15,38 @@ constexpr std::string_view kBlackboards[] = {"pic", "pic1"};
 class PictureBinding : public Binding {
   public:
     PictureBinding(window::Picture& picture, PictureView& view, ViewContext& context)
-        : Binding(picture, view, context), m_view(view) {}
+        : Binding(picture, view, context), m_picture(picture), m_view(view) {}
 
   protected:
     void ShowState() override {
         Binding::ShowState();
         m_view.ShowPointer();
     }
-    void ShowContent() override { m_view.update(); }
+    void ShowContent() override {
+        m_view.update();
+        DescribeLate();
+    }
     void ShowSelection() override { m_view.ShowCells(); }
 
   private:
+    /// A drawing grows by many operations; its words are told once, when the handler under way has ended.
+    void DescribeLate() {
+        if (std::exchange(m_describes_late, true))
+            return;
+        QMetaObject::invokeMethod(
+            this, [this] { Describe(); }, Qt::QueuedConnection);
+    }
+
+    void Describe() {
+        m_describes_late = false;
+        const QString words = ToQString(m_picture.Description());
+        if (m_view.accessibleDescription() != words)
+            m_view.setAccessibleDescription(words);
+    }
+
+    const window::Picture& m_picture;
     PictureView& m_view;
+    bool m_describes_late = false;
 };
 
 }  // namespace

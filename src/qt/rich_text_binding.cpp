@@ -1,3 +1,4 @@
+#include "qt/accessible_report.h"
 #include "qt/bindings.h"
 #include "qt/rich_text_view.h"
 
@@ -42,6 +43,7 @@ std::unique_ptr<Binding> NewRichTextBinding(window::Control& control, QWidget& p
     auto& box = dynamic_cast<window::RichTextBox&>(control);
     if (!box.Locked())
         return NewTextBinding(control, parent, context);
+    AccessibleReport::Install();
     return std::make_unique<RichTextBinding>(box, *new RichTextView(box, parent), context);
 }
 

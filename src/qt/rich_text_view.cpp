@@ -9,6 +9,7 @@
 #include "qt/fonts.h"
 #include "qt/rich_document.h"
 #include "qt/text.h"
+#include "text/spoken.h"
 #include "text/utf8.h"
 
 namespace tavrelo::qt {
@@ -64,7 +65,14 @@ void RichTextView::ShowText(const text::RichText& text, double scale) {
     cursor.movePosition(QTextCursor::End);
     InsertRuns(cursor, added, scale);
     m_shown = text;
+    m_spoken.reset();
     m_shown_scale = scale;
+}
+
+const QString& RichTextView::Spoken() const {
+    if (!m_spoken)
+        m_spoken = ToQString(text::SpokenText(m_shown));
+    return *m_spoken;
 }
 
 std::size_t RichTextView::ToModelPosition(int position) const {

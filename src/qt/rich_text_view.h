@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextEdit>
+#include <optional>
 
 #include "window/controls.h"
 
@@ -14,6 +15,9 @@ class RichTextView : public QTextEdit {
     /// The selection, counted as the model does. Positions of the document are those of QTextCursor.
     window::TextSelection Selected() const;
     void Select(window::TextSelection selection);
+
+    /// The text as it is read aloud, line for line.
+    const QString& Spoken() const;
 
     /// Writes the text at a scale; what already stands in front of it is kept when `text` only goes on from
     /// there.
@@ -31,6 +35,7 @@ class RichTextView : public QTextEdit {
 
     const window::RichTextBox& m_model;
     text::RichText m_shown;
+    mutable std::optional<QString> m_spoken;  // of what is shown; made when it is asked for
     double m_shown_scale = 0;
 };
 

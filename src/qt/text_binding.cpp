@@ -1,6 +1,7 @@
 #include "qt/bindings.h"
 #include "qt/text.h"
 #include "qt/text_field.h"
+#include "text/spoken.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -30,6 +31,9 @@ class TextBinding : public Binding {
         const QString text = ToQString(m_box.Text());
         if (m_widget.text() != text)
             m_widget.setText(text);
+        // Of the boxes that can be typed into, those of formatted text take formulas.
+        if (m_box.Kind() == window::ControlKind::RichTextBox)
+            m_widget.setAccessibleDescription(ToQString(text::SpokenText(m_box.Text())));
         ShowSelection();
     }
 

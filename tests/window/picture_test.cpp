@@ -104,4 +104,21 @@ void PictureTest::TextIsAsWideAsTheModelMeasures() {
         }
 }
 
+/// The words of the particle's diagram stand with the widget, for every force that is added.
+void PictureTest::DescriptionFollowsTheDrawing() {
+    TestWindow window;
+    QVERIFY(
+        window.Widget("pic").accessibleDescription().startsWith(QStringLiteral("BIENVENIDO AL PROGRAMA")));
+    window.PressTool(2);
+    QCoreApplication::processEvents();
+    QCOMPARE(window.Widget("pic").accessibleDescription(), QString());
+    QCOMPARE(window.Widget("pic1").accessibleDescription(),
+             QStringLiteral("Fuerzas sobre un punto, con ejes x, y. Sin fuerzas."));
+    window.Form().Get<window::TextBox>("txtVector").SetText("v-100");
+    QTest::keyClick(&window.Widget("txtVector"), Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(window.Widget("pic1").accessibleDescription(),
+             QStringLiteral("Fuerzas sobre un punto, con ejes x, y. Una fuerza: 100 hacia abajo."));
+}
+
 }  // namespace tavrelo::window_test

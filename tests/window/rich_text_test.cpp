@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QClipboard>
 #include <QMenu>
 #include <QMimeData>
@@ -123,6 +124,43 @@ void RichTextTest::BackwardSelectionStays() {
     window.Box().setTextCursor(cursor);
     QCOMPARE(window.Form().Get<window::RichTextBox>("rtbCalc").Selection(), (window::TextSelection{1, 2}));
     QCOMPARE(window.Box().textCursor().position(), 1);
+}
+
+void RichTextTest::IsReadAloudLineByLine() {
+    ReportWindow window;
+    QAccessibleInterface* page = QAccessible::queryAccessibleInterface(&window.Box());
+    const QString spoken = QStringLiteral("v sub 0 vector F\ntheta al cuadrado");
+    QCOMPARE(page->text(QAccessible::Value), spoken);
+    QAccessibleTextInterface* text = page->textInterface();
+    QVERIFY(text);
+    QCOMPARE(text->characterCount(), spoken.size());
+    QCOMPARE(text->text(0, text->characterCount()), spoken);
+    QVERIFY(page->state().readOnly);
+    // What is copied are the signs.
+    QCOMPARE(window.Box().toPlainText(), QStringLiteral("v0F\nθ2"));
+}
+
+void RichTextTest::TheCaretStandsInTheSpokenLineOfItsLine() {
+    ReportWindow window;
+    QAccessibleTextInterface* text = QAccessible::queryAccessibleInterface(&window.Box())->textInterface();
+    window.Form().Get<window::RichTextBox>("rtbCalc").Select({5, 0});
+    QCoreApplication::processEvents();
+    int start = 0;
+    int end = 0;
+    QCOMPARE(text->textAtOffset(text->cursorPosition(), QAccessible::LineBoundary, &start, &end).trimmed(),
+             QStringLiteral("theta al cuadrado"));
+    text->setCursorPosition(0);
+    QCOMPARE(window.Box().textCursor().blockNumber(), 0);
+    QCOMPARE(text->cursorPosition(), 0);
+}
+
+void RichTextTest::AFormulaIsReadAloudBesideItsSigns() {
+    TestWindow window;
+    window.PressTool(1);
+    window.Form().Get<window::RichTextBox>("rtbExpr").SetText("R(3^2+4^2)");
+    QCoreApplication::processEvents();
+    QCOMPARE(window.Widget("rtbExpr").accessibleDescription(),
+             QStringLiteral("raíz de 3 al cuadrado más 4 al cuadrado fin de raíz"));
 }
 
 }  // namespace tavrelo::window_test

@@ -98,6 +98,9 @@ class RichTextTest : public QObject {
     void MenuIsSpanish();
     void SelectionCountsLineEndsAsTheModelDoes();
     void BackwardSelectionStays();
+    void IsReadAloudLineByLine();
+    void TheCaretStandsInTheSpokenLineOfItsLine();
+    void AFormulaIsReadAloudBesideItsSigns();
 };
 
 class BoxesTest : public QObject {
@@ -128,6 +131,7 @@ class PictureTest : public QObject {
     void CopiedImageIsTwiceTheSize();
     void CanvasPaintsWhatWasDrawn();
     void TextIsAsWideAsTheModelMeasures();
+    void DescriptionFollowsTheDrawing();
 };
 
 class PrintingTest : public QObject {
