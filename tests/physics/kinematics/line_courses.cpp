@@ -20,7 +20,7 @@ constexpr double kRadians = 1;
 // from small first steps and from the long one of a graph, at which estimates may agree by chance.
 constexpr double kPart = 1e-9;
 constexpr double kPartOfSteps = 1e-5;
-constexpr double kPartOfDerivative = 1e-4;
+constexpr double kPartOfDerivative = 1e-3;
 constexpr double kPartOfGraphVelocity = 1e-2;
 constexpr double kPartOfGraphAcceleration = 1e-3;
 constexpr double kLatest = 5;
