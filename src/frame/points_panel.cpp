@@ -67,6 +67,9 @@ PointsPanel::PointsPanel(window::Form1& form, HelpPanel& help) : m_form(form), m
 
 void PointsPanel::BindTable() {
     window::Grid& grid = m_controls.Gd2;
+    grid.NameColumn = [this](int column) {
+        return m_tool ? "punto " + m_tool->PointName(column) : std::string();
+    };
     m_rules.allowed = kCellCharacters;
     m_rules.on_content = [this](window::CellPlace place, const std::string& content) {
         mechanics::points::Cell& cell = m_tool->Table().At(place.row, place.col);

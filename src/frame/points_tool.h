@@ -61,6 +61,8 @@ class PointsTool {
     virtual void ReleaseStrip(const window::MouseStroke& stroke) = 0;
     /// What can be pressed on the strip as it is.
     virtual std::vector<window::PictureCell> StripCells() const = 0;
+    /// The point of a column of the table, as the strip calls it: "2", "0 del móvil 2".
+    virtual std::string PointName(int column) const = 0;
     virtual void EnterCell() {}
     virtual void ChooseRow(int row) = 0;      // from 1
     virtual void ChooseEntry(int entry) = 0;  // from 0

@@ -5,9 +5,9 @@
 #include <QPalette>
 #include <QScopedValueRollback>
 
-#include "qt/accessible_names.h"
 #include "qt/fonts.h"
 #include "qt/text.h"
+#include "window/control_names.h"
 
 namespace tavrelo::qt {
 
@@ -59,15 +59,19 @@ void Binding::ShowState() {
     const QString tooltip = ToQString(m_control.Tooltip());
     if (m_widget.toolTip() != tooltip)
         m_widget.setToolTip(tooltip);
-    const QString name = AccessibleName(m_control);
-    if (m_widget.accessibleName() != name)
-        m_widget.setAccessibleName(name);
+    ShowName();
     ShowColors();
     ShowUnderline();
     m_widget.setEnabled(m_control.Enabled());
     const bool visible = m_control.Visible() && IsPageInFront();
     if (m_widget.isHidden() == visible)
         m_widget.setVisible(visible);
+}
+
+void Binding::ShowName() {
+    const QString name = ToQString(window::AccessibleName(Form(), m_control));
+    if (m_widget.accessibleName() != name)
+        m_widget.setAccessibleName(name);
 }
 
 void Binding::ShowUnderline() {

@@ -33,6 +33,8 @@ class Binding : public QObject {
 
     /// Shows that aspect of the model.
     void Refresh(window::Change change);
+    /// Tells readers of the screen what the control is called now.
+    void ShowName();
     /// Shows everything, also after a change of the zoom.
     void RefreshAll();
 

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "qt/accessible.h"
 #include "qt/text.h"
 
 namespace tavrelo::qt {
@@ -80,12 +81,36 @@ void KeepLines(QMessageBox& box) {
     label->setMinimumWidth(std::min(width, qRound(box.screen()->availableSize().width() * kWidestShare)));
 }
 
+/// For readers of the screen an alert, which they read whole as soon as it opens.
+class AccessibleMessage : public QAccessibleWidget {
+  public:
+    explicit AccessibleMessage(QMessageBox& box)
+        : QAccessibleWidget(&box, QAccessible::AlertMessage), m_box(box) {}
+
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Description)
+            return m_box.text();
+        if (kind != QAccessible::Name || !m_box.windowTitle().isEmpty())
+            return QAccessibleWidget::text(kind);
+        return m_box.icon() == QMessageBox::Question ? QStringLiteral("Pregunta") : QStringLiteral("Aviso");
+    }
+
+  private:
+    QMessageBox& m_box;
+};
+
+class Message : public QMessageBox, public TellsOfItself {
+  public:
+    using QMessageBox::QMessageBox;
+    QAccessibleInterface* NewAccessible() override { return new AccessibleMessage(*this); }
+};
+
 }  // namespace
 
 window::Answer WindowBoxes::ShowMessage(std::string_view text, std::string_view title,
                                         window::Buttons buttons) {
     const auto icon = buttons == window::Buttons::Ok ? QMessageBox::Information : QMessageBox::Question;
-    QMessageBox box(icon, ToQString(title), ToQString(text), QMessageBox::NoButton, WindowInUse());
+    Message box(icon, ToQString(title), ToQString(text), QMessageBox::NoButton, WindowInUse());
     box.setTextFormat(Qt::PlainText);
     FitToWindow(box);
     KeepLines(box);

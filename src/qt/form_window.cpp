@@ -95,6 +95,11 @@ void FormWindow::ShowZoom(double zoom) {
     PlaceParts();
 }
 
+QAccessibleInterface* FormWindow::NewAccessible() {
+    const bool is_dialog = windowType() == Qt::Dialog;
+    return new QAccessibleWidget(this, is_dialog ? QAccessible::Dialog : QAccessible::Window);
+}
+
 void FormWindow::PlaceParts() {
     // Scroll bars, boxes and the bar below are as large as the frame, however far the page is zoomed in it.
     const double scale = m_bar ? FittingZoom(OwnSize(), size()) : m_page.width() / OwnSize().width();

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "qt/accessible.h"
 #include "window/controls.h"
 
 namespace tavrelo::qt {
@@ -20,7 +21,7 @@ class PageArea : public QScrollArea {
 
 /// A window of the model on the desktop: a page of the model's size times the zoom, in the middle of the
 /// frame or scrolled within it, and below it a bar of the view's own, if it has one.
-class FormWindow : public QWidget {
+class FormWindow : public QWidget, public TellsOfItself {
   public:
     FormWindow(window::Window& model, QWidget* parent, Qt::WindowFlags flags);
 
@@ -56,6 +57,8 @@ class FormWindow : public QWidget {
     void ScrollTo(const Anchor& anchor);
     /// Scrolls so that a widget of the page is in view.
     void BringIntoView(QWidget& widget);
+
+    QAccessibleInterface* NewAccessible() override;
 
     /// The frame was resized.
     std::function<void()> OnResize;

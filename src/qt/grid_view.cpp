@@ -13,6 +13,7 @@
 #include "qt/flat_parts.h"
 #include "qt/keys.h"
 #include "qt/text.h"
+#include "window/cell_names.h"
 #include "window/cell_typing.h"
 
 namespace tavrelo::qt {
@@ -73,6 +74,7 @@ void GridView::ShowCells(double zoom) {
     m_table.Renew();
     ShowSizes(zoom);
     ShowChoice();
+    TellNewContent();
 }
 
 void GridView::ShowSizes(double zoom) {
@@ -261,6 +263,104 @@ void GridView::paintEvent(QPaintEvent* event) {
 void GridView::focusInEvent(QFocusEvent*) {
     // The table's own handler would choose a cell that the model does not know of.
     viewport()->update();
+    // The toolkit tells of the table itself behind this; the cell is to have the last word.
+    QMetaObject::invokeMethod(
+        this, [this] { TellCurrentCell(); }, Qt::QueuedConnection);
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    // The table's own handler would tell of the cell too, by a count of its own.
+    QAbstractItemView::currentChanged(current, previous);
+    TellCurrentCell();
+}
+
+GridView::Cell GridView::ToCell(const TablePlace& place) const {
+    return {place.row - 1 + m_grid.FixedRows(), place.col - 1 + m_grid.FixedCols()};
+}
+
+bool GridView::HasPlace(const TablePlace& place) const {
+    return place.row >= 0 && place.col >= 0 && place.row <= m_table.rowCount() &&
+           place.col <= m_table.columnCount();
+}
+
+TablePlace GridView::CurrentPlace() const {
+    const QModelIndex current = currentIndex();
+    return current.isValid() ? TablePlace{current.row() + 1, current.column() + 1} : TablePlace{};
+}
+
+TablePlace GridView::PlaceAt(const QPoint& on_screen) const {
+    const QPoint place = viewport()->mapFromGlobal(on_screen);
+    return {place.y() < 0 ? 0 : rowAt(place.y()) + 1, place.x() < 0 ? 0 : columnAt(place.x()) + 1};
+}
+
+int GridView::IndexOf(const TablePlace& place) const {
+    return place.row * (m_table.columnCount() + 1) + place.col;
+}
+
+QString GridView::NameOf(const TablePlace& place) const {
+    const Cell cell = ToCell(place);
+    if (place == TablePlace{})
+        return m_corner.text().isEmpty() ? QStringLiteral("Encabezados")
+                                         : ToQString(window::ColumnHeading(m_grid, 0));
+    if (place.row == 0)
+        return ToQString(window::ColumnHeading(m_grid, cell.col));
+    if (place.col == 0)
+        return ToQString(window::RowHeading(m_grid, cell.row));
+    return ToQString(window::CellName(m_grid, cell.row, cell.col));
+}
+
+QString GridView::ContentOf(const TablePlace& place) const {
+    const Cell cell = ToCell(place);
+    return place.IsHeading() ? QString() : ToQString(m_grid.Cell(cell.row, cell.col));
+}
+
+bool GridView::IsChosen(const TablePlace& place) const {
+    const window::CellBlock& block = m_grid.Selection();
+    const Cell cell = ToCell(place);
+    return !place.IsHeading() && cell.row >= block.first_row && cell.row <= block.last_row &&
+           cell.col >= block.first_col && cell.col <= block.last_col;
+}
+
+QRect GridView::RectOf(const TablePlace& place) const {
+    const QHeaderView& across = *horizontalHeader();
+    const QHeaderView& down = *verticalHeader();
+    const bool is_top = place.row == 0;
+    const bool is_left = place.col == 0;
+    const int x = is_left ? -down.width() : across.sectionViewportPosition(place.col - 1);
+    const int y = is_top ? -across.height() : down.sectionViewportPosition(place.row - 1);
+    return {x, y, is_left ? down.width() : across.sectionSize(place.col - 1),
+            is_top ? across.height() : down.sectionSize(place.row - 1)};
+}
+
+bool GridView::IsInView(const TablePlace& place) const {
+    return place.IsHeading() || viewport()->rect().intersects(RectOf(place));
+}
+
+QRect GridView::RectOnScreen(const TablePlace& place) const {
+    const QRect rect = RectOf(place);
+    return {viewport()->mapToGlobal(rect.topLeft()), rect.size()};
+}
+
+void GridView::TellCurrentCell() {
+    const TablePlace place = CurrentPlace();
+    if (place.IsHeading() || !hasFocus())
+        return;
+    m_told = {place, NameOf(place)};
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(IndexOf(place));
+    QAccessible::updateAccessibility(&event);
+}
+
+void GridView::TellNewContent() {
+    const TablePlace place = CurrentPlace();
+    if (place.IsHeading() || !hasFocus())
+        return;
+    const Told before = std::exchange(m_told, {place, NameOf(place)});
+    if (before.place != place || before.name == m_told.name)
+        return;
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    event.setChild(IndexOf(place));
+    QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace tavrelo::qt

@@ -2,6 +2,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "qt/accessible.h"
 #include "qt/bindings.h"
 #include "qt/fonts.h"
 #include "qt/text.h"
@@ -10,11 +11,13 @@ namespace tavrelo::qt {
 namespace {
 
 /// A label that tells when it was clicked.
-class ClickLabel : public QLabel {
+class ClickLabel : public QLabel, public TellsOfItself {
   public:
     using QLabel::QLabel;
     std::function<void()> OnClick;
     int word_pitch = 0;  // pixels on the screen
+
+    QAccessibleInterface* NewAccessible() override { return new AccessibleText(*this); }
 
   protected:
     void paintEvent(QPaintEvent* event) override {

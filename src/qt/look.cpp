@@ -12,6 +12,7 @@
 #include <iterator>
 #include <memory>
 
+#include "qt/accessible.h"
 #include "qt/flat_parts.h"
 #include "qt/fonts.h"
 
@@ -268,6 +269,7 @@ void SetUpApplication(QApplication& application) {
     QApplication::setStyle(new Look);
     QApplication::setPalette(QApplication::style()->standardPalette());  // NOLINT(clang-analyzer-cplusplus*)
     QApplication::setFont(InterfaceFont(1));
+    LetWidgetsTellOfThemselves();
     auto translator = std::make_unique<QTranslator>();
     if (!translator->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         return;

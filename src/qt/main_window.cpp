@@ -10,9 +10,12 @@
 #include <utility>
 
 #include "qt/accessible_picture.h"
+#include "qt/announcer.h"
 #include "qt/fonts.h"
 #include "qt/shortcuts.h"
+#include "qt/text.h"
 #include "qt/zoom.h"
+#include "window/control_names.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -55,6 +58,9 @@ MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
             m_main.BringIntoView(*now);
     });
     form.OnChange = [this](window::Control& control, window::Change change) { OnChange(control, change); };
+    form.OnAnnounce = [announcer = new Announcer(m_main)](std::string_view sentence) {
+        announcer->Say(ToQString(sentence));
+    };
     form.OnRaise = [this](window::Window&) {
         m_dialog.raise();
         m_dialog.activateWindow();
@@ -67,6 +73,7 @@ MainWindow::~MainWindow() {
     m_main.OnResize = nullptr;
     m_main.OnWindowState = nullptr;
     m_context.form.OnChange = nullptr;
+    m_context.form.OnAnnounce = nullptr;
     m_context.form.OnRaise = nullptr;
 }
 
@@ -173,6 +180,8 @@ void MainWindow::OnChange(window::Control& control, window::Change change) {
     if (control.Kind() != window::ControlKind::Window &&
         (change == window::Change::Focus || m_bindings.contains(&control)))
         ShowChange(BindingOf(control), change);
+    if (control.Kind() == window::ControlKind::Label && change == window::Change::State)
+        RenameAfter(control);
     if (control.Kind() == window::ControlKind::TabStrip && change == window::Change::Selection)
         RefreshPages(control);
     if (may_show)
@@ -208,6 +217,12 @@ void MainWindow::RefreshPages(const window::Control& strip) {
     for (const auto& [control, binding] : m_bindings)
         if (control->Parent() == &strip)
             binding->Refresh(window::Change::State);
+}
+
+void MainWindow::RenameAfter(const window::Control& label) {
+    for (const window::Control* control : window::NamedAfter(m_context.form, label))
+        if (const auto made = m_bindings.find(control); made != m_bindings.end())
+            made->second->ShowName();
 }
 
 void MainWindow::DropLostFocus() {

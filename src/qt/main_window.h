@@ -66,6 +66,8 @@ class MainWindow : public QObject {
     /// When the control in use becomes unusable, no other control inherits the program's focus.
     void DropLostFocus();
     void RefreshPages(const window::Control& strip);
+    /// A caption has changed that names of other controls take up.
+    void RenameAfter(const window::Control& label);
     Binding* BindingOf(const QWidget* widget) const;
     Binding* MadeBindingOf(const window::Control& control) const;
 

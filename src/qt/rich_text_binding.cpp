@@ -1,9 +1,20 @@
+#include <QAccessible>
+#include <algorithm>
+#include <iterator>
+
 #include "qt/accessible_report.h"
 #include "qt/bindings.h"
+#include "qt/rich_document.h"
 #include "qt/rich_text_view.h"
+#include "qt/text.h"
+#include "text/spoken.h"
+#include "text/utf8.h"
 
 namespace tavrelo::qt {
 namespace {
+
+/// What a tool answers with; it is said aloud when it appears. Help is read by who asked for it.
+constexpr std::string_view kReports[] = {"rtbCalc", "rtbSolve"};
 
 class RichTextBinding : public Binding {
   public:
@@ -19,6 +30,7 @@ class RichTextBinding : public Binding {
     void ShowContent() override {
         m_view.ShowText(m_box.Content(), Zoom());
         m_view.Select(m_box.Selection());
+        TellNewPart();
     }
 
     void ShowSelection() override {
@@ -33,8 +45,25 @@ class RichTextBinding : public Binding {
         Report([this] { m_box.UserSelected(m_view.Selected()); });
     }
 
+    /// Tells readers of the screen what the box says that it did not say before.
+    void TellNewPart() {
+        std::string text = m_box.Content().PlainText();
+        const std::size_t start = text.starts_with(m_told) ? text::CharacterCount(m_told) : 0;
+        m_told = std::move(text);
+        const text::RichText added = Piece(m_box.Content(), start, std::string::npos - start);
+        if (added.PlainText().empty() || !m_box.IsShown())
+            return;
+        const QString added_text = ToQString(text::ReplaceAll(added.PlainText(), "\r\n", "\n"));
+        const int place = static_cast<int>(m_view.toPlainText().size() - added_text.size());
+        QAccessibleTextInsertEvent event(&m_view, place, added_text);
+        QAccessible::updateAccessibility(&event);
+        if (std::ranges::find(kReports, m_box.Name()) != std::end(kReports))
+            Form().Announce(text::SpokenText(added));
+    }
+
     window::RichTextBox& m_box;
     RichTextView& m_view;
+    std::string m_told;
 };
 
 }  // namespace

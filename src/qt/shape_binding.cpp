@@ -1,5 +1,6 @@
 #include <QPainter>
 
+#include "qt/accessible.h"
 #include "qt/bindings.h"
 #include "qt/fonts.h"
 
@@ -7,12 +8,14 @@ namespace tavrelo::qt {
 namespace {
 
 /// A filled rectangle, or only its outline where the shape has no back colour.
-class ShapeWidget : public QWidget {
+class ShapeWidget : public QWidget, public TellsOfItself {
   public:
     ShapeWidget(const window::Control& model, QWidget& parent, const ViewContext& context)
         : QWidget(&parent), m_model(model), m_context(context) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
+
+    QAccessibleInterface* NewAccessible() override { return new AccessibleOrnament(*this); }
 
   protected:
     void paintEvent(QPaintEvent*) override {

@@ -2,6 +2,7 @@
 #include <QPainter>
 #include <QTabBar>
 
+#include "qt/accessible.h"
 #include "qt/bindings.h"
 #include "qt/fonts.h"
 #include "qt/text.h"
@@ -39,7 +40,7 @@ class TightTabBar : public QTabBar {
 };
 
 /// The tabs over the page whose controls are children of this widget.
-class TabStripWidget : public QWidget {
+class TabStripWidget : public QWidget, public TellsOfItself {
   public:
     TabStripWidget(QWidget& parent, const ViewContext& context)
         : QWidget(&parent), m_context(context), m_tabs(*this, context) {
@@ -49,6 +50,10 @@ class TabStripWidget : public QWidget {
     }
 
     QTabBar& Tabs() { return m_tabs; }
+
+    QAccessibleInterface* NewAccessible() override {
+        return new QAccessibleWidget(this, QAccessible::Grouping);
+    }
 
   protected:
     void resizeEvent(QResizeEvent*) override {
@@ -72,7 +77,6 @@ class TabStripBinding : public Binding {
   public:
     TabStripBinding(window::TabStrip& strip, TabStripWidget& widget, ViewContext& context)
         : Binding(strip, widget, context), m_strip(strip), m_tabs(widget.Tabs()) {
-        m_tabs.setAccessibleName(widget.accessibleName());
         m_tabs.installEventFilter(this);
         connect(&m_tabs, &QTabBar::tabBarClicked, this, [this](int tab) {
             if (tab >= 0)

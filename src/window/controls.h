@@ -281,6 +281,9 @@ class Grid : public Control {
     /// An arrow key that no handler consumed: moves the current cell, with Shift the end of the selection.
     void UserNavigate(Key key, bool extend);
 
+    /// What a column is called that has no fixed row above it.
+    std::function<std::string(int col)> NameColumn;
+
     Handler<void(int row, int col)> OnMouseDown;
     Handler<void()> OnSelChange;
     Handler<void()> OnEnterCell;

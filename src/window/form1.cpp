@@ -166,6 +166,14 @@ void Form1::Arrange(Arrangement arrangement) {
             picture->FitCanvas();
     }
     FillPages();
+    if (std::exchange(m_arrangement, arrangement) != arrangement)
+        TellNames();
+}
+
+void Form1::TellNames() {
+    for (const ControlName& row : NameTable())
+        if (row.arrangement && OnChange)
+            OnChange(*MustFind(row.name), Change::State);
 }
 
 void Form1::FillPages() {

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -77,6 +78,8 @@ class Form1 {
 
     /// Gives the panels the places of an arrangement.
     void Arrange(Arrangement arrangement);
+    /// The one in force; nothing before the first tool.
+    std::optional<Arrangement> CurrentArrangement() const { return m_arrangement; }
 
     /// The control with the focus, or null.
     Control* Focus() const { return m_focus; }
@@ -125,10 +128,13 @@ class Form1 {
     void LinkOptions();
     /// Gives the controls that fill a page its size.
     void FillPages();
+    /// Tells the view of the controls that are called otherwise in another arrangement.
+    void TellNames();
 
     ControlLinks m_links;
     std::map<std::string, std::unique_ptr<Control>, std::less<>> m_controls;
     std::vector<Control*> m_order;
+    std::optional<Arrangement> m_arrangement;
     Control* m_focus = nullptr;
     int m_pointer = kPointerDefault;
     bool m_ended = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -54,6 +55,24 @@ struct ControlTooltip {
     std::string_view tooltip;
 };
 std::span<const ControlTooltip> TooltipTable();
+
+/// What a control is called by a voice that reads the window aloud: short, the telling word first, and never
+/// the kind of the control, which the voice tells by itself. Of the rows of a control the first one holds
+/// whose condition is met; a control without such a row goes by its caption.
+struct ControlName {
+    std::string_view name;
+    std::string_view words;
+    // The caption of this control, or one word of it counted from 1, goes on behind the words; the row holds
+    // while there is such a one. A control may take up its own caption.
+    std::string_view label = {};
+    int word = kWholeCaption;
+    // The row holds in this arrangement, or with this caption, alone.
+    std::optional<Arrangement> arrangement = {};
+    std::string_view caption = {};
+
+    static constexpr int kWholeCaption = 0;
+};
+std::span<const ControlName> NameTable();
 
 inline constexpr Rect kForm1Bounds{0, 0, 800, 612};
 inline constexpr Rect kForm2Bounds{0, 0, 440, 256};

@@ -334,6 +334,267 @@ constexpr ControlTooltip kTooltips[] = {
 };
 // clang-format on
 
+// Conditions of the names.
+constexpr ControlName In(Arrangement arrangement, std::string_view name, std::string_view words) {
+    return {.name = name, .words = words, .arrangement = arrangement};
+}
+constexpr ControlName With(std::string_view caption, std::string_view name, std::string_view words) {
+    return {.name = name, .words = words, .caption = caption};
+}
+constexpr ControlName Before(std::string_view label, std::string_view name, std::string_view words,
+                             int word = ControlName::kWholeCaption) {
+    return {.name = name, .words = words, .label = label, .word = word};
+}
+
+// clang-format off
+constexpr ControlName kNames[] = {
+    // In Form1
+    {"Image1", "Herramientas"},
+    {"linMarker", "Herramienta en uso"},
+    {"pic", "Pizarrón"},
+    {"pic1", "Pizarrón"},
+    In(A::Kinematics, "picBar", "Formas de dar el movimiento"),
+    {"picBar", "Rutinas"},
+    In(A::Motion, "picArgs", "Procedimiento en uso"),
+    In(A::Projectile, "picArgs", "Procedimiento en uso"),
+    {"picArgs", "Rutina en uso"},
+    {"picRuts", "Iconos de las rutinas"},
+    {"rtbHold", "Texto en preparación"},
+    {"fraUnits", "Unidades"},
+    {"fraExpr", "Fórmulas"},
+    {"fraCalc", "Cálculo"},
+    {"fraDirec", "Dirección"},
+    {"fraEstp", "Equilibrio de la partícula"},
+    {"tabCalc", "Respuestas"},
+    {"tabStat", "Equilibrio del cuerpo rígido"},
+    In(A::Projectile, "tabMrua", "Tiro parabólico"),
+    {"tabMrua", "Movimiento uniformemente acelerado"},
+    {"fraTable", "Datos de los puntos"},
+    {"fraKinem", "Cinemática plana"},
+    {"fraHelp", "Ayuda contextual"},
+
+    // In picArgs
+    In(A::Motion, "picArgs1", "Datos que pide el procedimiento"),
+    In(A::Projectile, "picArgs1", "Datos que pide el procedimiento"),
+    {"picArgs1", "Título de la rutina"},
+    In(A::Motion, "picArgs2", "Datos que pide el procedimiento"),
+    In(A::Projectile, "picArgs2", "Datos que pide el procedimiento"),
+    {"picArgs2", "Argumentos que pide la rutina"},
+
+    // In fraUnits
+    {"cboUnits(0)", "Unidad dada"},
+    {"cboUnits(1)", "Unidad buscada"},
+
+    // In fraExpr
+    {"lblExpr", "Expresión:"},
+    {"rtbExpr", "Expresión"},
+    {"lblEqual", "Igual a"},
+    {"txtExpr", "Valor de la expresión"},
+    {"picOpt", "Opciones de la expresión"},
+
+    // In fraCalc
+    {"cmdGrid(0)", "Restaurar tabla original"},
+    {"cmdGrid(1)", "Intercambiar renglones o columnas"},
+    {"cmdGrid(2)", "Ensanchar celdas"},
+    {"cmdGrid(3)", "Copiar región"},
+    {"cmdGrid(4)", "Celdas pequeñas"},
+    {"cmdGrid(5)", "Angostar celdas"},
+    {"cmdGrid(6)", "Mover región"},
+    {"cmdGrid(7)", "Insertar serie de valores"},
+    Before("lblRC", "lblRC", "Celdas elegidas:"),
+    {"gd", "Argumentos"},
+
+    // In fraDirec
+    {"picClock", "Reloj de direcciones"},
+    In(A::Particle, "txtVector", "Fuerza"),
+    {"txtVector", "Vector"},
+    {"txtAngle", "Ángulo en grados"},
+    {"cmdInc", "Sumar 5 grados"},
+    {"lblAtan", "Arco tangente:"},
+    {"txtAtan", "Arco tangente de la pendiente"},
+
+    // In fraEstp
+    {"gdEqui", "Fuerzas"},
+    {"cmdParts(5)", "Cancelar última fuerza"},
+    {"cmdParts(6)", "Cancelar fuerza elegida"},
+    Before("cmdRotangle", "cmdRotangle", "Rotar ejes:"),
+    {"cmdExampleEstp(0)", "Ejemplo 1: dos cables y un peso"},
+    {"cmdExampleEstp(1)", "Ejemplo 2: una cuerda que pasa por una polea"},
+    {"cmdExampleEstp(2)", "Ejemplo 3: dos direcciones desconocidas"},
+    {"cmdExampleEstp(3)", "Ejemplo 4: una magnitud y un ángulo"},
+
+    // In tabCalc
+    {"rtbCalc", "Informe"},
+    {"rtbSolve", "Informe"},
+    {"txtArgHelp", "Ayuda breve"},
+    {"rtbReg", "Registro de la sesión"},
+
+    // In tabStat
+    {"txtSegm(0)", "Cadena de puntos"},
+    Before("lblSegm(1)", "lblSegm(1)", "Primer par:"),
+    {"lblVector", "Vector de separación:"},
+    Before("lblSegm(1)", "txtSegm(1)", "Vector de separación"),
+    {"txtSegm(1)", "Vector de separación"},
+    {"txtRepeat", "Serie en"},
+    Before("lblSegm(2)", "lblSegm(2)", "Pares siguientes:"),
+    Before("lblSegm(2)", "txtSegm(2)", "Separación", 1),
+    {"txtSegm(2)", "Separación 2"},
+    Before("lblSegm(2)", "txtSegm(3)", "Separación", 2),
+    {"txtSegm(3)", "Separación 3"},
+    Before("lblSegm(2)", "txtSegm(4)", "Separación", 3),
+    {"txtSegm(4)", "Separación 4"},
+    Before("lblSegm(2)", "txtSegm(5)", "Separación", 4),
+    {"txtSegm(5)", "Separación 5"},
+    Before("lblSegm(2)", "txtSegm(6)", "Separación", 5),
+    {"txtSegm(6)", "Separación 6"},
+    {"cmdOK", "Aceptar separaciones"},
+    {"cmdHelpEstcr(0)", "Ayuda: configuración de la estructura"},
+    {"lblSeps", "Vectores de separación:"},
+    {"lstSeps", "Vectores de separación"},
+    {"lstCoords", "Coordenadas"},
+    {"txtOrigin", "Origen"},
+    {"cmdUpdate", "Actualizar coordenadas"},
+    {"spnColor", "Sistema"},
+    {"lstSysts", "Puntos del sistema"},
+    {"lblSystem(0)", "Sistema 1:"},
+    Before("lblPoints(0)", "lblPoints(0)", "Puntos del sistema 1:"),
+    {"lblSystem(1)", "Sistema 2:"},
+    Before("lblPoints(1)", "lblPoints(1)", "Puntos del sistema 2:"),
+    {"lblSystem(2)", "Sistema 3:"},
+    Before("lblPoints(2)", "lblPoints(2)", "Puntos del sistema 3:"),
+    {"lblSystem(3)", "Sistema 4:"},
+    Before("lblPoints(3)", "lblPoints(3)", "Puntos del sistema 4:"),
+    {"lblSystem(4)", "Sistema 5:"},
+    Before("lblPoints(4)", "lblPoints(4)", "Puntos del sistema 5:"),
+    {"txtPoints", "Trazar línea"},
+    {"cmdHelpEstcr(1)", "Ayuda: sistemas y líneas"},
+    {"optDCL(0)", "DCL del sistema 1"},
+    {"optDCL(1)", "DCL del sistema 2"},
+    {"optDCL(2)", "DCL del sistema 3"},
+    {"optDCL(3)", "DCL del sistema 4"},
+    {"optDCL(4)", "DCL del sistema 5"},
+    {"txtBody(0)", "Cuerpo"},
+    {"txtBody(1)", "Puntos"},
+    Before("lblForceAt(0)", "txtBody(2)", "Fuerza o par en", 3),
+    {"txtBody(2)", "Fuerza o par"},
+    Before("lblForceAt(1)", "lblForceAt(1)", "Otra fuerza"),
+    Before("lblForceAt(1)", "txtBody(3)", "Fuerza"),
+    {"txtBody(3)", "Fuerza 2 de la serie"},
+    Before("lblForceAt(2)", "lblForceAt(2)", "Otra fuerza"),
+    Before("lblForceAt(2)", "txtBody(4)", "Fuerza"),
+    {"txtBody(4)", "Fuerza 3 de la serie"},
+    Before("lblForceAt(3)", "lblForceAt(3)", "Otra fuerza"),
+    Before("lblForceAt(3)", "txtBody(5)", "Fuerza"),
+    {"txtBody(5)", "Fuerza 4 de la serie"},
+    Before("lblForceAt(4)", "lblForceAt(4)", "Otra fuerza"),
+    Before("lblForceAt(4)", "txtBody(6)", "Fuerza"),
+    {"txtBody(6)", "Fuerza 5 de la serie"},
+    Before("lblForceAt(5)", "lblForceAt(5)", "Otra fuerza"),
+    Before("lblForceAt(5)", "txtBody(7)", "Fuerza"),
+    {"txtBody(7)", "Fuerza 6 de la serie"},
+    {"cmdOK1", "Aceptar fuerza"},
+    {"cmdHelpEstcr(2)", "Ayuda: diagramas de cuerpo libre"},
+    {"gd1", "Fuerzas del diagrama"},
+    {"cmdDCL(0)", "Quitar última fuerza"},
+    {"cmdDCL(1)", "Quitar fuerza elegida"},
+    {"cmdDCL(2)", "Empezar con las casillas vacías"},
+    {"cmdDCL(3)", "Trazar DCL"},
+    {"optShowDCL(0)", "Mostrar DCL del sistema 1"},
+    {"optShowDCL(1)", "Mostrar DCL del sistema 2"},
+    {"optShowDCL(2)", "Mostrar DCL del sistema 3"},
+    {"optShowDCL(3)", "Mostrar DCL del sistema 4"},
+    {"optShowDCL(4)", "Mostrar DCL del sistema 5"},
+    {"lstDCL", "Cuerpos"},
+    {"cmdClearLstDCL", "Despejar cuerpos"},
+    {"txtRefPt(0)", "Punto de referencia del sistema 1"},
+    {"txtRefPt(1)", "Punto de referencia del sistema 2"},
+    {"txtRefPt(2)", "Punto de referencia del sistema 3"},
+    {"txtRefPt(3)", "Punto de referencia del sistema 4"},
+    {"txtRefPt(4)", "Punto de referencia del sistema 5"},
+    {"txtSuprEqn", "Ecuaciones por suprimir"},
+    {"cmdHelpEstcr(3)", "Ayuda: resolver el equilibrio"},
+
+    // In tabMrua
+    Before("lblAs(0)", "cmdTable(0)", "Configurar:"),
+    {"cmdTable(0)", "Configurar primera variante"},
+    Before("lblAs(1)", "cmdTable(1)", "Configurar:"),
+    {"cmdTable(1)", "Configurar segunda variante"},
+    Before("lblAs(2)", "cmdTable(2)", "Configurar:"),
+    {"cmdTable(2)", "Configurar tercera variante"},
+    Before("lblAs(3)", "cmdTable(3)", "Configurar:"),
+    {"cmdTable(3)", "Configurar cuarta variante"},
+    {"cmdHelpTable(0)", "Ayuda: configurar los puntos"},
+    {"imgProcs", "Ecuaciones por aplicar"},
+    {"shpMrua", "Procedimiento en uso"},
+    {"cmdHelpTable(1)", "Ayuda: aplicar ecuaciones"},
+    {"cboProcs", "Procedimiento"},
+    {"txtProcs", "Datos del procedimiento"},
+    {"cmdProcs", "Aceptar procedimiento"},
+    {"cmdHelpTable(2)", "Ayuda: otros procedimientos"},
+
+    // In fraTable
+    {"picAccel", "Puntos y tramos"},
+    In(A::Projectile, "Gd2", "Puntos del tiro"),
+    {"Gd2", "Puntos del movimiento"},
+    {"cmdNewMruaProbl", "Nuevo problema"},
+    With("Ver Gráfico", "cmdSeeEqns", "Ver gráfico"),
+    With("Ver Ecuacs.", "cmdSeeEqns", "Ver ecuaciones"),
+    {"fraRes", "Solución hallada"},
+
+    // In picAccel
+    {"txtAccel(0)", "Aceleración a"},
+    {"txtAccel(1)", "Aceleración a prima"},
+    {"txtAccel(2)", "Aceleración a biprima"},
+    {"txtAccel(3)", "Aceleración A del segundo móvil"},
+
+    // In fraRes
+    {"lblQuant(0)", "Tiempo t:"},
+    {"lblQuant(1)", "Posición x:"},
+    {"lblQuant(2)", "Velocidad v:"},
+    Before("lblRes(0)", "lblRes(0)", "Primer punto:"),
+    Before("lblRes(1)", "lblRes(1)", "Segundo punto:"),
+    Before("lblRes(2)", "lblRes(2)", "t del primer punto:"),
+    Before("lblRes(3)", "lblRes(3)", "t del segundo punto:"),
+    Before("lblRes(4)", "lblRes(4)", "x del primer punto:"),
+    Before("lblRes(5)", "lblRes(5)", "x del segundo punto:"),
+    Before("lblRes(6)", "lblRes(6)", "v del primer punto:"),
+    Before("lblRes(7)", "lblRes(7)", "v del segundo punto:"),
+    {"cmdPass(0)", "Primera solución"},
+    {"cmdPass(1)", "Segunda solución"},
+    {"cmdCloseFrares", "Cerrar la solución"},
+
+    // In fraKinem
+    Before("lblKinem(0)", "txtKinem(0)", "Función"),
+    Before("lblKinem(1)", "txtKinem(1)", "Función"),
+    {"txtKinem(1)", "Segunda función"},
+    {"txtT0(0)", "Tiempo inicial t0"},
+    {"txtT0(1)", "Posición inicial x0"},
+    {"txtT0(2)", "Velocidad inicial v0"},
+    {"txtKinemt1(0)", "Tiempo t"},
+    {"txtKinemt1(1)", "Hasta el tiempo t"},
+    {"chkGraph(0)", "Curva x(t)"},
+    {"chkGraph(1)", "Curva v(t)"},
+    {"chkGraph(2)", "Curva a(t)"},
+
+    // In fraHelp
+    With("8", "cmdHelpCtrl(1)", "Agrandar la letra a 10 puntos"),
+    {"cmdHelpCtrl(1)", "Reducir la letra a 8 puntos"},
+    With("▼", "cmdHelpCtrl(2)", "Agrandar la ayuda"),
+    {"cmdHelpCtrl(2)", "Reducir la ayuda"},
+    {"cmdHelpCtrl(3)", "Cerrar la ayuda"},
+    {"cboHelp", "Tema de ayuda"},
+    {"rtbHelp", "Página de ayuda"},
+
+    // In Form2
+    {"cmdPrintRes", "Imprimir lo elegido"},
+    {"cmdCopyToClipboard", "Copiar el pizarrón"},
+    {"lblNCD", "Número de cifras decimales:"},
+    {"txtNCD", "Cifras decimales"},
+    {"UpDown1", "Cambiar cifras decimales"},
+    {"cmdCloseForm2", "Cerrar preferencias"},
+};
+// clang-format on
+
 }  // namespace
 
 std::span<const ControlRow> ControlTable() { return kControls; }
@@ -341,5 +602,7 @@ std::span<const ControlRow> ControlTable() { return kControls; }
 std::span<const ArrangedBounds> ArrangementTable() { return kArrangements; }
 
 std::span<const ControlTooltip> TooltipTable() { return kTooltips; }
+
+std::span<const ControlName> NameTable() { return kNames; }
 
 }  // namespace tavrelo::window

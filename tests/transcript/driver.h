@@ -41,6 +41,16 @@ struct CellPlace {
     int col = 0;
 };
 
+/// What a reader of the screen is told of the window: objects in view, and what was found wrong with them.
+struct TreeFindings {
+    int objects = 0;
+    int named = 0;
+    int with_role = 0;
+    int reachable = 0;      // by keyboard
+    int read_in_place = 0;  // texts, headings and what holds others: not to be gone to
+    std::vector<std::string> complaints;
+};
+
 /// One program under test, seen from outside: what a student can do to its window and what stands in it. One
 /// driver acts on the window model, the other one on the real window. A driver serves one transcript; the
 /// runner makes a new one for the next.
@@ -129,6 +139,9 @@ class Driver {
     /// The number of the pointer shape in force; see window::PointerShape.
     virtual int Pointer() = 0;
     virtual ClipboardContent OnClipboard() = 0;
+
+    /// Walks what a reader of the screen is told; a driver without a window is told nothing.
+    virtual TreeFindings WalkTree() { return {}; }
 
     // The end of a transcript.
 

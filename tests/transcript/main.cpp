@@ -15,7 +15,8 @@ constexpr int kFailed = 1;
 constexpr int kMisused = 2;
 
 int PlayAll(const Options& options, DriverMaker make_driver) {
-    Runner runner({std::move(make_driver), options.print, options.pictures}, std::cout, std::cerr);
+    Runner runner({std::move(make_driver), options.print, options.pictures, options.tree}, std::cout,
+                  std::cerr);
     for (const std::string& path : options.paths)
         runner.PlayPath(path);
     runner.Summarize();

@@ -42,6 +42,8 @@ void Take(Options& options, std::string_view argument, CommandLine& line) {
         options.window = true;
     else if (argument == "--print")
         options.print = true;
+    else if (argument == "--tree")
+        options.tree = true;
     else if (argument == "--pictures")
         options.pictures = line.ValueOf(argument);
     else if (argument == "--zoom")
@@ -65,7 +67,7 @@ Options ParseOptions(std::span<const char* const> arguments) {
 }
 
 std::string UsageText() {
-    return "transcript [--window] [--print] [--pictures FOLDER] [--zoom PERCENT] FILE_OR_FOLDER...";
+    return "transcript [--window] [--print] [--tree] [--pictures FOLDER] [--zoom PERCENT] FILE_OR_FOLDER...";
 }
 
 }  // namespace tavrelo::transcript

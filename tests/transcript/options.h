@@ -13,6 +13,7 @@ namespace tavrelo::transcript {
 struct Options {
     bool window = false;
     bool print = false;
+    bool tree = false;
     std::filesystem::path pictures;
     DriverOptions driver;
     std::vector<std::string> paths;

@@ -55,6 +55,7 @@ class RealWindow : public Driver {
     const window::Control* Focus() override;
     int Pointer() override;
     ClipboardContent OnClipboard() override;
+    TreeFindings WalkTree() override;
     void SavePicture(const std::string& path) override;
 
   private:

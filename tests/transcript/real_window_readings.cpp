@@ -19,6 +19,7 @@
 #include "qt/text.h"
 #include "real_window.h"
 #include "script.h"
+#include "tree_walk.h"
 
 // What is seen of a real window.
 
@@ -269,6 +270,14 @@ ClipboardContent RealWindow::OnClipboard() {
         return {ToUtf8(QApplication::clipboard()->text()), 0, 0};
     const QSizeF size = QSizeF(image.size()) / qt::kExportScale;
     return {{}, qRound(size.width()), qRound(size.height())};
+}
+
+TreeFindings RealWindow::WalkTree() {
+    QCoreApplication::processEvents();
+    TreeWalk walk;
+    walk.Visit(m_window.Frame());
+    walk.Visit(m_window.WidgetOf(*m_program.Window().Find("Form2")));
+    return walk.Findings();
 }
 
 }  // namespace tavrelo::transcript

@@ -79,7 +79,13 @@ void Runner::Fail(const std::string& name, std::string_view message) {
     Count(false);
 }
 
-void Runner::Summarize() { m_results << m_passed << " passed, " << m_failed << " failed\n"; }
+void Runner::Summarize() {
+    if (m_options.tree)
+        m_results << m_walks << " walks: " << m_tree.objects << " objects, " << m_tree.named << " named, "
+                  << m_tree.with_role << " with a role, " << m_tree.reachable << " reachable by keyboard, "
+                  << m_tree.read_in_place << " read in place\n";
+    m_results << m_passed << " passed, " << m_failed << " failed\n";
+}
 
 void Runner::Count(bool passed) { ++(passed ? m_passed : m_failed); }
 
@@ -112,6 +118,8 @@ bool Runner::PlaySteps(const std::string& name, const Script& script, Driver& dr
         }
         if (!m_options.print && !Agrees(name, step, outcome.shown))
             passed = false;
+        if (m_options.tree && !IsWellTold(name, step, driver))
+            passed = false;
     }
     return passed;
 }
@@ -124,6 +132,19 @@ bool Runner::Agrees(const std::string& name, const Step& step, const std::vector
         m_results << "    got:    " << difference.got.value_or(kNothing) << '\n';
     }
     return differences.empty();
+}
+
+bool Runner::IsWellTold(const std::string& name, const Step& step, Driver& driver) {
+    const TreeFindings found = driver.WalkTree();
+    ++m_walks;
+    m_tree.objects += found.objects;
+    m_tree.named += found.named;
+    m_tree.with_role += found.with_role;
+    m_tree.reachable += found.reachable;
+    m_tree.read_in_place += found.read_in_place;
+    for (const std::string& complaint : found.complaints)
+        Report(name, step.line_number, complaint);
+    return found.complaints.empty();
 }
 
 void Runner::Report(const std::string& name, int line_number, std::string_view message) {

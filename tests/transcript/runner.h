@@ -20,7 +20,8 @@ struct RunOptions {
     DriverMaker make_driver;  // a fresh program for every file
     bool print = false;       // write the transcripts with what the program shows, compare nothing
     std::filesystem::path
-        pictures;  // folder for a picture of the window at the end of each file; empty: none
+        pictures;       // folder for a picture of the window at the end of each file; empty: none
+    bool tree = false;  // walk what a reader of the screen is told, behind every command
 };
 
 /// Plays transcripts and counts them.
@@ -47,6 +48,8 @@ class Runner {
     /// Plays up to the end or to the first command that cannot be carried out.
     bool PlaySteps(const std::string& name, const Script& script, Driver& driver);
     bool Agrees(const std::string& name, const Step& step, const std::vector<std::string>& shown);
+    /// Whether a reader of the screen can say and reach everything that is in view.
+    bool IsWellTold(const std::string& name, const Step& step, Driver& driver);
     void Report(const std::string& name, int line_number, std::string_view message);
     void Fail(const std::string& name, std::string_view message);
     void Count(bool passed);
@@ -56,6 +59,8 @@ class Runner {
     RunOptions m_options;
     std::ostream& m_output;   // of what is printed
     std::ostream& m_results;  // of failures and counts
+    TreeFindings m_tree;      // of all walks, added up
+    int m_walks = 0;
     int m_passed = 0;
     int m_failed = 0;
 };

@@ -25,7 +25,7 @@ int main(int argc, char* argv[]) {
     int failed = 0;
     for (const auto run : {Run<ZoomTest>, Run<ScreenTest>, Run<FocusTest>, Run<KeyboardTest>, Run<TypingTest>,
                            Run<RichTextTest>, Run<BoxesTest>, Run<ChangesTest>, Run<PictureTest>,
-                           Run<PrintingTest>, Run<ClosingTest>, Run<LayoutTest>})
+                           Run<PrintingTest>, Run<ClosingTest>, Run<AccessibleTest>, Run<LayoutTest>})
         failed += run(argc, argv);
     return failed == 0 ? 0 : 1;
 }

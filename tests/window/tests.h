@@ -150,6 +150,23 @@ class ClosingTest : public QObject {
     void TheDialogOpensInTheMiddleAndCloses();
 };
 
+class AccessibleTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void cleanup();
+    void PanelsLabelsAndOrnamentsHaveTheirRoles();
+    void NamesFollowToolsAndLabels();
+    void CellsTellTheirHeadingsAndContent();
+    void TheFocusGoesWithTheCurrentCell();
+    void AChosenBlockIsTold();
+    void ListsCombosTabsAndArrowsTellTheirState();
+    void AReportIsSaidOnce();
+    void OneHandlerIsSaidInOneGo();
+    void NothingIsNotSaid();
+    void BoxesAreAlertsWithTheirText();
+    void TheInputBoxAsksItsQuestion();
+};
+
 class LayoutTest : public QObject {
     Q_OBJECT
   private slots:

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "frame/points_board.h"
+#include "frame/points_strip.h"
 #include "frame/writer.h"
 #include "mechanics/motion/typed_procedures.h"
 #include "numeric/overloaded.h"
@@ -128,6 +129,10 @@ void Motion::ReleaseStrip(const window::MouseStroke& stroke) {
     else
         m_problem.table.MoveColumn(source, target);
     m_panel.ShowCells();
+}
+
+std::string Motion::PointName(int column) const {
+    return frame::NameOfPoint(m_problem.configuration, column);
 }
 
 std::vector<window::PictureCell> Motion::StripCells() const {

@@ -50,6 +50,7 @@ class Motion : public frame::PointsTool {
     void PressStrip(const window::MouseStroke& stroke) override;
     void ReleaseStrip(const window::MouseStroke& stroke) override;
     std::vector<window::PictureCell> StripCells() const override;
+    std::string PointName(int column) const override;
     void ChooseRow(int row) override;
     void ChooseEntry(int entry) override;
     void RunEntry() override;

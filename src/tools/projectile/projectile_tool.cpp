@@ -104,6 +104,10 @@ void Projectile::ReleaseStrip(const window::MouseStroke& stroke) {
         m_panel.FocusColumn(end->column);
 }
 
+std::string Projectile::PointName(int column) const {
+    return frame::NameOfPoint(m_problem.configuration, column);
+}
+
 std::vector<window::PictureCell> Projectile::StripCells() const { return projectile::StripCells(m_problem); }
 
 void Projectile::ClickBand(const StripMeaning& meaning) {

@@ -42,6 +42,7 @@ class Projectile : public frame::PointsTool {
     void ReleaseStrip(const window::MouseStroke& stroke) override;
     void EnterCell() override;
     std::vector<window::PictureCell> StripCells() const override;
+    std::string PointName(int column) const override;
     void ChooseRow(int row) override;
     void ChooseEntry(int entry) override;
     void RunEntry() override;

@@ -13,15 +13,18 @@ TEST(Options, DefaultsAreTheModelAndComparing) {
     const Options options = Parse({"a", "b.transcript"});
     EXPECT_FALSE(options.window);
     EXPECT_FALSE(options.print);
+    EXPECT_FALSE(options.tree);
     EXPECT_TRUE(options.pictures.empty());
     EXPECT_EQ(options.driver.zoom_percent, 100);
     EXPECT_EQ(options.paths, (std::vector<std::string>{"a", "b.transcript"}));
 }
 
 TEST(Options, StandAnywhere) {
-    const Options options = Parse({"--window", "a", "--pictures", "shots", "--zoom", "150", "--print"});
+    const Options options =
+        Parse({"--window", "a", "--pictures", "shots", "--zoom", "150", "--print", "--tree"});
     EXPECT_TRUE(options.window);
     EXPECT_TRUE(options.print);
+    EXPECT_TRUE(options.tree);
     EXPECT_EQ(options.pictures, "shots");
     EXPECT_EQ(options.driver.zoom_percent, 150);
     EXPECT_EQ(options.paths, std::vector<std::string>{"a"});

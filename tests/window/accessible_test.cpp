@@ -1,0 +1,282 @@
+#include <QAccessible>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTabBar>
+#include <vector>
+
+#include "test_window.h"
+#include "tests.h"
+
+namespace tavrelo::window_test {
+namespace {
+
+QAccessibleInterface& Told(QWidget& widget) { return *QAccessible::queryAccessibleInterface(&widget); }
+
+QString NameOf(const QAccessibleInterface& object) { return object.text(QAccessible::Name); }
+
+/// One thing that readers of the screen were told.
+struct Note {
+    QAccessible::Event event;
+    QAccessible::Role role;
+    QString text;  // what was inserted, else the name
+};
+std::vector<Note>& Notes() {
+    static std::vector<Note> notes;
+    return notes;
+}
+
+void TakeNote(QAccessibleEvent* event) {
+    const QAccessibleInterface* object = event->accessibleInterface();
+    if (!object || !object->isValid())
+        return;
+    const auto* insert = dynamic_cast<const QAccessibleTextInsertEvent*>(event);
+    Notes().push_back({event->type(), object->role(), insert ? insert->textInserted() : NameOf(*object)});
+}
+
+/// The texts of all notes of that kind since the last call of Notes().clear().
+QStringList Noted(QAccessible::Event event, QAccessible::Role role) {
+    QCoreApplication::processEvents();
+    QStringList texts;
+    for (const Note& note : Notes())
+        if (note.event == event && note.role == role)
+            texts << note.text;
+    return texts;
+}
+
+QStringList Said() { return Noted(QAccessible::ObjectShow, QAccessible::Notification); }
+
+void TypeForce(TestWindow& window, const char* force) {
+    auto& box = window.Form().Get<window::TextBox>("txtVector");
+    box.SetText(force);
+    box.UserKeyPress(window::kEnterCharacter);
+}
+
+}  // namespace
+
+void AccessibleTest::cleanup() {
+    QAccessible::installUpdateHandler(nullptr);
+    Notes().clear();
+}
+
+void AccessibleTest::PanelsLabelsAndOrnamentsHaveTheirRoles() {
+    TestWindow window;
+    window.PressTool(3);
+    QCOMPARE(Told(window.Widget("fraExpr")).role(), QAccessible::Grouping);
+    QCOMPARE(NameOf(Told(window.Widget("fraExpr"))), QString("Fórmulas"));
+    QCOMPARE(Told(window.Widget("lblOrigin")).role(), QAccessible::StaticText);
+    QVERIFY(!Told(window.Widget("lblOrigin")).state().invisible);
+    QVERIFY(Told(window.Widget("lblPoints(0)")).state().invisible);
+    QVERIFY(Told(window.Widget("linMarker")).state().invisible);
+}
+
+void AccessibleTest::NamesFollowToolsAndLabels() {
+    TestWindow window;
+    window.PressTool(2);
+    QCOMPARE(NameOf(Told(window.Widget("txtVector"))), QString("Fuerza"));
+    QCOMPARE(NameOf(Told(window.Widget("cmdExampleEstp(0)"))), QString("Ejemplo 1: dos cables y un peso"));
+    window.PressTool(3);
+    auto& chain = window.Form().Get<window::TextBox>("txtSegm(0)");
+    QCOMPARE(NameOf(Told(window.Widget("txtSegm(2)"))), QString("Separación 2"));
+    chain.SetText("ABC");
+    chain.UserKeyPress(window::kEnterCharacter);
+    QCOMPARE(NameOf(Told(window.Widget("txtSegm(1)"))), QString("Vector de separación AB"));
+    QCOMPARE(NameOf(Told(window.Widget("txtSegm(2)"))), QString("Separación BC"));
+    window.PressTool(1);
+    QCOMPARE(NameOf(Told(window.Widget("txtVector"))), QString("Vector"));
+}
+
+void AccessibleTest::CellsTellTheirHeadingsAndContent() {
+    TestWindow window;
+    window.PressTool(2);
+    TypeForce(window, "p30x,F1");
+    const QAccessibleInterface& forces = Told(window.Widget("gdEqui"));
+    QCOMPARE(forces.role(), QAccessible::Table);
+    QCOMPARE(forces.childCount(), 2 * 4);
+    const QStringList names = {"Número",
+                               "Fuerza",
+                               "Fx",
+                               "Fy",
+                               "renglón 1",
+                               "renglón 1, Fuerza: p30x,F1",
+                               "renglón 1, Fx: 0.866 F1",
+                               "renglón 1, Fy: 0.5 F1"};
+    for (int index = 0; index < forces.childCount(); ++index) {
+        QCOMPARE(NameOf(*forces.child(index)), names[index]);
+        QCOMPARE(forces.indexOfChild(forces.child(index)), index);
+        QCOMPARE(forces.child(index)->parent(), &forces);
+    }
+    QCOMPARE(forces.child(1)->role(), QAccessible::ColumnHeader);
+    QCOMPARE(forces.child(4)->role(), QAccessible::RowHeader);
+    QCOMPARE(forces.child(5)->role(), QAccessible::Cell);
+    QCOMPARE(forces.child(5)->text(QAccessible::Value), QString("p30x,F1"));
+    QVERIFY(!forces.child(8));
+
+    auto* cell = forces.child(6)->tableCellInterface();
+    QCOMPARE(cell->columnIndex(), 1);
+    QCOMPARE(NameOf(*cell->columnHeaderCells().first()), QString("Fx"));
+    QCOMPARE(NameOf(*cell->rowHeaderCells().first()), QString("renglón 1"));
+    const QPoint middle = forces.child(6)->rect().center();
+    QCOMPARE(forces.childAt(middle.x(), middle.y()), forces.child(6));
+
+    window.PressTool(4);
+    const QAccessibleInterface& points = Told(window.Widget("Gd2"));
+    QCOMPARE(points.childCount(), 4 * 10);
+    QVERIFY(NameOf(*points.child(1 * 10 + 1)).startsWith("t, "));
+    QVERIFY(NameOf(*points.child(3 * 10 + 2)).endsWith(": vacía"));
+}
+
+void AccessibleTest::TheFocusGoesWithTheCurrentCell() {
+    TestWindow window;
+    window.PressTool(1);
+    auto& grid = window.Form().Get<window::Grid>("gd");
+    QCoreApplication::processEvents();
+    QAccessible::installUpdateHandler(TakeNote);
+    QTest::keyClick(&window.Widget("gd"), Qt::Key_Right);
+    QCOMPARE(grid.Col(), 2);
+    QCOMPARE(Noted(QAccessible::Focus, QAccessible::Cell), QStringList{"renglón 1, columna 2: vacía"});
+    const QAccessibleInterface* cell = Told(window.Widget("gd")).focusChild();
+    QVERIFY(cell->state().focused && cell->state().active && cell->state().selected);
+    QTest::keyClick(&window.Widget("gd"), Qt::Key_7);
+    QCOMPARE(Noted(QAccessible::NameChanged, QAccessible::Cell), QStringList{"renglón 1, columna 2: 7"});
+
+    window.Form().SetFocus(window.Form().Get<window::TextBox>("txtExpr"));
+    Notes().clear();
+    window.Form().SetFocus(grid);
+    QCOMPARE(Noted(QAccessible::Focus, QAccessible::Cell), QStringList{"renglón 1, columna 2: 7"});
+}
+
+void AccessibleTest::AChosenBlockIsTold() {
+    TestWindow window;
+    window.PressTool(1);
+    window.Form().Get<window::Grid>("gd").UserDrag({1, 1, 2, 2});
+    auto* table = Told(window.Widget("gd")).tableInterface();
+    QCOMPARE(table->selectedCellCount(), 4);
+    QVERIFY(table->cellAt(1, 1)->state().selected);
+    QVERIFY(!table->cellAt(2, 1)->state().selected);
+    QVERIFY(!table->isRowSelected(0));
+}
+
+void AccessibleTest::ListsCombosTabsAndArrowsTellTheirState() {
+    TestWindow window;
+    window.PressTool(3);
+    auto& chain = window.Form().Get<window::TextBox>("txtSegm(0)");
+    chain.SetText("ABC");
+    chain.UserKeyPress(window::kEnterCharacter);
+    window.Form().Get<window::TextBox>("txtSegm(1)").SetText("h2");
+    window.Form().Get<window::TextBox>("txtSegm(2)").SetText("3");
+    window.Form().Get<window::Button>("cmdOK").UserClick();
+    const QAccessibleInterface& letters = Told(window.Widget("lstSysts"));
+    QCOMPARE(letters.role(), QAccessible::List);
+    QCOMPARE(letters.childCount(), 3);
+    QCOMPARE(letters.child(1)->role(), QAccessible::ListItem);
+    QCOMPARE(NameOf(*letters.child(1)), QString("B"));
+    QVERIFY(letters.child(1)->state().selected);
+
+    QTabBar& bar = *window.Widget("tabStat").findChild<QTabBar*>();
+    QCOMPARE(Told(bar).role(), QAccessible::PageTabList);
+    QCOMPARE(Told(bar).child(1)->role(), QAccessible::PageTab);
+    QCOMPARE(NameOf(*Told(bar).child(1)), QString("DCL"));
+    QVERIFY(Told(bar).child(0)->state().selected);
+
+    const QAccessibleInterface& spin = Told(window.Widget("spnColor"));
+    QCOMPARE(spin.role(), QAccessible::SpinBox);
+    QCOMPARE(spin.text(QAccessible::Value), QString("1"));
+
+    window.PressTool(7);
+    QAccessibleInterface& arrows = Told(window.Widget("UpDown1"));
+    QCOMPARE(arrows.role(), QAccessible::SpinBox);
+    QCOMPARE(arrows.text(QAccessible::Value), QString("3"));
+    QCOMPARE(arrows.valueInterface()->maximumValue().toInt(), 10);
+    arrows.valueInterface()->setCurrentValue(4);
+    QCOMPARE(arrows.text(QAccessible::Value), QString("4"));
+    QCOMPARE(window.Form().publics.Decimals, std::int16_t{4});
+
+    const QAccessibleInterface& topics = Told(window.Widget("cboHelp"));
+    QCOMPARE(topics.role(), QAccessible::ComboBox);
+    QCOMPARE(NameOf(topics), QString("Tema de ayuda"));
+}
+
+void AccessibleTest::AReportIsSaidOnce() {
+    TestWindow window;
+    window.PressTool(2);
+    for (const char* force : {"p30x,F1", "s45x,F2", "v-100"})
+        TypeForce(window, force);
+    QCoreApplication::processEvents();
+    QAccessible::installUpdateHandler(TakeNote);
+    window.Form().Get<window::Button>("cmdParts(0)").UserClick();
+    const QStringList said = Said();
+    QCOMPARE(said.size(), 1);
+    QVERIFY(said.first().contains("F sub 1 igual a 73.205"));
+    const QStringList inserted = Noted(QAccessible::TextInserted, QAccessible::EditableText);
+    QVERIFY(!inserted.isEmpty() && inserted.last().contains("89.658"));
+
+    // Shown again at another size, it is no news.
+    Notes().clear();
+    window.view.SetZoom(1.5);
+    QCOMPARE(Said(), QStringList());
+    // What comes behind it is said alone.
+    text::RichText line;
+    line.Append({"Otra línea", {}, {}, 0});
+    window.Form().Get<window::RichTextBox>("rtbCalc").AppendContent(line);
+    QCOMPARE(Said(), QStringList{"Otra línea"});
+}
+
+void AccessibleTest::OneHandlerIsSaidInOneGo() {
+    TestWindow window;
+    QAccessible::installUpdateHandler(TakeNote);
+    window.Form().Announce("Fuerza añadida.");
+    window.Form().Announce("Ya se puede resolver.");
+    QCOMPARE(Said(), QStringList{"Fuerza añadida.\nYa se puede resolver."});
+    Notes().clear();
+    window.Form().Announce("Fuerza añadida.");
+    QCOMPARE(Said(), QStringList{"Fuerza añadida."});
+}
+
+void AccessibleTest::NothingIsNotSaid() {
+    TestWindow window;
+    QAccessible::installUpdateHandler(TakeNote);
+    window.Form().Announce("");
+    window.Form().Announce(" ");
+    QCOMPARE(Said(), QStringList());
+}
+
+void AccessibleTest::BoxesAreAlertsWithTheirText() {
+    TestWindow window;
+    QAccessible::installUpdateHandler(TakeNote);
+    struct Shown {
+        QAccessible::Role role = QAccessible::NoRole;
+        QString name;
+        QString text;
+    };
+    const auto show = [&window](const char* title, window::Buttons buttons) {
+        Shown shown;
+        WhenOpen<QMessageBox>([&shown](QMessageBox& box) {
+            const QAccessibleInterface& told = Told(box);
+            shown = {told.role(), NameOf(told), told.text(QAccessible::Description)};
+            box.reject();
+        });
+        window.Form().boxes.ShowMessage("¿Cuál de las dos?", title, buttons);
+        return shown;
+    };
+    const Shown titled = show("Tavrelo", window::Buttons::Ok);
+    QCOMPARE(titled.role, QAccessible::AlertMessage);
+    QCOMPARE(titled.name, QString("Tavrelo"));
+    QCOMPARE(titled.text, QString("¿Cuál de las dos?"));
+    QCOMPARE(Noted(QAccessible::Alert, QAccessible::AlertMessage), QStringList{"Tavrelo"});
+    QCOMPARE(show("", window::Buttons::YesNo).name, QString("Pregunta"));
+    QCOMPARE(show("", window::Buttons::Ok).name, QString("Aviso"));
+}
+
+void AccessibleTest::TheInputBoxAsksItsQuestion() {
+    TestWindow window;
+    QString name;
+    WhenOpen<QInputDialog>([&name](QInputDialog& box) {
+        name = NameOf(Told(*box.findChild<QLineEdit*>()));
+        box.reject();
+    });
+    window.Form().boxes.AskText("¿Dirección para el dibujo?", "Tavrelo");
+    QCOMPARE(name, QString("¿Dirección para el dibujo?"));
+}
+
+}  // namespace tavrelo::window_test
