@@ -1,5 +1,6 @@
 #include "qt/binding.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QPalette>
@@ -82,20 +83,52 @@ void Binding::ShowUnderline() {
     m_widget.setFont(font);
 }
 
+QColor Binding::BehindTexts() const {
+    const QPalette look = QApplication::palette();
+    if (!m_control.HasBackColor() && BackRole() != QPalette::Window)
+        return look.color(BackRole());
+    for (const window::Control* panel = &m_control; panel; panel = panel->Parent()) {
+        if (panel->HasBackColor())
+            return ToQColor(panel->BackColor());
+        if (panel->Kind() == window::ControlKind::TabStrip)
+            return look.color(QPalette::AlternateBase);
+    }
+    return look.color(QPalette::Window);
+}
+
 void Binding::ShowColors() {
-    const std::pair colors(m_control.ForeColor(), m_control.BackColor());
+    const bool has_own_text = m_control.ForeColor() != text::kBlack || m_control.HasBackColor();
+    const text::Color shown =
+        has_own_text ? ShownOn(ToColor(BehindTexts()), m_control.ForeColor(), m_context.text_look)
+                     : text::kBlack;
+    const Colors colors{shown, m_control.BackColor()};
     if (colors == m_colors)
         return;
     m_colors = colors;
-    QPalette palette;
-    if (m_control.ForeColor() != text::kBlack)
-        for (const auto group : {QPalette::Active, QPalette::Inactive})
-            for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-                palette.setColor(group, role, ToQColor(m_control.ForeColor()));
+    QPalette palette = OwnPalette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        for (const auto role : TextRoles())
+            palette.setColor(group, role, ToQColor(shown));
     if (m_control.HasBackColor())
         palette.setColor(BackRole(), ToQColor(m_control.BackColor()));
     m_widget.setPalette(palette);
     m_widget.setAutoFillBackground(m_control.HasBackColor() && BackRole() == QPalette::Window);
+}
+
+std::vector<QPalette::ColorRole> Binding::TextRoles() const {
+    if (m_control.ForeColor() != text::kBlack)
+        return {QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
+    if (!m_control.HasBackColor())
+        return {};
+    // Boxes and buttons on a panel of its own colour keep the look's colours, texts and all.
+    switch (BackRole()) {
+        case QPalette::Base:
+            return {QPalette::Text};
+        case QPalette::Button:
+            return {QPalette::ButtonText};
+        default:
+            return {QPalette::WindowText};
+    }
 }
 
 void Binding::Rest() {

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QObject>
+#include <QPalette>
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <utility>
+#include <vector>
 
 #include "qt/artwork.h"
+#include "qt/text_colors.h"
 #include "window/form1.h"
 
 namespace tavrelo::qt {
@@ -15,6 +19,9 @@ struct ViewContext {
     window::Form1& form;
     Artwork& artwork;
     double zoom = 1;
+    TextLook text_look = TextLook::Told;
+    /// Shows a board or a report in a window of its own.
+    std::function<void(const window::Control&)> open_free = {};
 
     int Scaled(double pixels) const { return qRound(pixels * zoom); }
     /// Edges are scaled, not sizes, so that neighbours still meet.
@@ -65,6 +72,11 @@ class Binding : public QObject {
             std::forward<Action>(action)();
     }
 
+    /// What stands behind the control's texts.
+    QColor BehindTexts() const;
+    /// The colours of the widget before those of the control are added.
+    virtual QPalette OwnPalette() const { return {}; }
+
     const ViewContext& Context() const { return m_context; }
     window::Form1& Form() const { return m_context.form; }
     double Zoom() const { return m_context.zoom; }
@@ -74,6 +86,8 @@ class Binding : public QObject {
 
   private:
     void ShowColors();
+    /// The roles of the palette that take the control's text colour.
+    std::vector<QPalette::ColorRole> TextRoles() const;
     void ShowUnderline();
     bool IsPageInFront() const;
 
@@ -82,7 +96,13 @@ class Binding : public QObject {
     ViewContext& m_context;
     int m_refreshing = 0;
     bool m_is_resting = false;
-    std::pair<text::Color, text::Color> m_colors{text::kBlack, window::Control::kNoColor};
+    struct Colors {
+        text::Color text = text::kBlack;
+        text::Color back = window::Control::kNoColor;
+
+        friend bool operator==(const Colors&, const Colors&) = default;
+    };
+    Colors m_colors;  // as they are shown
 };
 
 /// Makes the widget of a control, with its binding.

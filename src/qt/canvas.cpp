@@ -1,5 +1,6 @@
 #include "qt/canvas.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "qt/fonts.h"
@@ -20,13 +21,34 @@ bool IsAlongAxis(const window::LineOp& op) {
 
 }  // namespace
 
-Canvas::Canvas(QPainter& painter, QSizeF size, double zoom, Artwork& artwork)
-    : m_painter(painter), m_size(size), m_zoom(zoom), m_artwork(artwork) {
+Canvas::Canvas(QPainter& painter, QSizeF size, double zoom, Artwork& artwork, TextLook text_look)
+    : m_painter(painter), m_size(size), m_zoom(zoom), m_artwork(artwork), m_text_look(text_look) {
     m_painter.setRenderHint(QPainter::Antialiasing);
     m_painter.setRenderHint(QPainter::TextAntialiasing);
 }
 
+void TextGrounds::Note(const window::DrawOp& op) {
+    if (const auto* clear = std::get_if<window::ClearOp>(&op)) {
+        constexpr double kEndless = 1e6;
+        m_areas.assign(1, {QRectF(-kEndless, -kEndless, 2 * kEndless, 2 * kEndless), clear->background});
+    }
+    const auto* box = std::get_if<window::BoxOp>(&op);
+    if (box && box->filled)
+        m_areas.push_back(
+            {QRectF(QPointF(box->x1, box->y1), QPointF(box->x2, box->y2)).normalized(), box->color});
+}
+
+text::Color TextGrounds::Below(const window::TextOp& op, const text::PlacedRun& run,
+                               text::Color paper) const {
+    const QPointF middle(op.x + run.dx + text::TextWidth(run.text, run.font) / 2,
+                         op.y + run.dy + text::TextHeight(run.font) / 2);
+    const auto holds = [&middle](const Area& area) { return area.place.contains(middle); };
+    const auto last = std::find_if(m_areas.rbegin(), m_areas.rend(), holds);
+    return last == m_areas.rend() ? paper : last->color;
+}
+
 void Canvas::Draw(window::DrawOp op) {
+    m_grounds.Note(op);
     std::visit([this](const auto& operation) { Paint(operation); }, op);
 }
 
@@ -89,7 +111,9 @@ void Canvas::Paint(const window::PolygonOp& op) {
 void Canvas::Paint(const window::TextOp& op) {
     for (const text::PlacedRun& run : op.runs) {
         m_painter.setFont(ToQFont(run.font, m_zoom));
-        m_painter.setPen(ToQColor(run.color));
+        const text::Color ground = m_grounds.Below(op, run, BackColor);
+        const bool is_told = m_text_look == TextLook::Told;
+        m_painter.setPen(ToQColor(is_told ? run.color : ShownOn(ground, run.color, m_text_look)));
         const double base_line = op.y + run.dy + text::TextAscent(run.font);
         const double stretch = FontStretch(run.font, m_zoom);
         m_painter.save();
@@ -106,8 +130,10 @@ void Canvas::Paint(const window::ImageOp& op) {
     m_artwork.Paint(m_painter, op.name, source, target, m_zoom * m_painter.device()->devicePixelRatioF());
 }
 
-void PaintRecording(QPainter& painter, const window::Recorder& recording, double zoom, Artwork& artwork) {
-    Canvas canvas(painter, QSizeF(recording.Width(), recording.Height()), zoom, artwork);
+void PaintRecording(QPainter& painter, const window::Recorder& recording, double zoom, Artwork& artwork,
+                    TextLook text_look) {
+    Canvas canvas(painter, QSizeF(recording.Width(), recording.Height()), zoom, artwork, text_look);
+    canvas.BackColor = recording.BackColor;
     window::Replay(recording.Operations(), canvas);
 }
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <algorithm>
+#include <iterator>
 
 #include "qt/fonts.h"
 
@@ -14,22 +15,45 @@ constexpr double kCornerRadius = 3;
 /// Half a pixel in, so that a line of one pixel is sharp.
 QRectF Inside(const QRect& rect) { return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5); }
 
+struct Twins {
+    QRgb light;
+    QRgb dark;
+};
+constexpr Twins kTwins[] = {
+    {kWindow, 0xff24282d},     {kPage, 0xff2b3036},         {kFace, 0xff353b42},
+    {kHoverFace, 0xff3f4955},  {kPressedFace, 0xff28527f},  {kDisabledFace, 0xff2a2e33},
+    {kEdge, 0xff74808c},       {kSoftEdge, 0xff454d56},     {kHeading, 0xff30363d},
+    {kAccent, 0xff5ea6ee},     {kChoice, 0xff245486},       {kFadedChoice, 0xff33475c},
+    {kHeldSlider, 0xff9aa6b2}, {kDisabledText, 0xff8f99a3}, {kText, 0xffe8ecf0},
+    {kPaper, 0xff1c2024},      {kTip, 0xff3a3b2c},          {kHint, 0xffa9b3bd},
+};
+
 }  // namespace
+
+bool IsDark(const QPalette& palette) {
+    return qGray(palette.color(QPalette::Active, QPalette::Window).rgb()) <
+           qGray(palette.color(QPalette::Active, QPalette::WindowText).rgb());
+}
+
+QColor ShadeOf(QRgb color, bool is_dark) {
+    const auto* twins = std::ranges::find(kTwins, color, &Twins::light);
+    return QColor::fromRgb(is_dark && twins != std::end(kTwins) ? twins->dark : color);
+}
 
 QColor FaceColor(const QStyleOption& option) {
     if (!(option.state & QStyle::State_Enabled))
-        return QColor::fromRgb(kDisabledFace);
+        return ShadeOf(kDisabledFace, option.palette);
     if (option.state & (QStyle::State_Sunken | QStyle::State_On))
-        return QColor::fromRgb(kPressedFace);
+        return ShadeOf(kPressedFace, option.palette);
     if (option.state & QStyle::State_MouseOver)
-        return QColor::fromRgb(kHoverFace);
+        return ShadeOf(kHoverFace, option.palette);
     return option.palette.color(QPalette::Button);
 }
 
 QColor EdgeColor(const QStyleOption& option) {
     if (!(option.state & QStyle::State_Enabled))
-        return QColor::fromRgb(kSoftEdge);
-    return QColor::fromRgb(option.state & QStyle::State_HasFocus ? kAccent : kEdge);
+        return ShadeOf(kSoftEdge, option.palette);
+    return ShadeOf(option.state & QStyle::State_HasFocus ? kAccent : kEdge, option.palette);
 }
 
 void DrawRounded(const QStyleOption& option, QPainter& painter, const QColor& face, double scale) {
@@ -48,8 +72,8 @@ void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale) {
     const bool is_front = tab.state & QStyle::State_Selected;
     const bool is_hovered = tab.state & QStyle::State_MouseOver;
     painter.save();
-    painter.setPen(QColor::fromRgb(kSoftEdge));
-    painter.setBrush(QColor::fromRgb(is_front ? kPage : is_hovered ? kHoverFace : kHeading));
+    painter.setPen(ShadeOf(kSoftEdge, tab.palette));
+    painter.setBrush(ShadeOf(is_front ? kPage : is_hovered ? kHoverFace : kHeading, tab.palette));
     // The front tab runs into the page below it.
     painter.drawRect(
         tab.rect.adjusted(0, is_front ? 0 : qRound(2 * scale), is_front ? -1 : 0, is_front ? 1 : -1));
@@ -100,10 +124,10 @@ void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter&
     constexpr double kInset = 3;
     const bool is_held = bar.state & (QStyle::State_Sunken | QStyle::State_MouseOver);
     painter.save();
-    painter.fillRect(bar.rect, QColor::fromRgb(kHeading));
+    painter.fillRect(bar.rect, ShadeOf(kHeading, bar.palette));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgb(is_held ? kHeldSlider : kEdge));
+    painter.setBrush(ShadeOf(is_held ? kHeldSlider : kEdge, bar.palette));
     const bool is_wide = bar.orientation == Qt::Horizontal;
     const double inset = kInset * (is_wide ? bar.rect.height() : bar.rect.width()) / kScrollBarExtent;
     const QRectF handle = QRectF(slider).adjusted(inset, inset, -inset, -inset);
@@ -129,7 +153,7 @@ void DrawArrow(const QStyleOption& option, const QRect& rect, Qt::ArrowType dire
     painter.restore();
 }
 
-QPixmap MessageSign(const QString& letter) {
+QPixmap MessageSign(const QString& letter, const QPalette& palette) {
     constexpr int kSize = 192;
     constexpr int kEdgeWidth = 8;
     QPixmap sign(kSize, kSize);
@@ -137,12 +161,12 @@ QPixmap MessageSign(const QString& letter) {
     QPainter painter(&sign);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgb(kAccent));
+    painter.setBrush(ShadeOf(kAccent, palette));
     painter.drawEllipse(sign.rect().adjusted(kEdgeWidth, kEdgeWidth, -kEdgeWidth, -kEdgeWidth));
     QFont font = InterfaceFont(kSize * 0.7 / kInterfacePixels);
     font.setBold(true);
     painter.setFont(font);
-    painter.setPen(Qt::white);
+    painter.setPen(IsDark(palette) ? Qt::black : Qt::white);
     painter.drawText(sign.rect(), Qt::AlignCenter, letter);
     return sign;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 #include <QStyleOption>
 
 class QPainter;
@@ -8,6 +9,7 @@ class QPainter;
 namespace tavrelo::qt {
 
 // The colours and the flat parts of which all widgets are drawn. `scale` is that of the widget; 1 is 100 %.
+// The colours are those of the light look; ShadeOf gives them in the look that is in use.
 
 inline constexpr QRgb kWindow = 0xffeef2f6;
 inline constexpr QRgb kPage = 0xfff9fbfc;
@@ -24,6 +26,16 @@ inline constexpr QRgb kChoice = 0xffbcd9f7;
 inline constexpr QRgb kFadedChoice = 0xffdbe6f0;
 inline constexpr QRgb kHeldSlider = 0xff7c8a99;
 inline constexpr QRgb kDisabledText = 0xff8a939d;
+inline constexpr QRgb kText = 0xff000000;
+inline constexpr QRgb kPaper = 0xffffffff;
+inline constexpr QRgb kTip = 0xfffffbe6;
+inline constexpr QRgb kHint = 0xff5f6973;
+
+/// Whether a palette is that of a dark desktop.
+bool IsDark(const QPalette& palette);
+/// One of the colours above as it is in the look of a palette: itself, or its twin of the dark look.
+QColor ShadeOf(QRgb color, bool is_dark);
+inline QColor ShadeOf(QRgb color, const QPalette& palette) { return ShadeOf(color, IsDark(palette)); }
 
 inline constexpr double kScrollBarExtent = 13;  // pixels at 100 %
 
@@ -48,6 +60,6 @@ void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale);
 /// A bar without buttons at its ends.
 void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter& painter);
 /// The sign of a message box: a letter on a disc, drawn so large that it can be shrunk to any size.
-QPixmap MessageSign(const QString& letter);
+QPixmap MessageSign(const QString& letter, const QPalette& palette);
 
 }  // namespace tavrelo::qt

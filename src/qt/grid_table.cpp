@@ -1,7 +1,9 @@
 #include "qt/grid_table.h"
 
+#include <QApplication>
 #include <QBrush>
 
+#include "qt/flat_parts.h"
 #include "qt/fonts.h"
 #include "qt/text.h"
 
@@ -21,6 +23,10 @@ Qt::Alignment ToQt(window::Alignment alignment) {
 }
 
 }  // namespace
+
+bool GridTable::HasLookColors(int row, int col) const {
+    return m_grid.CellBackColor(row, col) == text::kWhite && IsDark(QApplication::palette());
+}
 
 void GridTable::Renew() {
     const int rows = std::max(m_grid.Rows() - m_grid.FixedRows(), 0);
@@ -53,7 +59,9 @@ QVariant GridTable::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return ToQString(m_grid.Cell(row, col));
         case Qt::BackgroundRole:
-            return QBrush(ToQColor(m_grid.CellBackColor(row, col)));
+            return HasLookColors(row, col) ? QVariant() : QBrush(ToQColor(m_grid.CellBackColor(row, col)));
+        case Qt::ForegroundRole:
+            return HasLookColors(row, col) ? QVariant() : QBrush(Qt::black);
         case Qt::TextAlignmentRole:
             return static_cast<int>(ToQt(m_grid.ColAlignment(col)));
         default:

@@ -20,6 +20,9 @@ class GridTable : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    /// Plain cells take the colours of a dark look; all others stay as the program fills them.
+    bool HasLookColors(int row, int col) const;
+
     const window::Grid& m_grid;
     int m_rows = 0;
     int m_cols = 0;

@@ -50,25 +50,29 @@ bool IsInSpinBox(const QWidget* widget) {
 
 }  // namespace
 
-Look::Look() : QProxyStyle(QStringLiteral("fusion")) {}
+Look::Look(bool is_dark) : QProxyStyle(QStringLiteral("fusion")), m_is_dark(is_dark) {}
 
 QPalette Look::standardPalette() const {
-    QPalette palette(QColor::fromRgb(kFace), QColor::fromRgb(kWindow));
-    palette.setColor(QPalette::WindowText, Qt::black);
-    palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::ButtonText, Qt::black);
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor::fromRgb(kPage));
-    palette.setColor(QPalette::Mid, QColor::fromRgb(kSoftEdge));
-    palette.setColor(QPalette::Highlight, QColor::fromRgb(kChoice));
-    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor::fromRgb(kFadedChoice));
-    palette.setColor(QPalette::HighlightedText, Qt::black);
-    palette.setColor(QPalette::ToolTipBase, QColor::fromRgb(0xfffffbe6));
-    palette.setColor(QPalette::ToolTipText, Qt::black);
+    struct Role {
+        QPalette::ColorRole role;
+        QRgb color;
+    };
+    constexpr Role kRoles[] = {
+        {QPalette::WindowText, kText},      {QPalette::Text, kText},
+        {QPalette::ButtonText, kText},      {QPalette::Base, kPaper},
+        {QPalette::AlternateBase, kPage},   {QPalette::Mid, kSoftEdge},
+        {QPalette::Highlight, kChoice},     {QPalette::HighlightedText, kText},
+        {QPalette::ToolTipBase, kTip},      {QPalette::ToolTipText, kText},
+        {QPalette::PlaceholderText, kHint}, {QPalette::Link, kAccent},
+    };
+    QPalette palette(ShadeOf(kFace, m_is_dark), ShadeOf(kWindow, m_is_dark));
+    for (const auto& [role, color] : kRoles)
+        palette.setColor(role, ShadeOf(color, m_is_dark));
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, ShadeOf(kFadedChoice, m_is_dark));
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
-        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(kDisabledText));
-    palette.setColor(QPalette::Disabled, QPalette::Base, QColor::fromRgb(kDisabledFace));
+        palette.setColor(QPalette::Disabled, role, ShadeOf(kDisabledText, m_is_dark));
+    palette.setColor(QPalette::Disabled, QPalette::Base, ShadeOf(kDisabledFace, m_is_dark));
     return palette;
 }
 
@@ -114,7 +118,7 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
         case PE_Frame:
             // Panels stand back behind the boxes that lie on them.
             painter->setPen(qobject_cast<const QAbstractScrollArea*>(widget) ? EdgeColor(*option)
-                                                                             : QColor::fromRgb(kSoftEdge));
+                                                                             : ShadeOf(kSoftEdge, m_is_dark));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
             // The frame of a page has room for a second line.
@@ -128,7 +132,7 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
             DrawArrow(*option, option->rect, Qt::DownArrow, *painter, scale);
             return;
         case PE_FrameFocusRect:
-            painter->setPen(QPen(QColor::fromRgb(kFocus), std::max(1, qRound(scale))));
+            painter->setPen(QPen(ShadeOf(kFocus, m_is_dark), std::max(1, qRound(scale))));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
             return;
@@ -145,8 +149,8 @@ void Look::drawControl(ControlElement element, const QStyleOption* option, QPain
         return;
     }
     if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
-        painter->fillRect(option->rect, QColor::fromRgb(kHeading));
-        painter->setPen(QColor::fromRgb(kSoftEdge));
+        painter->fillRect(option->rect, ShadeOf(kHeading, m_is_dark));
+        painter->setPen(ShadeOf(kSoftEdge, m_is_dark));
         painter->drawLine(option->rect.topRight(), option->rect.bottomRight());
         painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
         return;
@@ -256,25 +260,31 @@ QRect Look::subControlRect(ComplexControl control, const QStyleOptionComplex* op
 QIcon Look::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
     switch (icon) {
         case SP_MessageBoxInformation:
-            return MessageSign(QStringLiteral("i"));
+            return MessageSign(QStringLiteral("i"), standardPalette());
         case SP_MessageBoxQuestion:
-            return MessageSign(QStringLiteral("?"));
+            return MessageSign(QStringLiteral("?"), standardPalette());
         default:
             return QProxyStyle::standardIcon(icon, option, widget);
     }
 }
 
-void SetUpApplication(QApplication& application) {
+void UseLook(bool is_dark) {
     // The application owns its style, which the linter cannot see.
-    QApplication::setStyle(new Look);
+    QApplication::setStyle(new Look(is_dark));
     QApplication::setPalette(QApplication::style()->standardPalette());  // NOLINT(clang-analyzer-cplusplus*)
+}
+
+DesktopLook SetUpApplication(QApplication& application) {
+    const DesktopLook desktop = LookOfDesktop();
+    UseLook(desktop.is_dark);
     QApplication::setFont(InterfaceFont(1));
     LetWidgetsTellOfThemselves();
     auto translator = std::make_unique<QTranslator>();
     if (!translator->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        return;
+        return desktop;
     QCoreApplication::installTranslator(translator.get());
     translator.release()->setParent(&application);
+    return desktop;
 }
 
 }  // namespace tavrelo::qt

@@ -26,10 +26,12 @@ struct Desktop {
 
 int main(int argc, char* argv[]) {
     qt::Application application(argc, argv);
-    qt::SetUpApplication(application);
+    const qt::DesktopLook desktop_look = qt::SetUpApplication(application);
     Desktop desktop;
     app::Program program({desktop.boxes, desktop.clipboard, desktop.printer, desktop.files});
     qt::MainWindow window(program.Window(), desktop.artwork);
+    if (desktop_look.wants_contrast)
+        window.SetContrast(true);
     program.Window().OnEnd = [] { QApplication::quit(); };
     if (QCoreApplication::arguments().contains(QLatin1String(qt::kQuitAfterPaint)))
         new qt::QuitAfterPaint(window.Frame());

@@ -15,6 +15,7 @@
 #include "qt/shortcuts.h"
 #include "qt/text.h"
 #include "qt/zoom.h"
+#include "text/contrast.h"
 #include "window/control_names.h"
 
 namespace tavrelo::qt {
@@ -50,6 +51,8 @@ MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
     m_main.OnResize = [this] { FollowFrame(); };
     m_main.OnWindowState = [this] { m_asked_size = QSize(); };
     m_bar.OnZoom = [this](double zoom) { SetZoom(zoom); };
+    m_context.open_free = [this](const window::Control& source) { OpenFree(source); };
+    m_bar.OnContrast = [this](bool is_on) { SetContrast(is_on); };
     m_bar.OnFit = [this] { FitToFrame(); };
     m_guide.OnLastStop = [this](QWidget& last) { m_bar.FollowByTab(&last); };
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
@@ -132,6 +135,7 @@ void MainWindow::MakeShortcuts() {
     add(QKeySequence(Qt::CTRL | Qt::Key_Equal), [this, middle] { StepZoom(+1, middle()); });
     add(QKeySequence(Qt::CTRL | Qt::Key_Minus), [this, middle] { StepZoom(-1, middle()); });
     add(QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); });
+    add(QKeySequence(Qt::Key_F9), [this] { OpenFreeInUse(); });
     MakeProgramShortcuts(m_context.form, m_main, m_guide);
 }
 
@@ -170,6 +174,7 @@ Binding* MainWindow::BindingOf(const QWidget* widget) const {
 }
 
 void MainWindow::OnChange(window::Control& control, window::Change change) {
+    FollowInFreeWindows(control, change);
     const bool may_show = change == window::Change::State || change == window::Change::Selection;
     if (may_show)
         DropLostFocus();
@@ -256,6 +261,25 @@ void MainWindow::SetZoom(double zoom) {
     m_main.ResizeFor(m_context.zoom);
 }
 
+void MainWindow::SetContrast(bool is_on) {
+    m_context.text_look = is_on ? TextLook::Readable : TextLook::Told;
+    m_dialog_context.text_look = m_context.text_look;
+    QPalette palette;
+    const text::Color window = ToColor(QApplication::palette().color(QPalette::Window));
+    if (is_on)
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+            const text::Color told = ToColor(QApplication::palette().color(QPalette::Disabled, role));
+            palette.setColor(QPalette::Disabled, role, ToQColor(text::ReadableOn(told, window)));
+        }
+    m_main.setPalette(palette);
+    m_dialog.setPalette(palette);
+    m_bar.ShowContrast(is_on);
+    for (const auto& [control, binding] : m_bindings)
+        binding->RefreshAll();
+    for (const auto& [control, window] : m_free_windows)
+        window->Follow();
+}
+
 void MainWindow::FitToFrame() { ApplyZoom(FittingZoom(m_main.OwnSize(), m_main.size())); }
 
 void MainWindow::FollowFrame() {
@@ -299,11 +323,56 @@ void MainWindow::StepZoom(int steps, const QPointF& place) {
     m_main.ScrollTo(anchor);
 }
 
+FreeWindow& MainWindow::OpenFree(const window::Control& source) {
+    std::unique_ptr<FreeWindow>& window = m_free_windows[&source];
+    if (!window)
+        window = NewFreeWindow(source, m_context);
+    window->Open();
+    return *window;
+}
+
+void MainWindow::OpenFreeInUse() {
+    const window::Control* focused = FocusedControl();
+    if (focused && HasFreeWindow(*focused)) {
+        OpenFree(*focused);
+        return;
+    }
+    const auto is_board = [](const window::Control* control) {
+        return control->Kind() == window::ControlKind::Picture && HasFreeWindow(*control) &&
+               control->IsShown();
+    };
+    const auto controls = m_context.form.Controls();
+    const auto board = std::ranges::find_if(controls, is_board);
+    if (board != controls.end())
+        OpenFree(**board);
+}
+
+bool MainWindow::OpensByDoubleClick(const QWidget& widget) const {
+    const Binding* binding = BindingOf(&widget);
+    const auto* picture = binding ? dynamic_cast<const window::Picture*>(&binding->Model()) : nullptr;
+    return picture && HasFreeWindow(*picture) && !picture->OnMouseDown;
+}
+
+void MainWindow::FollowInFreeWindows(const window::Control& control, window::Change change) {
+    const auto window = m_free_windows.find(&control);
+    if (window != m_free_windows.end() && change == window::Change::Content)
+        window->second->Follow();
+    if (&control == m_context.form.Find("Form1") && !control.Visible())
+        for (const auto& [source, free_window] : m_free_windows)
+            free_window->close();
+}
+
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Wheel && event->type() != QEvent::MouseButtonDblClick)
+        return QObject::eventFilter(watched, event);
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::MouseButtonDblClick && widget && OpensByDoubleClick(*widget)) {
+        OpenFree(BindingOf(widget)->Model());
+        return true;
+    }
     if (event->type() != QEvent::Wheel)
         return QObject::eventFilter(watched, event);
     const auto* wheel = static_cast<QWheelEvent*>(event);
-    const auto* widget = qobject_cast<QWidget*>(watched);
     const bool is_ours = widget && (widget->window() == &m_main || widget->window() == &m_dialog);
     if (!is_ours || !(wheel->modifiers() & Qt::ControlModifier))
         return QObject::eventFilter(watched, event);

@@ -9,6 +9,7 @@
 #include "qt/binding.h"
 #include "qt/focus_guide.h"
 #include "qt/form_window.h"
+#include "qt/free_window.h"
 #include "qt/zoom_bar.h"
 
 namespace tavrelo::qt {
@@ -41,6 +42,11 @@ class MainWindow : public QObject {
     /// Scales both pages, between kSmallestZoom and kLargestZoom. The window grows or shrinks with its page
     /// as far as the screen holds it; a maximised one stays as it is. What it does not hold is scrolled.
     void SetZoom(double zoom);
+    bool HasContrast() const { return m_context.text_look == TextLook::Readable; }
+    /// The look in which every text can be read; until the program ends or it is switched off.
+    void SetContrast(bool is_on);
+    /// Opens a board or a report in a window of its own, which follows it.
+    FreeWindow& OpenFree(const window::Control& source);
     /// Scales the page to the largest zoom that the window holds whole.
     void FitToFrame();
 
@@ -71,6 +77,13 @@ class MainWindow : public QObject {
     Binding* BindingOf(const QWidget* widget) const;
     Binding* MadeBindingOf(const window::Control& control) const;
 
+    /// Opens the board or report in use: the one with the focus, else the board in view.
+    void OpenFreeInUse();
+    /// Whether a double click on the widget opens a window: on a board without a handler for the mouse. In a
+    /// report it chooses a word, as in any text.
+    bool OpensByDoubleClick(const QWidget& widget) const;
+    void FollowInFreeWindows(const window::Control& control, window::Change change);
+
     void ApplyZoom(double zoom);
     /// Zooms around a place of the window.
     void StepZoom(int steps, const QPointF& place);
@@ -89,6 +102,7 @@ class MainWindow : public QObject {
     std::unordered_map<const window::Control*, std::unique_ptr<Binding>> m_bindings;
     std::unordered_map<const QWidget*, Binding*> m_by_widget;
     FocusGuide m_guide;
+    std::unordered_map<const window::Control*, std::unique_ptr<FreeWindow>> m_free_windows;
     struct LateChange {
         Binding* binding;
         window::Change change;  // a content is shown with its selection

@@ -9,7 +9,6 @@
 namespace tavrelo::qt {
 namespace {
 
-/// The drawings that a student takes along; all other pictures are for pointing at.
 constexpr std::string_view kBlackboards[] = {"pic", "pic1"};
 
 class PictureBinding : public Binding {
@@ -51,10 +50,14 @@ class PictureBinding : public Binding {
 
 }  // namespace
 
+bool IsBlackboard(const window::Picture& picture) {
+    return std::ranges::find(kBlackboards, picture.Name()) != std::end(kBlackboards);
+}
+
 std::unique_ptr<Binding> NewPictureBinding(window::Control& control, QWidget& parent, ViewContext& context) {
     auto& picture = dynamic_cast<window::Picture&>(control);
     auto* view = new PictureView(picture, parent, context);
-    view->SetMenu(std::ranges::find(kBlackboards, picture.Name()) != std::end(kBlackboards));
+    view->SetMenu(IsBlackboard(picture));
     return std::make_unique<PictureBinding>(picture, *view, context);
 }
 

@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QContextMenuEvent>
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -10,9 +9,10 @@
 #include <QToolTip>
 
 #include "qt/canvas.h"
-#include "qt/clipboard.h"
 #include "qt/flat_parts.h"
+#include "qt/free_window.h"
 #include "qt/keys.h"
+#include "qt/picture_menu.h"
 #include "qt/pointers.h"
 
 namespace tavrelo::qt {
@@ -49,7 +49,9 @@ void PictureView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (m_has_menu)
         painter.fillRect(rect(), Qt::white);
-    PaintRecording(painter, m_picture.Canvas(), m_context.zoom, m_context.artwork);
+    else if (IsDark(palette()))
+        painter.fillRect(rect(), ShadeOf(kWindow, false));  // drawings are made for light paper
+    PaintRecording(painter, m_picture.Canvas(), m_context.zoom, m_context.artwork, m_context.text_look);
     painter.setRenderHint(QPainter::Antialiasing, false);
     if (m_has_menu) {
         painter.setPen(palette().color(QPalette::Mid));
@@ -210,22 +212,9 @@ void PictureView::contextMenuEvent(QContextMenuEvent* event) {
 void PictureView::ShowMenu(const QPoint& place) {
     QMenu menu(this);
     menu.setFont(font());
-    menu.addAction(QStringLiteral("Copiar imagen"), this, &PictureView::CopyImage);
-    menu.addAction(QStringLiteral("Guardar imagen..."), this, &PictureView::SaveImage);
+    AddPictureActions(menu, m_picture, m_context);
+    menu.addAction(QString::fromLatin1(kOpenFreeCaption), this, [this] { m_context.open_free(m_picture); });
     menu.exec(place);
-}
-
-void PictureView::CopyImage() const { SystemClipboard(m_context.artwork).SetPicture(m_picture.Canvas()); }
-
-void PictureView::SaveImage() {
-    const QString path =
-        QFileDialog::getSaveFileName(window(), QStringLiteral("Guardar imagen"),
-                                     QStringLiteral("pizarron.png"), QStringLiteral("Imagen PNG (*.png)"));
-    if (path.isEmpty())
-        return;
-    const bool saved = ToImage(m_picture.Canvas(), kExportScale, m_context.artwork).save(path, "PNG");
-    if (!saved)
-        m_context.form.boxes.Tell("No pude guardar la imagen.");
 }
 
 }  // namespace tavrelo::qt

@@ -48,8 +48,6 @@ class PictureView : public QWidget {
     void PaintCells(QPainter& painter) const;
     void TellCurrentCell();
     void PointAt(int cell);
-    void CopyImage() const;
-    void SaveImage();
 
     window::Picture& m_picture;
     const ViewContext& m_context;

@@ -65,11 +65,11 @@ QTextCharFormat ToExchangeFormat(const text::Run& run) {
 
 }  // namespace
 
-QTextCharFormat ToCharFormat(const text::Run& run, double scale) {
+QTextCharFormat ToCharFormat(const text::Run& run, double scale, TextLook look) {
     const QFont font = ToQFont(run.font, scale);
     QTextCharFormat format;
     format.setFont(font);
-    format.setForeground(ToQColor(run.color));
+    format.setForeground(ToQColor(ShownOn(text::kWhite, run.color, look)));
     if (run.offset != 0)
         format.setBaselineOffset(BaselinePercent(run, font, scale));
     format.setProperty(kFontName, ToQString(run.font.name));
@@ -78,10 +78,11 @@ QTextCharFormat ToCharFormat(const text::Run& run, double scale) {
     return format;
 }
 
-void InsertRuns(QTextCursor& cursor, const text::RichText& text, double scale) {
+void InsertRuns(QTextCursor& cursor, const text::RichText& text, double scale, TextLook look) {
     cursor.beginEditBlock();
     for (const text::Run& run : text.Runs())
-        cursor.insertText(ToQString(text::ReplaceAll(run.text, kLineEnd, "\n")), ToCharFormat(run, scale));
+        cursor.insertText(ToQString(text::ReplaceAll(run.text, kLineEnd, "\n")),
+                          ToCharFormat(run, scale, look));
     cursor.endEditBlock();
 }
 

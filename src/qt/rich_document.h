@@ -4,16 +4,18 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include "qt/text_colors.h"
 #include "text/rich_text.h"
 
 namespace tavrelo::qt {
 
-/// The format of a run at a scale. The program's own font name, size and offset are kept with it, so that a
-/// run can be read back whole.
-QTextCharFormat ToCharFormat(const text::Run& run, double scale);
+/// The format of a run at a scale, on white paper. The program's own font name, size and offset are kept with
+/// it, so that a run can be read back whole.
+QTextCharFormat ToCharFormat(const text::Run& run, double scale, TextLook look = TextLook::Told);
 
 /// Writes the runs behind the cursor; "\r\n" begins a new block.
-void InsertRuns(QTextCursor& cursor, const text::RichText& text, double scale);
+void InsertRuns(QTextCursor& cursor, const text::RichText& text, double scale,
+                TextLook look = TextLook::Told);
 
 /// The runs of a document that InsertRuns wrote.
 text::RichText ReadRuns(const QTextDocument& document);

@@ -4,6 +4,7 @@
 
 #include "qt/accessible_report.h"
 #include "qt/bindings.h"
+#include "qt/free_window.h"
 #include "qt/rich_document.h"
 #include "qt/rich_text_view.h"
 #include "qt/text.h"
@@ -20,6 +21,10 @@ class RichTextBinding : public Binding {
   public:
     RichTextBinding(window::RichTextBox& box, RichTextView& view, ViewContext& context)
         : Binding(box, view, context), m_box(box), m_view(view) {
+        view.OnMenu = [this](QMenu& menu) {
+            menu.addAction(QString::fromLatin1(kOpenFreeCaption), this,
+                           [this] { Context().open_free(m_box); });
+        };
         connect(&view, &QTextEdit::selectionChanged, this, [this] { ReportSelection(); });
         connect(&view, &QTextEdit::cursorPositionChanged, this, [this] { ReportSelection(); });
     }
@@ -28,7 +33,7 @@ class RichTextBinding : public Binding {
 
   protected:
     void ShowContent() override {
-        m_view.ShowText(m_box.Content(), Zoom());
+        m_view.ShowText(m_box.Content(), Zoom(), Context().text_look);
         m_view.Select(m_box.Selection());
         TellNewPart();
     }
@@ -39,6 +44,7 @@ class RichTextBinding : public Binding {
     }
 
     QPalette::ColorRole BackRole() const override { return QPalette::Base; }
+    QPalette OwnPalette() const override { return PaperPalette(); }
 
   private:
     void ReportSelection() {

@@ -1,11 +1,11 @@
 #include "qt/rich_text_view.h"
 
 #include <QContextMenuEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTextBlock>
 
+#include "qt/flat_parts.h"
 #include "qt/fonts.h"
 #include "qt/rich_document.h"
 #include "qt/text.h"
@@ -40,16 +40,27 @@ bool GoesOnFrom(const text::RichText& front, const text::RichText& text) {
 
 }  // namespace
 
+QPalette PaperPalette() {
+    QPalette paper;
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    paper.setColor(QPalette::Highlight, ShadeOf(kChoice, false));
+    paper.setColor(QPalette::Inactive, QPalette::Highlight, ShadeOf(kFadedChoice, false));
+    paper.setColor(QPalette::HighlightedText, Qt::black);
+    return paper;
+}
+
 RichTextView::RichTextView(const window::RichTextBox& model, QWidget& parent)
     : QTextEdit(&parent), m_model(model) {
     setReadOnly(true);
     setUndoRedoEnabled(false);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
+    setPalette(PaperPalette());
 }
 
-text::RichText RichTextView::TakeNew(const text::RichText& text, double scale) {
-    if (scale == m_shown_scale && GoesOnFrom(m_shown, text)) {
+text::RichText RichTextView::TakeNew(const text::RichText& text, double scale, TextLook look) {
+    if (scale == m_shown_scale && look == m_shown_look && GoesOnFrom(m_shown, text)) {
         const std::size_t shown = text::CharacterCount(m_shown.PlainText());
         return Piece(text, shown, std::string::npos - shown);
     }
@@ -59,14 +70,15 @@ text::RichText RichTextView::TakeNew(const text::RichText& text, double scale) {
     return text;
 }
 
-void RichTextView::ShowText(const text::RichText& text, double scale) {
-    const text::RichText added = TakeNew(text, scale);
+void RichTextView::ShowText(const text::RichText& text, double scale, TextLook look) {
+    const text::RichText added = TakeNew(text, scale, look);
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
-    InsertRuns(cursor, added, scale);
+    InsertRuns(cursor, added, scale, look);
     m_shown = text;
     m_spoken.reset();
     m_shown_scale = scale;
+    m_shown_look = look;
 }
 
 const QString& RichTextView::Spoken() const {
@@ -118,6 +130,8 @@ void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
     QAction* select_all = menu.addAction(QStringLiteral("Seleccionar todo"), QKeySequence::SelectAll, this,
                                          &QTextEdit::selectAll);
     select_all->setEnabled(!document()->isEmpty());
+    if (OnMenu)
+        OnMenu(menu);
     menu.exec(event->globalPos());
 }
 

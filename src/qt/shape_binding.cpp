@@ -22,16 +22,21 @@ class ShapeWidget : public QWidget, public TellsOfItself {
         QPainter painter(this);
         if (m_model.HasBackColor()) {
             painter.fillRect(rect(), ToQColor(m_model.BackColor()));
+            if (m_context.text_look == TextLook::Readable)
+                Outline(painter, palette().color(QPalette::WindowText), m_context.Scaled(1));
             return;
         }
         constexpr int kOutline = 2;
         const int width = m_context.Scaled(kOutline);
-        painter.setPen(
-            QPen(ToQColor(m_model.ForeColor()), width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        painter.drawRect(QRectF(rect()).adjusted(width / 2.0, width / 2.0, -width / 2.0, -width / 2.0));
+        Outline(painter, ToQColor(m_model.ForeColor()), width);
     }
 
   private:
+    void Outline(QPainter& painter, const QColor& color, int width) const {
+        painter.setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(QRectF(rect()).adjusted(width / 2.0, width / 2.0, -width / 2.0, -width / 2.0));
+    }
+
     const window::Control& m_model;
     const ViewContext& m_context;
 };

@@ -1,9 +1,11 @@
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTabBar>
 
 #include "qt/accessible.h"
 #include "qt/bindings.h"
+#include "qt/flat_parts.h"
 #include "qt/fonts.h"
 #include "qt/text.h"
 
@@ -92,8 +94,16 @@ class TabStripBinding : public Binding {
   protected:
     void ShowState() override {
         Binding::ShowState();
+        // Tabs behind the front one are the darkest of a light look, the front one the lightest of a dark
+        // one.
+        const QPalette look = QApplication::palette();
+        const QColor behind = ShadeOf(IsDark(look) ? kPage : kHeading, look);
+        const text::Color fore = m_strip.ForeColor();
+        const bool is_plain = fore == text::kBlack && IsDark(look);
+        const text::Color shown = is_plain ? ToColor(look.color(QPalette::WindowText))
+                                           : ShownOn(ToColor(behind), fore, Context().text_look);
         for (int tab = 0; tab < m_tabs.count(); ++tab)
-            m_tabs.setTabTextColor(tab, ToQColor(m_strip.ForeColor()));
+            m_tabs.setTabTextColor(tab, ToQColor(shown));
     }
 
     void ShowContent() override {

@@ -25,7 +25,8 @@ void PictureTest::BlackboardHasAMenu() {
         menu.close();
     });
     AskForMenu(window.Widget("pic"));
-    QCOMPARE(captions, QStringList({QStringLiteral("Copiar imagen"), QStringLiteral("Guardar imagen...")}));
+    QCOMPARE(captions, QStringList({QStringLiteral("Copiar imagen"), QStringLiteral("Guardar imagen..."),
+                                    QStringLiteral("Ver en otra ventana\tF9")}));
 }
 
 void PictureTest::RightButtonReachesOtherPictures() {

@@ -104,7 +104,8 @@ void RichTextTest::MenuIsSpanish() {
     });
     QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, window.Box().mapToGlobal(QPoint(5, 5)));
     QCoreApplication::sendEvent(window.Box().viewport(), &event);
-    QCOMPARE(captions, QStringList({QStringLiteral("Copiar"), QStringLiteral("Seleccionar todo")}));
+    QCOMPARE(captions, QStringList({QStringLiteral("Copiar"), QStringLiteral("Seleccionar todo"),
+                                    QStringLiteral("Ver en otra ventana\tF9")}));
 }
 
 void RichTextTest::SelectionCountsLineEndsAsTheModelDoes() {

@@ -39,6 +39,31 @@ class ScreenTest : public QObject {
     void TheTitleNamesTheTool();
 };
 
+class LookTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void EveryTextCanBeReadInTheContrastLook();
+    void EveryTextCanBeReadOnADarkDesktop();
+    void TheModelKeepsItsColors();
+    void LinesKeepTheirColors();
+    void TheMarkerIsOutlined();
+    void TheSwitchTurnsContrastOnAndOff();
+    void TheDesktopIsFollowed();
+    void BoardsAndReportsStayWhitePaper();
+};
+
+class FreeWindowTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void ADoubleClickOpensTheBoard();
+    void ADoubleClickOnAStripIsTheModels();
+    void AKeyOpensWhatIsInUse();
+    void PicturesScaleAndFollow();
+    void ReportsGrowAndFollow();
+    void TheirMenusAreThoseOfTheSource();
+    void TheyCloseWithTheProgram();
+};
+
 class FocusTest : public QObject {
     Q_OBJECT
   private slots:
