@@ -73,9 +73,10 @@ class DrawEng {
     void DrawAxes(window::Surface& surface, double x, double y);
 
     /// A curve in the frame, its axes through zero where they cross it, and the extremes, rounded. The lists
-    /// are of equal length and not empty. A range of zero maps to the middle of the frame.
-    void DrawGraph(window::Surface& surface, std::span<const double> xs, std::span<const double> ys,
-                   text::Color color, int decimals) const;
+    /// are not empty. A range of zero maps to the middle of the frame. Who points at the graph is told x and
+    /// y, and the note.
+    void DrawGraph(window::Surface& surface, const PointLists& curve, text::Color color, int decimals,
+                   const std::string& note = {}) const;
 
     /// Points as small circles in the scale of a graph that DrawGraph has drawn of `curve`. Those outside its
     /// extremes lie outside the frame; those outside the picture are left out.

@@ -6,23 +6,24 @@ namespace tavrelo::drawing {
 
 using window::Surface;
 
-void DrawEng::DrawGraph(Surface& surface, std::span<const double> xs, std::span<const double> ys,
-                        text::Color color, int decimals) const {
+void DrawEng::DrawGraph(Surface& surface, const PointLists& curve, text::Color color, int decimals,
+                        const std::string& note) const {
     const GraphFrame frame(surface);
-    const GraphScale x = frame.Across(xs);
-    const GraphScale y = frame.Upward(ys);
+    const GraphScale x = frame.Across(curve.xs);
+    const GraphScale y = frame.Upward(curve.ys);
 
     DrawGraphFrame(surface, frame);
     if (x.CrossesZero())
         surface.Line(x(0), frame.top, x(0), frame.bottom, kGraphAxisColor);
     if (y.CrossesZero())
         surface.Line(frame.left, y(0), frame.right, y(0), kGraphAxisColor);
-    DrawGraphCurve(surface, x, y, xs, ys, color);
+    DrawGraphCurve(surface, x, y, curve.xs, curve.ys, color);
 
     LabelYExtreme(surface, frame, "Ymax = " + text::RoundedText(y.High(), decimals), frame.top);
     LabelYExtreme(surface, frame, "Ymin = " + text::RoundedText(y.Low(), decimals), frame.bottom);
     LabelXEnd(surface, frame, text::RoundedText(x.Low(), decimals), frame.left);
     LabelXEnd(surface, frame, text::RoundedText(x.High(), decimals), frame.right);
+    surface.AddTip(window::GraphTip{x.Tip("x"), {y.Tip("y")}, decimals, note});
 }
 
 void DrawEng::DrawGraphPoints(Surface& surface, const PointLists& curve, const PointLists& points,

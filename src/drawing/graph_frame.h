@@ -2,6 +2,7 @@
 
 #include <span>
 #include <string>
+#include <utility>
 
 #include "window/surface.h"
 
@@ -19,6 +20,8 @@ class GraphScale {
     bool CrossesZero() const { return m_low < 0 && m_high > 0; }
     /// The pixel of a value; finite for every finite extent.
     double operator()(double value) const;
+    /// The same scale, to tell the value of a pixel.
+    window::TipScale Tip(std::string name) const { return {std::move(name), m_first, m_last, m_low, m_high}; }
 
   private:
     double m_low;

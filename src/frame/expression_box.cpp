@@ -1,5 +1,7 @@
 #include "frame/expression_box.h"
 
+#include <utility>
+
 #include "expr/brackets.h"
 #include "expr/postfix.h"
 #include "frame/writer.h"
@@ -29,6 +31,13 @@ constexpr QuickKeyRow kQuickKeys[] = {
     {U'ñ', U'Ñ', "^", 0}, {U'j', U'J', "", 1},  {U'f', U'F', "", -1},
 };
 
+/// Empties the line, whether quick keys are on or not; with Ctrl it is a letter.
+constexpr struct {
+    char32_t letter;
+    char32_t capital;
+    std::string_view name;
+} kEmptyingKey = {U'b', U'B', "b"};
+
 bool IsPlain(const KeyStroke& stroke) { return !stroke.shift && !stroke.ctrl && !stroke.alt; }
 
 bool IsCtrlAlone(const KeyStroke& stroke) { return stroke.ctrl && !stroke.shift && !stroke.alt; }
@@ -43,6 +52,15 @@ bool IsConstant(const std::string& line) {
 }
 
 }  // namespace
+
+std::string QuickKeyWords() {
+    std::string words = "Teclas rápidas:";
+    for (const QuickKeyRow& row : kQuickKeys) {
+        const std::string_view step = row.caret_step > 0 ? "→" : "←";
+        words += "  " + text::ToUtf8(row.letter) + " " + std::string(row.caret_step == 0 ? row.alone : step);
+    }
+    return words + "  " + std::string(kEmptyingKey.name) + " vacía";
+}
 
 ExpressionBox::ExpressionBox(window::Form1& form, SharedExpression& expression)
     : m_form(form), m_expression(expression) {
@@ -61,14 +79,29 @@ bool ExpressionBox::KeyDown(const KeyStroke& stroke) {
     }
     if (stroke.key == Key::Insert)
         return true;
-    if (IsLetter(stroke, U'b', U'B')) {
+    if (IsLetter(stroke, kEmptyingKey.letter, kEmptyingKey.capital)) {
         if (IsPlain(stroke))
-            m_controls.rtbExpr.SetText("");
+            EmptyLine();
         else if (IsCtrlAlone(stroke))
-            m_controls.rtbExpr.Insert("b");
+            m_controls.rtbExpr.Insert(kEmptyingKey.name);
         return true;
     }
+    if (window::CtrlLetter(stroke) == U'z' && BringLineBack())
+        return true;
     return m_form.publics.QuickKeys && QuickKey(stroke);
+}
+
+void ExpressionBox::EmptyLine() {
+    if (!m_controls.rtbExpr.Text().empty())
+        m_emptied = m_controls.rtbExpr.Text();
+    m_controls.rtbExpr.SetText("");
+}
+
+bool ExpressionBox::BringLineBack() {
+    if (m_emptied.empty() || !m_controls.rtbExpr.Text().empty())
+        return false;
+    m_controls.rtbExpr.SetText(std::exchange(m_emptied, {}));
+    return true;
 }
 
 bool ExpressionBox::InsertResult() {

@@ -14,6 +14,9 @@ struct ExpressionControls {
     window::TextBox& txtExpr = form.Get<window::TextBox>("txtExpr");
 };
 
+/// The letters that the quick keys take and what each gives: "d /   k +   ...".
+std::string QuickKeyWords();
+
 /// The command line of the calculator, `rtbExpr`: its quick keys, and the evaluation of a line ended by Enter
 /// as a formula or in reverse Polish notation. The result stands in `txtExpr`, the record in the log.
 class ExpressionBox {
@@ -25,6 +28,9 @@ class ExpressionBox {
     bool KeyPress(char32_t character);
     void KeyUp();
 
+    void EmptyLine();
+    /// The line that EmptyLine took; false when there is none, or another one stands there by now.
+    bool BringLineBack();
     bool InsertResult();
     bool QuickKey(const window::KeyStroke& stroke);
     bool BracketKey(char32_t character);
@@ -38,6 +44,7 @@ class ExpressionBox {
     window::Form1& m_form;
     ExpressionControls m_controls{m_form};
     SharedExpression& m_expression;
+    std::string m_emptied;      // by the key that empties the line
     bool m_closer_due = false;  // the key that opened a pair of parentheses is still down
 };
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "expr/polynomial_text.h"
+#include "frame/expression_box.h"
 #include "window/guarded.h"
 
 namespace tavrelo::frame {
@@ -99,6 +100,7 @@ void OptionStrip::FillTeclas() {
     PaintCell(surface, kQuickKeys, "TR", publics.QuickKeys);
     PaintCell(surface, kNotation, "*/^", publics.InfixNotation);
     PaintCell(surface, kDegrees, publics.DegreesMode ? "grd" : "rad", false);
+    m_controls.rtbExpr.SetHint(publics.QuickKeys ? QuickKeyWords() : std::string());
 }
 
 void OptionStrip::MouseDown(const window::MouseStroke& stroke) {

@@ -35,6 +35,10 @@ struct PointsView {
     int column = 1;
 };
 
+/// How to begin with the table.
+inline constexpr std::string_view kPointsInvitation =
+    "Elige la configuración de la tabla y escribe en ella los datos de cada punto.";
+
 /// The help buttons of the panel, by their index.
 enum class PointsHelp { Configuration, Row, Entry };
 

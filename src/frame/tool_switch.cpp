@@ -68,7 +68,9 @@ ToolSwitch::ToolSwitch(window::Form1& form, MenuBar& menu) : m_form(form), m_men
 }
 
 void ToolSwitch::SetHooks(window::Tool tool, ToolHooks hooks) {
-    m_pictures[IndexOf(tool)].shows_pic1 = hooks.uses_pic1;
+    Pictures& pictures = m_pictures[IndexOf(tool)];
+    pictures.shows_pic1 = hooks.uses_pic1;
+    (hooks.uses_pic1 ? pictures.pic1 : pictures.pic).invitation = hooks.invitation;
     m_hooks[IndexOf(tool)] = std::move(hooks);
 }
 

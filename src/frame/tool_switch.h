@@ -46,6 +46,8 @@ struct ToolHooks {
     window::Event on_first_entry = {};  // once, before the first on_entry
     window::Event on_entry = {};        // prepares fields, draws the tool's picture, gives the focus
     bool uses_pic1 = false;
+    /// How to begin, on a board on which nothing stands yet.
+    std::string_view invitation = {};
 };
 
 /// The toolbar: which panels are in view, in what colour, and what stays over a change of tool.

@@ -10,17 +10,22 @@
 namespace tavrelo::qt {
 namespace {
 
+constexpr QRgb kAttentionColor = qRgb(255, 221, 87);  // dark letters stand out on it
+
 /// A label that tells when it was clicked.
 class ClickLabel : public QLabel, public TellsOfItself {
   public:
     using QLabel::QLabel;
     std::function<void()> OnClick;
     int word_pitch = 0;  // pixels on the screen
+    bool calls_attention = false;
 
     QAccessibleInterface* NewAccessible() override { return new AccessibleText(*this); }
 
   protected:
     void paintEvent(QPaintEvent* event) override {
+        if (calls_attention)
+            QPainter(this).fillRect(rect(), kAttentionColor);
         if (word_pitch == 0)
             return QLabel::paintEvent(event);
         QPainter painter(this);
@@ -48,6 +53,8 @@ class LabelBinding : public Binding {
     void ShowState() override {
         Binding::ShowState();
         m_widget.setText(ToQString(m_label.Caption()));
+        m_widget.calls_attention = m_label.CallsAttention();
+        m_widget.update();
         m_widget.word_pitch = Context().Scaled(m_label.WordPitch());
         if (m_label.OnClick)
             m_widget.setCursor(Qt::PointingHandCursor);

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -14,8 +15,14 @@
 #include "qt/keys.h"
 #include "qt/picture_menu.h"
 #include "qt/pointers.h"
+#include "qt/text.h"
 
 namespace tavrelo::qt {
+namespace {
+
+constexpr QRgb kInvitationColor = qRgb(0x70, 0x70, 0x70);  // on white paper
+
+}  // namespace
 
 PictureView::PictureView(window::Picture& model, QWidget& parent, const ViewContext& context)
     : QWidget(&parent), m_picture(model), m_context(context) {
@@ -42,6 +49,11 @@ bool PictureView::event(QEvent* event) {
     // The tooltip goes with the pointer from place to place without leaving the picture.
     if (event->type() == QEvent::ToolTipChange && underMouse() && QToolTip::isVisible())
         QToolTip::showText(QCursor::pos(), toolTip(), this);
+    if (event->type() == QEvent::ToolTip && m_picture.Tooltip().empty()) {
+        const auto& help = static_cast<const QHelpEvent&>(*event);
+        ShowTipAt(help.pos(), help.globalPos());
+        return true;
+    }
     return QWidget::event(event);
 }
 
@@ -52,6 +64,7 @@ void PictureView::paintEvent(QPaintEvent*) {
     else if (IsDark(palette()))
         painter.fillRect(rect(), ShadeOf(kWindow, false));  // drawings are made for light paper
     PaintRecording(painter, m_picture.Canvas(), m_context.zoom, m_context.artwork, m_context.text_look);
+    PaintInvitation(painter);
     painter.setRenderHint(QPainter::Antialiasing, false);
     if (m_has_menu) {
         painter.setPen(palette().color(QPalette::Mid));
@@ -162,9 +175,32 @@ void PictureView::PointAt(int cell) {
     update();
 }
 
+void PictureView::PaintInvitation(QPainter& painter) const {
+    const std::string& line = m_picture.Canvas().Invitation();
+    if (line.empty())
+        return;
+    constexpr int kMargin = 12;  // pixels at 100 %
+    const int margin = m_context.Scaled(kMargin);
+    painter.setFont(font());
+    painter.setPen(kInvitationColor);
+    painter.drawText(rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap, ToQString(line));
+}
+
+window::Point PictureView::ToPixels(const QPointF& place) const {
+    return {place.x() / m_context.zoom, place.y() / m_context.zoom};
+}
+
+void PictureView::ShowTipAt(const QPointF& place, const QPoint& global) {
+    const std::string text = m_picture.Canvas().TipAt(ToPixels(place));
+    if (text.empty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(global, ToQString(text), this);
+}
+
 window::MouseStroke PictureView::ToStroke(const QMouseEvent& event) const {
-    const QPointF pixels = event.position() / m_context.zoom;
-    const window::Point own = m_picture.ToOwnUnits({pixels.x(), pixels.y()});
+    const window::Point own = m_picture.ToOwnUnits(ToPixels(event.position()));
     const bool is_right = event.button() == Qt::RightButton || (event.buttons() & Qt::RightButton);
     return {own.x,
             own.y,
@@ -188,11 +224,13 @@ void PictureView::mousePressEvent(QMouseEvent* event) {
 
 void PictureView::mouseMoveEvent(QMouseEvent* event) {
     m_picture.UserMouseMove(ToStroke(*event));
-    const QPointF pixels = event->position() / m_context.zoom;
     const auto cells = Cells();
-    const int cell = window::CellUnder(cells, {pixels.x(), pixels.y()});
+    const int cell = window::CellUnder(cells, ToPixels(event->position()));
     const bool is_usable = cell != window::kNoCell && cells[static_cast<std::size_t>(cell)].enabled;
     PointAt(is_usable ? cell : window::kNoCell);
+    // A tip in view goes with the pointer, so that a curve can be followed.
+    if (m_has_menu && QToolTip::isVisible())
+        ShowTipAt(event->position(), event->globalPosition().toPoint());
 }
 
 void PictureView::mouseReleaseEvent(QMouseEvent* event) {

@@ -41,6 +41,11 @@ class PictureView : public QWidget {
 
   private:
     bool IsForModel(const QMouseEvent& event) const;
+    void PaintInvitation(QPainter& painter) const;
+    /// A place on the widget as pixels of the picture at 100 %.
+    window::Point ToPixels(const QPointF& place) const;
+    /// Shows what the drawing tells at that place; takes a tip away where it tells nothing.
+    void ShowTipAt(const QPointF& place, const QPoint& global);
     window::MouseStroke ToStroke(const QMouseEvent& event) const;
     /// Answers whether the key did something.
     bool TakeKey(const QKeyEvent& event);

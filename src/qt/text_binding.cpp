@@ -25,6 +25,7 @@ class TextBinding : public Binding {
         const int margin = Context().Scaled(kMargin);
         m_widget.setTextMargins(margin, 0, margin, 0);
         m_widget.setReadOnly(m_box.Locked());
+        m_widget.setPlaceholderText(ToQString(m_box.Hint()));
     }
 
     void ShowContent() override {

@@ -45,15 +45,6 @@ void Paste(Grid& grid, const CellRules& rules, const Clipboard& clipboard) {
     Give(grid, rules, content, rules.shown ? rules.shown(content) : content);
 }
 
-/// The letter of a key held with Ctrl alone, as a small one; 0 for every other stroke.
-char32_t CtrlLetter(const KeyStroke& stroke) {
-    constexpr char32_t kToSmall = U'a' - U'A';
-    if (stroke.key != Key::Character || !stroke.ctrl || stroke.shift || stroke.alt)
-        return 0;
-    const bool is_capital = stroke.character >= U'A' && stroke.character <= U'Z';
-    return is_capital ? stroke.character + kToSmall : stroke.character;
-}
-
 /// A selection dragged from a heading leaves the heading as the current cell.
 bool IsInHeadings(const Grid& grid) { return grid.Row() < grid.FixedRows() || grid.Col() < grid.FixedCols(); }
 

@@ -70,11 +70,15 @@ class Label : public Control {
     /// row of boxes; 0 shows the caption as a text.
     int WordPitch() const { return m_word_pitch; }
     void SetWordPitch(int pixels) { Set(m_word_pitch, pixels); }
+    /// Whether the label stands out, for what it says is what the user has to look at now.
+    bool CallsAttention() const { return m_calls_attention; }
+    void CallAttention(bool calls) { Set(m_calls_attention, calls); }
     void UserClick();
     Handler<void()> OnClick;
 
   private:
     int m_word_pitch = 0;
+    bool m_calls_attention = false;
 };
 
 /// Where a button's picture stands in a bitmap of the program; pixels at 100 %.
@@ -158,6 +162,10 @@ class TextControl : public Control {
     void PutCaretAtEnd();
     std::size_t Length() const;
 
+    /// What the view shows in grey while the box is empty.
+    const std::string& Hint() const { return m_hint; }
+    void SetHint(std::string hint) { Set(m_hint, std::move(hint)); }
+
     bool Locked() const { return m_locked; }
     void SetLocked(bool locked) { Set(m_locked, locked); }
 
@@ -185,6 +193,7 @@ class TextControl : public Control {
     TextSelection Clipped(TextSelection selection) const;
 
     TextSelection m_selection;
+    std::string m_hint;
     bool m_locked = false;
 };
 

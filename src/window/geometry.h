@@ -12,6 +12,11 @@ struct Rect {
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 
+/// A place in pixels at 100 %, counted downward from the top left.
+struct Point {
+    double x, y;
+};
+
 /// 1 pixel at 100 % is 15 twips.
 inline constexpr int kTwipsPerPixel = 15;
 

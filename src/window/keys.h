@@ -32,6 +32,15 @@ struct KeyStroke {
     bool alt = false;
 };
 
+/// The letter of a key held with Ctrl alone, as a small one; 0 for every other stroke.
+constexpr char32_t CtrlLetter(const KeyStroke& stroke) {
+    constexpr char32_t kToSmall = U'a' - U'A';
+    if (stroke.key != Key::Character || !stroke.ctrl || stroke.shift || stroke.alt)
+        return 0;
+    const bool is_capital = stroke.character >= U'A' && stroke.character <= U'Z';
+    return is_capital ? stroke.character + kToSmall : stroke.character;
+}
+
 // The control characters that OnKeyPress receives.
 inline constexpr char32_t kEnterCharacter = 13;
 inline constexpr char32_t kBackspaceCharacter = 8;

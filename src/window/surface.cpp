@@ -76,6 +76,7 @@ void Surface::Image(std::string_view name, double source_x, double source_y, dou
 void Recorder::Draw(DrawOp op) {
     if (std::holds_alternative<ClearOp>(op))
         m_recording = {};
+    m_recording.invitation.clear();
     m_recording.operations.push_back(std::move(op));
     Changed();
 }
@@ -86,6 +87,15 @@ void Recorder::Describe(std::string_view sentences) {
     if (!m_recording.words.empty())
         m_recording.words += ' ';
     m_recording.words += sentences;
+    Changed();
+}
+
+void Recorder::AddTip(PictureTip tip) { m_recording.tips.push_back(std::move(tip)); }
+
+void Recorder::Invite(std::string_view line) {
+    if (m_recording.invitation == line)
+        return;
+    m_recording.invitation = line;
     Changed();
 }
 

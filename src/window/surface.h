@@ -9,6 +9,7 @@
 #include "text/font.h"
 #include "text/picture_markup.h"
 #include "window/geometry.h"
+#include "window/picture_tips.h"
 
 namespace tavrelo::window {
 
@@ -41,9 +42,6 @@ struct ArcOp {
     double x, y, radius, start, end;
     text::Color color;
     double width;
-};
-struct Point {
-    double x, y;
 };
 struct PolygonOp {
     std::vector<Point> points;
@@ -82,6 +80,11 @@ class Surface {
     virtual void Describe(std::string_view /*sentences*/) {}
     /// The drawing is a page of texts, and they are its words. Ends with the next Cls, too.
     virtual void DescribeByTexts() {}
+    /// Keeps what is told to who points at a place of the drawing, until the next Cls.
+    virtual void AddTip(PictureTip /*tip*/) {}
+    /// One line that says how to begin, for a board on which nothing was put yet. It is no part of the
+    /// drawing: it is neither copied nor printed, and the next operation takes it away.
+    virtual void Invite(std::string_view /*line*/) {}
 
     /// y counted from the bottom upward, as y counted from the top downward; the one place that converts.
     double FromBottom(double y) const { return Height() - y; }
@@ -114,11 +117,13 @@ class Surface {
     double DrawWidth = 1;
 };
 
-/// What a recorder has kept: the drawing and the words for it.
+/// What a recorder has kept: the drawing, the words for it and what it tells to a pointer.
 struct Recording {
     std::vector<DrawOp> operations;
     std::string words;
     bool is_page = false;  // whose texts are its words
+    std::vector<PictureTip> tips;
+    std::string invitation;
 };
 
 /// A surface that keeps its operations, from which a picture is repainted at any scale.
@@ -131,12 +136,17 @@ class Recorder : public Surface {
     void Draw(DrawOp op) override;
     void Describe(std::string_view sentences) override;
     void DescribeByTexts() override;
+    void AddTip(PictureTip tip) override;
+    void Invite(std::string_view line) override;
     void Resize(double width, double height);
 
     const std::vector<DrawOp>& Operations() const { return m_recording.operations; }
     /// All that was described since the last Cls; of a page the texts that stand on it, as they are read
     /// aloud, from the top downward.
     std::string Words() const;
+    /// What the drawing tells at a place; empty where nothing stands.
+    std::string TipAt(Point place) const { return window::TipAt(m_recording.tips, place); }
+    const std::string& Invitation() const { return m_recording.invitation; }
     /// Drawing and words, to be put back in view by Restore.
     const Recording& Kept() const { return m_recording; }
     void Restore(Recording recording);

@@ -1,11 +1,13 @@
 #include "tools/calculator/argument_grid.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
 #include "text/number_text.h"
 #include "text/utf8.h"
 #include "window/guarded.h"
+#include "window/pasted_block.h"
 
 namespace tavrelo::tools::calculator {
 namespace {
@@ -25,6 +27,8 @@ constexpr int kBorderWidth = 45;         // twips
 constexpr int kScrollBarWidth = 280;     // twips
 constexpr int kLeastSeriesRows = 3;
 
+constexpr std::string_view kBlockTooLarge = "El bloque no cabe en la tabla desde la celda elegida.";
+
 constexpr text::Color kButtonColor = text::Rgb(192, 192, 192);
 constexpr text::Color kMarkedColor = text::Rgb(255, 224, 192);
 constexpr window::Rect kIconSize{0, 0, 26, 24};
@@ -39,6 +43,21 @@ std::vector<std::vector<std::string>> TextsOf(const window::Grid& grid, const Ce
             texts.back().push_back(grid.Cell(row, col));
     }
     return texts;
+}
+
+void PutTexts(window::Grid& grid, int row, int col, const std::vector<std::vector<std::string>>& texts) {
+    const window::ChangeBatch batch(grid);
+    for (std::size_t r = 0; r < texts.size(); ++r)
+        for (std::size_t c = 0; c < texts[r].size(); ++c)
+            grid.SetCell(row + static_cast<int>(r), col + static_cast<int>(c), texts[r][c]);
+}
+
+/// The block that texts fill from a cell on.
+CellBlock BlockOf(int row, int col, const std::vector<std::vector<std::string>>& texts) {
+    std::size_t cols = 0;
+    for (const auto& cells : texts)
+        cols = std::max(cols, cells.size());
+    return {row, col, row + static_cast<int>(texts.size()) - 1, col + static_cast<int>(cols) - 1};
 }
 
 void SwapCells(window::Grid& grid, int row1, int col1, int row2, int col2) {
@@ -62,8 +81,7 @@ ArgumentGrid::ArgumentGrid(window::Form1& form, const CalculatorControls& contro
     window::On(form, grid.OnMouseDown, [this](int row, int col) { Paste(row, col); });
     window::On(form, grid.OnSelChange, [this] { SelectionChanged(); });
     window::On(form, grid.OnKeyDown, [this](const window::KeyStroke& stroke) { return KeyDown(stroke); });
-    window::On(form, grid.OnKeyPress,
-               [&grid](char32_t character) { return window::TypeIntoCell(grid, {}, character); });
+    window::On(form, grid.OnKeyPress, [this](char32_t character) { return Type(character); });
     ArrangeGd();
 }
 
@@ -71,6 +89,7 @@ void ArgumentGrid::ArrangeGd() {
     window::Grid& grid = m_controls.gd;
     const window::ChangeBatch batch(grid);
     grid.Arrange(kGridRows + 1, kGridCols + 1, 1, 1);
+    m_covered.reset();
     for (int row = 1; row <= kGridRows; ++row)
         grid.SetCell(row, 0, Heading(row));
     for (int col = 1; col <= kGridCols; ++col)
@@ -149,10 +168,34 @@ void ArgumentGrid::Paste(int row, int col) {
     const window::ChangeBatch batch(grid);
     if (moves)
         window::EmptyCells(grid, m_copy_source);
-    for (int r = 0; r < target.Rows(); ++r)
-        for (int c = 0; c < target.Cols(); ++c)
-            grid.SetCell(row + r, col + c, texts[static_cast<std::size_t>(r)][static_cast<std::size_t>(c)]);
+    PutTexts(grid, row, col, texts);
     grid.Select(target);
+    SelectionChanged();
+}
+
+void ArgumentGrid::PasteBlock() {
+    window::Grid& grid = m_controls.gd;
+    const auto texts = window::CellsOfBlock(m_form.clipboard.Text());
+    const int row = grid.Selection().first_row;
+    const int col = grid.Selection().first_col;
+    if (texts.empty() || row < grid.FixedRows() || col < grid.FixedCols())
+        return;
+    const CellBlock target = BlockOf(row, col, texts);
+    if (!grid.HasCell(target.last_row, target.last_col))
+        return m_form.boxes.Tell(kBlockTooLarge);
+    m_controls.pic.Canvas().Invite({});
+    m_covered = Covered{target, TextsOf(grid, target)};
+    PutTexts(grid, row, col, texts);
+    grid.Select(target);
+    SelectionChanged();
+}
+
+void ArgumentGrid::TakeBackPaste() {
+    if (!m_covered)
+        return;
+    const auto [block, texts] = *std::exchange(m_covered, std::nullopt);
+    PutTexts(m_controls.gd, block.first_row, block.first_col, texts);
+    m_controls.gd.Select(block);
     SelectionChanged();
 }
 
@@ -202,6 +245,11 @@ void ArgumentGrid::ExchangeColumns(const CellBlock& block) {
         SwapCells(m_controls.gd, row, block.first_col, row, block.last_col);
 }
 
+bool ArgumentGrid::Type(char32_t character) {
+    m_controls.pic.Canvas().Invite({});
+    return window::TypeIntoCell(m_controls.gd, {}, character);
+}
+
 bool ArgumentGrid::KeyDown(const window::KeyStroke& stroke) {
     const bool calculates = stroke.key == Key::F12 || (stroke.key == Key::Enter && stroke.shift);
     if (calculates && OnCalculate)
@@ -210,6 +258,10 @@ bool ArgumentGrid::KeyDown(const window::KeyStroke& stroke) {
         window::EmptyCells(m_controls.gd, m_controls.gd.Selection());
     else if (stroke.key == Key::Insert)
         InsertResult();
+    else if (window::CtrlLetter(stroke) == U'v')
+        PasteBlock();
+    else if (window::CtrlLetter(stroke) == U'z')
+        TakeBackPaste();
     else
         return false;
     return true;
@@ -232,10 +284,23 @@ void ArgumentGrid::SelectionChanged() {
         m_form.boxes.Tell("Debes seleccionar de arriba abajo y de derecha a izquierda.");
     }
     const CellBlock& block = grid.Selection();
+    m_controls.lblRC.CallAttention(false);
     m_controls.lblRC.SetCaption(std::to_string(block.Rows()) + " x " + std::to_string(block.Cols()));
 }
 
+void ArgumentGrid::ShowSelectionSize() {
+    const window::Grid& grid = m_controls.gd;
+    const CellBlock& block = grid.Selection();
+    if (block.Rows() != 1 || block.Cols() != 1)
+        return;
+    bool holds_more = false;
+    for (int col = grid.FixedCols(); col < grid.Cols(); ++col)
+        holds_more = holds_more || (col != block.first_col && !grid.Cell(block.first_row, col).empty());
+    m_controls.lblRC.CallAttention(holds_more);
+}
+
 void ArgumentGrid::PutInCurrentCell(const std::string& text) {
+    m_controls.pic.Canvas().Invite({});
     window::Grid& grid = m_controls.gd;
     grid.SetCell(grid.Row(), grid.Col(), text);
     if (grid.Col() < kGridCols)

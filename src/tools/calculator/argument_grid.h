@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "tools/calculator/calculator_controls.h"
 #include "window/cell_typing.h"
@@ -23,6 +24,9 @@ class ArgumentGrid {
     int GridColsShown() const { return m_cols_shown; }
     /// Ends a copy or move that waits for its destination, and takes the marks off its button.
     void EndCopyMode();
+    /// After a refusal: the size of the selection stands out when that is a single cell of a row that holds
+    /// more.
+    void ShowSelectionSize();
     /// Writes a text into the current cell and moves one cell on, at the end of a row to the next one.
     void PutInCurrentCell(const std::string& text);
 
@@ -40,6 +44,12 @@ class ArgumentGrid {
     void SetColsShown(int shown);
     void ShowColumns(int shown, int width);
 
+    /// Puts a block of the clipboard into the cells from the selection's first one on.
+    void PasteBlock();
+    /// Gives the cells that the last paste has covered their texts again.
+    void TakeBackPaste();
+
+    bool Type(char32_t character);
     bool KeyDown(const window::KeyStroke& stroke);
     void InsertResult();
     void SelectionChanged();
@@ -49,6 +59,12 @@ class ArgumentGrid {
     int m_cols_shown = 4;
     std::optional<int> m_copy_button;  // the button whose copy or move waits
     window::CellBlock m_copy_source;
+    /// What the last paste has covered.
+    struct Covered {
+        window::CellBlock block;
+        std::vector<std::vector<std::string>> texts;
+    };
+    std::optional<Covered> m_covered;
 };
 
 }  // namespace tavrelo::tools::calculator

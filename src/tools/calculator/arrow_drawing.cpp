@@ -157,6 +157,18 @@ void AddVectors(ArrowDrawing& drawing, const Placing& placing, std::span<const D
                          WidthOf(vector));
 }
 
+/// Who points at one of the vectors is told its words.
+template <class Telling>
+void AddTips(window::Surface& surface, const Placing& placing, const std::vector<DrawnVector>& vectors,
+             double arrow_scale, Telling tell) {
+    const double pixels = arrow_scale * DrawEng::kPixPerUnit;
+    for (const DrawnVector& vector : vectors) {
+        const Point from = placing.At(vector.from);
+        surface.AddTip(
+            window::ArrowTip{from, {from.x + vector.x * pixels, from.y - vector.y * pixels}, tell(vector)});
+    }
+}
+
 void AddCenterAxes(ArrowDrawing& drawing, Point center, const AxesTurn& turn) {
     const double pixels = kAxisLength * DrawEng::kPixPerUnit;
     if (turn.turned) {
@@ -182,6 +194,8 @@ void DrawFromCenter(RoutineRun& run, const std::vector<DrawnVector>& vectors, Ax
     AddVectors(drawing, {1, center}, vectors, arrow_scale);
     drawing.PlaceLabels();
     drawing.Surface().Describe(DescribeFromCenter(vectors, turn, run.decimals));
+    AddTips(drawing.Surface(), {1, center}, vectors, arrow_scale,
+            [&](const DrawnVector& vector) { return DescribeVector(vector, run.decimals); });
 }
 
 void DrawAtPoints(RoutineRun& run, const std::vector<DrawnVector>& vectors) {
@@ -195,6 +209,8 @@ void DrawAtPoints(RoutineRun& run, const std::vector<DrawnVector>& vectors) {
     AddVectors(drawing, placing, vectors, arrow_scale);
     drawing.PlaceLabels();
     drawing.Surface().Describe(DescribeAtPoints(vectors, run.decimals));
+    AddTips(drawing.Surface(), placing, vectors, arrow_scale,
+            [&](const DrawnVector& vector) { return DescribeVector(vector, run.decimals); });
 }
 
 void DrawVerticalForces(RoutineRun& run, const std::vector<DrawnVector>& forces) {
@@ -212,6 +228,8 @@ void DrawVerticalForces(RoutineRun& run, const std::vector<DrawnVector>& forces)
     AddVectors(drawing, placing, seen, arrow_scale);
     drawing.PlaceLabels();
     drawing.Surface().Describe(DescribeVerticalForces(forces, run.decimals));
+    AddTips(drawing.Surface(), placing, seen, arrow_scale,
+            [&](const DrawnVector& force) { return DescribeVerticalForce(force, run.decimals); });
 }
 
 }  // namespace tavrelo::tools::calculator

@@ -33,6 +33,7 @@ CalculatorTool::CalculatorTool(window::Form1& form, frame::SharedExpression& exp
 
 frame::ToolHooks CalculatorTool::Hooks() {
     frame::ToolHooks hooks;
+    hooks.invitation = "Elige una rutina, escribe sus argumentos en la tabla y selecciónalos.";
     hooks.on_entry = [this] {
         m_controls.lblVorF.SetCaption("Vector:");
         m_controls.fraDirec.SetEnabled(true);
@@ -68,8 +69,10 @@ void CalculatorTool::Calculate() {
     if (!routine)
         return;
     RoutineRun run{m_form, m_controls, m_expression, m_engine, SolveParticle, m_form.publics.Decimals};
-    if (const Outcome refusal = Perform(*routine, run))
+    if (const Outcome refusal = Perform(*routine, run)) {
+        m_grid.ShowSelectionSize();
         m_form.boxes.Tell(refusal->text);
+    }
 }
 
 }  // namespace tavrelo::tools::calculator

@@ -90,6 +90,15 @@ std::string DescribeFigure(const Figure& figure, int decimals) {
     return words;
 }
 
+std::string DescribeVector(const DrawnVector& vector, int decimals) {
+    return DescribeVerticalForce(vector, decimals) + "\nComponentes x " + NumberWords(vector.x, decimals) +
+           ", y " + NumberWords(vector.y, decimals);
+}
+
+std::string DescribeVerticalForce(const DrawnVector& force, int decimals) {
+    return drawing::LabelWords(force.label) + SizeAndDirection(force, decimals) + ResultMark(force);
+}
+
 std::string DescribeFromCenter(const std::vector<DrawnVector>& vectors, const AxesTurn& turn, int decimals) {
     std::string words = ListOf(vectors, kVectors, " desde el origen",
                                [&](const DrawnVector& vector) { return SizeAndDirection(vector, decimals); });

@@ -14,6 +14,12 @@ namespace tavrelo::tools::calculator {
 /// "Triángulo. ... Lados de 3, 4 y 5."; the vertices where the drawing names them, else the angles.
 std::string DescribeFigure(const Figure& figure, int decimals);
 
+/// One vector: "V1 de 5 a 30 grados", below it its components.
+std::string DescribeVector(const DrawnVector& vector, int decimals);
+
+/// One force along z: "F1 de 10 hacia arriba".
+std::string DescribeVerticalForce(const DrawnVector& force, int decimals);
+
 /// Vectors from the origin: "Dos vectores desde el origen: V1 de 5 a 30 grados; ...".
 std::string DescribeFromCenter(const std::vector<DrawnVector>& vectors, const AxesTurn& turn, int decimals);
 

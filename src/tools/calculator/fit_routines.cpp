@@ -34,14 +34,28 @@ Data DataOf(const Arguments& arguments, int count) {
     return data;
 }
 
+/// How many points lie outside the frame, which is as large as the curve; nothing for none.
+std::string OutsideWords(const drawing::PointLists& curve, const Data& data) {
+    const auto [left, right] = std::ranges::minmax(curve.xs);
+    const auto [low, high] = std::ranges::minmax(curve.ys);
+    int outside = 0;
+    for (std::size_t k = 0; k < data.xs.size(); ++k)
+        outside += data.xs[k] < left || data.xs[k] > right || data.ys[k] < low || data.ys[k] > high;
+    if (outside == 0)
+        return {};
+    return outside == 1 ? "1 punto queda fuera del recuadro."
+                        : std::to_string(outside) + " puntos quedan fuera del recuadro.";
+}
+
 void DrawFit(RoutineRun& run, const Data& data, const Numbers& coefs) {
     constexpr int kSamples = static_cast<int>(drawing::DrawEng::kGraphSize);
     const numeric::CurveSamples curve = numeric::SamplePolynomial(coefs, data.xs, kSamples);
     window::Surface& surface = run.Picture();
     surface.Cls();
     run.engine.Begin();
-    run.engine.DrawGraph(surface, curve.xs, curve.ys, kCurveColor, run.decimals);
-    run.engine.DrawGraphPoints(surface, {curve.xs, curve.ys}, {data.xs, data.ys}, kPointColor);
+    const drawing::PointLists drawn{curve.xs, curve.ys};
+    run.engine.DrawGraph(surface, drawn, kCurveColor, run.decimals, OutsideWords(drawn, data));
+    run.engine.DrawGraphPoints(surface, drawn, {data.xs, data.ys}, kPointColor);
     surface.Describe(DescribeFit(data.xs, data.ys, {"x", "y", curve.xs, curve.ys}, run.decimals));
 }
 

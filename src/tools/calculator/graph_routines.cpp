@@ -57,7 +57,7 @@ void DrawCurve(RoutineRun& run, const Numbers& xs, const Numbers& ys) {
     window::Surface& surface = run.Picture();
     surface.Cls();
     run.engine.Begin();
-    run.engine.DrawGraph(surface, xs, ys, kCurveColor, run.decimals);
+    run.engine.DrawGraph(surface, {xs, ys}, kCurveColor, run.decimals);
 }
 
 /// The two formulas around the only "&".

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "drawing/draw_engine.h"
@@ -74,16 +75,20 @@ void DrawCurves(window::Surface& surface, const mechanics::kinematics::LineCurve
             if (const GraphScale scale = frame.Upward(curve.values); scale.CrossesZero())
                 surface.Line(frame.left, scale(0), frame.right, scale(0), Pale(curve.color));
     int place = 0;
+    window::GraphTip tip{times.Tip("t"), {}, decimals};
     for (const Curve& curve : all) {
         if (curve.values.empty())
             continue;
         const GraphScale scale = frame.Upward(curve.values);
+        tip.upward.push_back(scale.Tip(curve.letter));
         surface.DrawWidth = kCurveWidth;
         drawing::DrawGraphCurve(surface, times, scale, curves.t, curve.values, curve.color);
         surface.DrawWidth = 1;
         PrintLegend(surface, curve, scale, place++, decimals);
     }
     LabelEnds(surface, frame, times, "t = ", "t = ", decimals);
+    if (!tip.upward.empty())
+        surface.AddTip(std::move(tip));
     surface.Describe(DescribeCurves(curves, decimals));
 }
 
@@ -103,6 +108,7 @@ void DrawTrajectory(window::Surface& surface, const mechanics::kinematics::Traje
     LabelEnds(surface, frame, x, "x!m!í!n = ", "x!m!á!x = ", decimals);
     drawing::LabelYExtreme(surface, frame, "y!m!í!n = " + Shown(y.Low(), decimals), frame.bottom);
     drawing::LabelYExtreme(surface, frame, "y!m!á!x = " + Shown(y.High(), decimals), frame.top);
+    surface.AddTip(window::GraphTip{x.Tip("x"), {y.Tip("y")}, decimals});
     surface.Describe(DescribeTrajectory(path, decimals));
 }
 

@@ -35,12 +35,20 @@ KinematicsTool::KinematicsTool(window::Form1& form)
     window::OnClick(form, m_controls.draw, [this] { Draw(); });
     for (const auto* boxes : {&m_controls.formulas, &m_controls.starts, &m_controls.times})
         for (const auto& [index, box] : boxes->Items())
-            window::On(form, box->OnKeyPress,
-                       [](char32_t character) { return !IsFormulaCharacter(character); });
+            window::On(form, box->OnKeyPress, [this](char32_t character) { return !Takes(character); });
+}
+
+bool KinematicsTool::Takes(char32_t character) {
+    const bool takes = IsFormulaCharacter(character);
+    if (takes)
+        m_controls.picture.Canvas().Invite({});
+    return takes;
 }
 
 frame::ToolHooks KinematicsTool::Hooks() {
-    return {.on_entry = [this] { m_form.SetFocus(m_controls.formulas[0]); }, .uses_pic1 = true};
+    return {.on_entry = [this] { m_form.SetFocus(m_controls.formulas[0]); },
+            .uses_pic1 = true,
+            .invitation = "Escribe la función del movimiento y oprime \"Calcular\" o \"Graficar\"."};
 }
 
 void KinematicsTool::ShowWay(int way) {

@@ -19,6 +19,8 @@ class KinematicsTool {
     void ShowWay(int way);
 
   private:
+    /// Whether a box takes a character; with the first one the invitation to begin goes.
+    bool Takes(char32_t character);
     void Calculate();
     void Draw();
     void DrawLine(double t0, double t1);

@@ -126,6 +126,9 @@ void DrawMotionGraph(Surface& picture, const MotionGraph& graph, int decimals) {
     NameAxes(picture, frame);
     for (const GraphName& name : graph.names)
         NameCurve(picture, graph, times, positions, name);
+    picture.AddTip(window::GraphTip{times.Tip(std::string(mechanics::motion::kTimeAxis)),
+                                    {positions.Tip(std::string(mechanics::motion::kPositionAxis))},
+                                    decimals});
     picture.Describe(DescribeMotionGraph(graph, decimals));
 }
 

@@ -45,7 +45,7 @@ void Motion::BindResults() {
 }
 
 frame::ToolHooks Motion::Hooks() {
-    return {.on_entry = [this] { Enter(); }};
+    return {.on_entry = [this] { Enter(); }, .invitation = frame::kPointsInvitation};
 }
 
 void Motion::Enter() {
@@ -268,6 +268,7 @@ void Motion::NewProblem() {
     m_problem = {};
     m_dragged = 0;
     m_controls.pic.Canvas().Cls();
+    m_controls.pic.Canvas().Invite(frame::kPointsInvitation);
     m_controls.pic1.Canvas().Cls();
     ShowGraph(false);
     m_results.Reset();
@@ -291,6 +292,7 @@ void Motion::Take(const Step& step) {
     const auto& outcome = std::get<Outcome>(step);
     if (outcome.problem != m_problem) {
         m_problem = outcome.problem;
+        m_controls.pic.Canvas().Invite({});
         ShowProblem();
     }
     for (const mechanics::motion::Event& event : outcome.events)

@@ -8,10 +8,13 @@
 
 #include "drawing/draw_engine.h"
 #include "drawing/force_color.h"
+#include "drawing/force_words.h"
 #include "drawing/label_placer.h"
+#include "drawing/words.h"
 #include "numeric/angles.h"
 #include "numeric/compare.h"
 #include "text/number_text.h"
+#include "tools/particle/describe.h"
 
 namespace tavrelo::tools::particle {
 namespace {
@@ -153,6 +156,21 @@ void DrawArrows(Surface& canvas, std::vector<PlacedArrow> arrows) {
     }
 }
 
+/// Name, size and direction, below them the components.
+std::string TipOf(const ForcesInView& forces, std::size_t index, int decimals) {
+    const std::string components = drawing::ComponentsWords(forces.Forces()[index], decimals);
+    const std::string words = drawing::AsSentence(DescribeForce(forces, index, decimals));
+    return components.empty() ? words : words + "\n" + drawing::AsSentence(components);
+}
+
+void AddTips(Surface& canvas, const ForcesInView& forces, const std::vector<PlacedArrow>& arrows,
+             int decimals) {
+    for (std::size_t i = 0; i < arrows.size(); ++i) {
+        const drawing::ArrowPlace place = PlaceOf(arrows[i].arrow, arrows[i].pen);
+        canvas.AddTip(window::ArrowTip{place.tail, place.tip, TipOf(forces, i, decimals)});
+    }
+}
+
 void DrawAxes(Surface& canvas, double rotation) {
     const double cos = numeric::CosD(rotation);
     const double sin = numeric::SinD(rotation);
@@ -162,13 +180,15 @@ void DrawAxes(Surface& canvas, double rotation) {
 
 }  // namespace
 
-void DrawForces(Surface& canvas, const ForcesInView& forces, double rotation) {
+void DrawForces(Surface& canvas, const ForcesInView& forces, double rotation, int decimals) {
     canvas.Cls();
     DrawAxes(canvas, rotation);
     if (forces.IsEmpty())
-        return;
+        return canvas.Invite("Escribe la primera fuerza, o elige su dirección en el reloj.");
     DrawOrigin(canvas);
-    DrawArrows(canvas, ArrowsOf(forces, MiddleOf(canvas), rotation));
+    const std::vector<PlacedArrow> arrows = ArrowsOf(forces, MiddleOf(canvas), rotation);
+    DrawArrows(canvas, arrows);
+    AddTips(canvas, forces, arrows, decimals);
 }
 
 }  // namespace tavrelo::tools::particle

@@ -327,8 +327,9 @@ void ParticleTool::ShowRotation() {
 
 void ParticleTool::Draw() {
     window::Surface& canvas = m_controls.pic1.Canvas();
-    DrawForces(canvas, m_forces, m_rotation);
-    canvas.Describe(DescribeForces(m_forces, m_rotation, m_form.publics.Decimals));
+    const int decimals = m_form.publics.Decimals;
+    DrawForces(canvas, m_forces, m_rotation, decimals);
+    canvas.Describe(DescribeForces(m_forces, m_rotation, decimals));
 }
 
 }  // namespace tavrelo::tools::particle

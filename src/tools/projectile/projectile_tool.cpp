@@ -39,7 +39,7 @@ Projectile::Projectile(window::Form1& form, frame::PointsPanel& panel, frame::To
     : m_form(form), m_panel(panel), m_tool_switch(tool_switch) {}
 
 frame::ToolHooks Projectile::Hooks() {
-    return {.on_entry = [this] { Enter(); }};
+    return {.on_entry = [this] { Enter(); }, .invitation = frame::kPointsInvitation};
 }
 
 void Projectile::Enter() {
@@ -199,6 +199,7 @@ void Projectile::NewProblem() {
     m_problem = {};
     m_dragged = 0;
     m_controls.pic.Canvas().Cls();
+    m_controls.pic.Canvas().Invite(frame::kPointsInvitation);
     m_controls.pic1.Canvas().Cls();
     ShowGraph(false);
     m_panel.ShowNewProblem();
@@ -217,6 +218,7 @@ void Projectile::Take(const Step& step) {
     const auto& outcome = std::get<Outcome>(step);
     if (outcome.problem != m_problem) {
         m_problem = outcome.problem;
+        m_controls.pic.Canvas().Invite({});
         ShowProblem();
     }
     for (const mechanics::projectile::Event& event : outcome.events)

@@ -111,6 +111,9 @@ void DrawTrajectories(Surface& picture, const Graph& graph, int decimals) {
     if (graph.curves.size() > 1)
         for (const GraphCurve& curve : graph.curves)
             NameCurve(picture, frame, graph, curve);
+    picture.AddTip(window::GraphTip{{graph.x_name, frame.left, frame.right, graph.x.low, graph.x.high},
+                                    {{graph.y_name, frame.bottom, frame.top, graph.y.low, graph.y.high}},
+                                    decimals});
     picture.Describe(DescribeTrajectories(graph, decimals));
 }
 

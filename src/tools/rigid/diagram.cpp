@@ -6,13 +6,16 @@ namespace tavrelo::tools::rigid {
 namespace {
 
 void DrawArrow(window::Surface& canvas, const DiagramArrow& arrow) {
+    const drawing::Arrow drawn{.length = arrow.length,
+                               .hour = arrow.hour,
+                               .angle = arrow.angle,
+                               .color = arrow.color,
+                               .width = arrow.width};
     drawing::DrawEng engine;
     engine.MoveTo(canvas, arrow.tail.x, arrow.tail.y, 1);
-    engine.DrawArrow(canvas, {.length = arrow.length,
-                              .hour = arrow.hour,
-                              .angle = arrow.angle,
-                              .color = arrow.color,
-                              .width = arrow.width});
+    engine.DrawArrow(canvas, drawn);
+    if (!arrow.tip.empty())
+        canvas.AddTip(window::ArrowTip{arrow.tail, PlaceOf(drawn, arrow.tail).tip, arrow.tip});
 }
 
 void DrawLine(window::Surface& canvas, const DiagramLine& line) {
@@ -33,6 +36,7 @@ void DrawCouple(window::Surface& canvas, const DiagramCouple& couple) {
     canvas.Arc(couple.center.x, couple.center.y, couple.radius, couple.start, couple.end, couple.head.color);
     canvas.DrawWidth = 1;
     DrawArrow(canvas, couple.head);
+    canvas.AddTip(window::RingTip{couple.center, couple.radius, couple.head.tip});
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "drawing/label_placer.h"
@@ -17,6 +18,7 @@ struct DiagramArrow {
     double length = 0;  // world units
     int width = 1;      // pixels
     text::Color color;
+    std::string tip = {};  // told to who points at it
 };
 
 struct DiagramLine {

@@ -74,12 +74,13 @@ LabelSpot DiagramLayout::AddPoint(Point point, text::Color color) {
     return {point, std::nullopt, kDotRadius};
 }
 
-LabelSpot DiagramLayout::AddForce(Point point, const ArrowSense& sense, text::Color color) {
+LabelSpot DiagramLayout::AddForce(Point point, const ArrowSense& sense, text::Color color,
+                                  const std::string& tip) {
     const Point along = Toward(sense.hour, sense.angle);
     const Point step = Times(along, kArrowLength * DrawEng::kPixPerUnit);
     const Shaft straight = sense.leaves ? Shaft{point, Plus(point, step)} : Shaft{Minus(point, step), point};
     const Shaft shaft = Beside(straight);
-    m_diagram.forces.push_back({shaft.tail, sense.hour, sense.angle, kArrowLength, kWidth, color});
+    m_diagram.forces.push_back({shaft.tail, sense.hour, sense.angle, kArrowLength, kWidth, color, tip});
     m_shafts.push_back(shaft);
     m_placer.AddLine(shaft.tail, shaft.tip);
     AvoidHead(shaft.tip, along);
@@ -177,7 +178,8 @@ double DiagramLayout::HeadOfCouple(Point point, double sense) const {
     return best;
 }
 
-LabelSpot DiagramLayout::AddCouple(Point point, bool is_counterclockwise, text::Color color) {
+LabelSpot DiagramLayout::AddCouple(Point point, bool is_counterclockwise, text::Color color,
+                                   const std::string& tip) {
     const double sense = is_counterclockwise ? 1 : -1;
     const double outer = OuterRadius(point);
     const double radius = outer == 0 ? kCoupleRadius : outer + kCoupleStep;
@@ -188,7 +190,7 @@ LabelSpot DiagramLayout::AddCouple(Point point, bool is_counterclockwise, text::
     const double tangent = end + sense * 90;
     const numeric::ClockReading clock = numeric::ClockOf(CosD(tangent), SinD(tangent));
     const DiagramArrow head = {base,   clock.hour, clock.angle, kHeadLength / DrawEng::kPixPerUnit,
-                               kWidth, color};
+                               kWidth, color,      tip};
     m_diagram.couples.push_back({point, radius, low, high, head});
     AvoidArc(m_diagram.couples.back());
     AvoidHead(Plus(base, Times(Toward(tangent), kHeadLength)), Toward(tangent));

@@ -49,11 +49,13 @@ class DiagramLayout {
     /// The dot of a point; returns where its letter belongs.
     LabelSpot AddPoint(window::Point point, text::Color color);
     /// The arrow of a force, moved sideways where it would cover one that stands there already; returns where
-    /// its label belongs.
-    LabelSpot AddForce(window::Point point, const ArrowSense& sense, text::Color color);
+    /// its label belongs. Who points at it is told `tip`.
+    LabelSpot AddForce(window::Point point, const ArrowSense& sense, text::Color color,
+                       const std::string& tip = {});
     /// The round arrow of a couple, outside of those that stand there already, its head off the lines that
     /// are known; returns where its label belongs.
-    LabelSpot AddCouple(window::Point point, bool is_counterclockwise, text::Color color);
+    LabelSpot AddCouple(window::Point point, bool is_counterclockwise, text::Color color,
+                        const std::string& tip = {});
     /// Labels find their places in the order in which they were added.
     void AddLabel(WantedLabel label) { m_labels.push_back(std::move(label)); }
 

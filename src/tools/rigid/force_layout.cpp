@@ -6,11 +6,14 @@
 #include <utility>
 
 #include "drawing/force_color.h"
+#include "drawing/force_words.h"
+#include "drawing/words.h"
 #include "notation/clock_direction.h"
 #include "numeric/angles.h"
 #include "numeric/compare.h"
 #include "text/number_text.h"
 #include "text/symbols.h"
+#include "tools/rigid/describe.h"
 
 namespace tavrelo::tools::rigid {
 namespace {
@@ -39,6 +42,7 @@ struct SeenForce {
     const BodyForce& row;
     const ForceLook& look;
     Point place;
+    std::string tip;
 };
 
 /// The arrow along one axis of a force that is drawn by its components; its label carries no sign, so the
@@ -97,6 +101,14 @@ std::string LabelOf(const Couple& couple, int decimals) {
                             : text::SymbolMarkup(1, couple.symbol, decimals);
 }
 
+/// Name, size, direction and couple of a row, below them the components.
+std::string TipOf(const RigidScene& scene, std::size_t row) {
+    const std::string words = drawing::AsSentence(DescribeBodyForce(scene, row));
+    const std::optional<notation::Force>& force = scene.problem.forces[row].force;
+    const std::string components = force ? drawing::ComponentsWords(*force, scene.decimals) : std::string();
+    return components.empty() ? words : words + "\n" + drawing::AsSentence(components);
+}
+
 std::vector<SeenForce> ForcesInView(const RigidScene& scene, const PointPlaces& places) {
     std::vector<SeenForce> seen;
     const std::size_t count = std::min(scene.problem.forces.size(), scene.view.looks.size());
@@ -104,7 +116,7 @@ std::vector<SeenForce> ForcesInView(const RigidScene& scene, const PointPlaces& 
         const BodyForce& row = scene.problem.forces[i];
         const std::optional<Point> place = places.Find(row.point);
         if (place && scene.view.IsShown(row.body))
-            seen.push_back({row, scene.view.looks[i], *place});
+            seen.push_back({row, scene.view.looks[i], *place, TipOf(scene, i)});
     }
     return seen;
 }
@@ -115,14 +127,15 @@ RowLabels AddForce(DiagramLayout& layout, const SeenForce& force, int decimals) 
     RowLabels labels;
     if (force.row.force)
         for (const ForceArrow& arrow : ArrowsOf(*force.row.force, force.look, decimals))
-            labels.push_back(
-                {arrow.label, layout.AddForce(force.place, arrow.sense, arrow.color), arrow.color});
+            labels.push_back({arrow.label, layout.AddForce(force.place, arrow.sense, arrow.color, force.tip),
+                              arrow.color});
     return labels;
 }
 
-WantedLabel AddCouple(DiagramLayout& layout, Point place, const Couple& couple, int decimals) {
+WantedLabel AddCouple(DiagramLayout& layout, const SeenForce& row, const Couple& couple, int decimals) {
     const Color color = couple.IsKnown() ? drawing::kGivenColor : drawing::kUnknownColor;
-    return {LabelOf(couple, decimals), layout.AddCouple(place, IsCounterclockwise(couple), color), color};
+    return {LabelOf(couple, decimals),
+            layout.AddCouple(row.place, IsCounterclockwise(couple), color, row.tip), color};
 }
 
 }  // namespace
@@ -135,7 +148,7 @@ void AddForces(DiagramLayout& layout, const RigidScene& scene, const PointPlaces
     // A couple turns its head away from the arrows of all rows.
     for (std::size_t i = 0; i < seen.size(); ++i)
         if (const std::optional<Couple>& couple = seen[i].row.couple)
-            labels[i].push_back(AddCouple(layout, seen[i].place, *couple, scene.decimals));
+            labels[i].push_back(AddCouple(layout, seen[i], *couple, scene.decimals));
     for (const RowLabels& of_row : labels)
         for (const WantedLabel& label : of_row)
             layout.AddLabel(label);

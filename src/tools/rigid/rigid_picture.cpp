@@ -37,6 +37,8 @@ void RedrawAll(window::Surface& canvas, const RigidScene& scene) {
     canvas.Cls();
     Draw(canvas, DiagramOf(scene, SizeOf(canvas)));
     canvas.Describe(DescribeScene(scene));
+    if (scene.problem.structure.points.empty())
+        canvas.Invite("Escribe un vector de separación y acéptalo; luego \"Actualizar\" traza los puntos.");
 }
 
 void DrawOver(window::Surface& canvas, const mechanics::rigid::PointTable& points,

@@ -153,7 +153,7 @@ TEST(DrawEng, AGraphFillsItsFrame) {
     Recorder surface(397, 385);
     const std::vector<double> xs = {-2, -1, 0, 1, 2};
     const std::vector<double> ys = {3, 0, -1, 0, 3};
-    DrawEng().DrawGraph(surface, xs, ys, kRed, 3);
+    DrawEng().DrawGraph(surface, {xs, ys}, kRed, 3);
     const auto lines = All<window::LineOp>(surface);
     ASSERT_EQ(lines.size(), 2u + 4u);
     const auto frame = All<window::BoxOp>(surface).at(0);
@@ -165,7 +165,8 @@ TEST(DrawEng, AGraphFillsItsFrame) {
 
 TEST(DrawEng, AConstantLiesInTheMiddleOfTheFrame) {
     Recorder surface(397, 385);
-    DrawEng().DrawGraph(surface, std::vector<double>{1, 2}, std::vector<double>{5, 5}, kRed, 3);
+    const std::vector<double> xs = {1, 2}, ys = {5, 5};
+    DrawEng().DrawGraph(surface, {xs, ys}, kRed, 3);
     const auto frame = All<window::BoxOp>(surface).at(0);
     EXPECT_NEAR(All<window::LineOp>(surface).at(0).y1, (frame.y1 + frame.y2) / 2, 1e-9);
 }
