@@ -8,18 +8,19 @@
 #include <algorithm>
 #include <cmath>
 
-#include "qt/accessible_names.h"
 #include "qt/bindings.h"
 #include "qt/canvas.h"
 #include "qt/picture_menu.h"
 #include "qt/rich_text_view.h"
+#include "qt/text.h"
+#include "window/control_names.h"
 
 namespace tavrelo::qt {
 
 FreeWindow::FreeWindow(const window::Control& source, const ViewContext& context)
     : QWidget(nullptr, Qt::Window), m_context(context) {
     constexpr double kFirstShare = 0.6;
-    const QString name = AccessibleName(source);
+    const QString name = ToQString(window::AccessibleName(context.form, source));
     setWindowTitle(name + QStringLiteral(" – Tavrelo"));
     setAccessibleName(name);
     resize((QSizeF(screen()->availableSize()) * kFirstShare).toSize());

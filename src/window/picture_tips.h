@@ -27,8 +27,10 @@ struct RingTip {
 /// A quantity along one side of a graph: its values at two pixels, and in between by a straight line.
 struct TipScale {
     std::string name;
-    double first_pixel, last_pixel;
-    double first_value, last_value;
+    double first_pixel = 0;
+    double last_pixel = 0;
+    double first_value = 0;
+    double last_value = 0;
 
     double ValueAt(double pixel) const;
 };
@@ -37,7 +39,7 @@ struct TipScale {
 struct GraphTip {
     TipScale across;
     std::vector<TipScale> upward;  // not empty; all between the same pixels
-    int decimals;
+    int decimals = 0;
     std::string note = {};  // told behind the values; may be empty
 };
 

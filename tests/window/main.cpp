@@ -24,9 +24,9 @@ int main(int argc, char* argv[]) {
     tavrelo::qt::SetUpApplication(application);
     int failed = 0;
     for (const auto run :
-         {Run<ZoomTest>, Run<ScreenTest>, Run<LookTest>, Run<FreeWindowTest>, Run<FocusTest>, Run<KeyboardTest>,
-          Run<TypingTest>, Run<RichTextTest>, Run<BoxesTest>, Run<ChangesTest>, Run<PictureTest>,
-          Run<PrintingTest>, Run<ClosingTest>, Run<AccessibleTest>, Run<LayoutTest>})
+         {Run<ZoomTest>, Run<ScreenTest>, Run<LookTest>, Run<FreeWindowTest>, Run<FocusTest>,
+          Run<KeyboardTest>, Run<TypingTest>, Run<RichTextTest>, Run<BoxesTest>, Run<ChangesTest>,
+          Run<PictureTest>, Run<PrintingTest>, Run<ClosingTest>, Run<AccessibleTest>, Run<LayoutTest>})
         failed += run(argc, argv);
     return failed == 0 ? 0 : 1;
 }

@@ -8,6 +8,8 @@
 namespace tavrelo::tools::calculator {
 namespace {
 
+constexpr int kQuadraticRoutine = 3;
+constexpr int kLineFitRoutine = 23;
 constexpr int kParticleRoutine = 38;
 constexpr int kVectorSumRoutine = 28;
 constexpr int kPlaneForcesRoutine = 36;
@@ -47,6 +49,50 @@ TEST_F(CalculatorTest, ThePointerIsGivenBackAfterAFailure) {
     Run(kVectorSumRoutine, {""});
     EXPECT_EQ(world.last_message, "Falló la rutina. Revisa los argumentos.");
     EXPECT_EQ(form.Pointer(), window::kPointerCross);
+}
+
+/// A routine refuses a single cell of a row that holds more: most often the others were not selected.
+TEST_F(CalculatorTest, TheSizeOfTheSelectionStandsOutAfterARefusal) {
+    const auto& size = form.Get<window::Label>("lblRC");
+    gd.SetCell(1, 1, "1");
+    gd.SetCell(1, 2, "-3");
+    gd.SetCell(1, 3, "2");
+    gd.UserPress(1, 1);
+    form.publics.ProcNumber = kQuadraticRoutine;
+    form.Get<window::Button>("cmdCalculate").UserClick();
+    EXPECT_NE(world.last_message, "");
+    EXPECT_TRUE(size.CallsAttention());
+    gd.UserDrag({1, 1, 1, 3});
+    EXPECT_FALSE(size.CallsAttention());
+}
+
+TEST_F(CalculatorTest, ASingleCellOfAnEmptyRowDoesNotStandOut) {
+    gd.SetCell(1, 1, "1");
+    gd.UserPress(1, 1);
+    form.publics.ProcNumber = kQuadraticRoutine;
+    form.Get<window::Button>("cmdCalculate").UserClick();
+    EXPECT_NE(world.last_message, "");
+    EXPECT_FALSE(form.Get<window::Label>("lblRC").CallsAttention());
+}
+
+TEST_F(CalculatorTest, TheInvitationGoesWithTheFirstDatum) {
+    pic.Canvas().Invite(calculator.Hooks().invitation);
+    gd.UserPress(1, 1);
+    EXPECT_NE(pic.Canvas().Invitation(), "");
+    gd.UserKeyPress(U'7');
+    EXPECT_EQ(pic.Canvas().Invitation(), "");
+}
+
+/// y = 2x through (0, 0), (1, 2) and (2, 4) leaves none outside; the fit of (0, 0), (1, 3) and (2, 0), which
+/// is y = 1, all three.
+TEST_F(CalculatorTest, AFitTellsHowManyPointsLieOutsideItsFrame) {
+    const window::Point middle{
+        drawing::DrawEng::kGraphLeft + drawing::DrawEng::kGraphSize / 2,
+        pic.Canvas().FromBottom(drawing::DrawEng::kGraphBottom + drawing::DrawEng::kGraphSize / 2)};
+    Run(kLineFitRoutine, {"0", "0", "1", "2", "2", "4"});
+    EXPECT_EQ(pic.Canvas().TipAt(middle).find("fuera"), std::string::npos);
+    Run(kLineFitRoutine, {"0", "0", "1", "3", "2", "0"});
+    EXPECT_NE(pic.Canvas().TipAt(middle).find("3 puntos quedan fuera del recuadro."), std::string::npos);
 }
 
 /// Ends of all arrows, the axes left out, on a picture.

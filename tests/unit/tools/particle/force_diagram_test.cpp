@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <random>
 #include <variant>
 
+#include "drawing/draw_engine.h"
 #include "notation/force_parser.h"
 #include "text/font.h"
 #include "text/number_text.h"
@@ -79,7 +81,7 @@ Seen Drawn(const Texts& texts, double rotation = 0) {
     }
     forces.PlaceAll(slots, rotation);
     window::Recorder canvas(kWidth, kHeight);
-    DrawForces(canvas, forces, rotation);
+    DrawForces(canvas, forces, rotation, kDecimals);
     return Seen(canvas);
 }
 
@@ -178,6 +180,28 @@ TEST(ForceDiagram, MovesNoLabelThatStandsFree) {
 TEST(ForceDiagram, DrawsEachArrowAndThenItsLabel) {
     EXPECT_EQ(Drawn({"h10", "h20", "v-5"}).order, "shtshtsht");
     EXPECT_EQ(Drawn({}).order, "");
+}
+
+/// 100 at 30 degrees, from the middle: 50 along y and 86.603 along x. The arrow is the longest, 5.5 units
+/// long.
+TEST(ForceDiagram, AnArrowTellsItsForce) {
+    ForcesInView forces;
+    AxisSlots slots;
+    forces.Add(std::get<notation::ForceRecord>(notation::ParseForce("p30x,100", kDecimals)), {}, {});
+    forces.PlaceAll(slots, 0);
+    window::Recorder canvas(kWidth, kHeight);
+    DrawForces(canvas, forces, 0, kDecimals);
+    const double along = 3 * drawing::DrawEng::kPixPerUnit;
+    const window::Point on_arrow{kWidth / 2 + along * std::cos(std::numbers::pi / 6),
+                                 kHeight / 2 - along * std::sin(std::numbers::pi / 6)};
+    EXPECT_EQ(canvas.TipAt(on_arrow), "100 a 30 grados\nComponentes x 86.603, y 50");
+    EXPECT_EQ(canvas.TipAt({kWidth / 2 - along, kHeight / 2 + along}), "");
+}
+
+TEST(ForceDiagram, AnEmptyBoardInvites) {
+    window::Recorder canvas(kWidth, kHeight);
+    DrawForces(canvas, {}, 0, kDecimals);
+    EXPECT_NE(canvas.Invitation(), "");
 }
 
 }  // namespace
