@@ -56,7 +56,8 @@ TEST(RKCK, OnGrowthIsItsPolynomialOfSixthDegree) {
     // -277/1228800 h^5 + 277/1638400 h^6.
     const CashKarpStep step = RKCK(kGrowth, 1, {1, 0}, {1, 0}, 3, 0.5);
     EXPECT_NEAR(step.y[0], 1.6487174479166666, 1e-15);
-    EXPECT_NEAR(step.error[0], -4.402796427408854e-06, 1e-17);
+    // Slopes of about 1.5 are known to 2e-16, and the weights of the error add up to 0.12 in size.
+    EXPECT_NEAR(step.error[0], -4.402796427408854e-06, 3e-17);
 }
 
 TEST(RKCK, OnTheOscillatorIsTheSamePolynomialOfTheImaginaryUnit) {
