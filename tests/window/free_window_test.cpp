@@ -1,6 +1,7 @@
 #include "qt/free_window.h"
 
 #include <QMenu>
+#include <QTextBlock>
 #include <QTextEdit>
 
 #include "test_window.h"
