@@ -59,12 +59,13 @@ class RichTextBinding : public Binding {
         const text::RichText added = Piece(m_box.Content(), start, std::string::npos - start);
         if (added.PlainText().empty() || !m_box.IsShown())
             return;
-        const QString added_text = ToQString(text::ReplaceAll(added.PlainText(), "\r\n", "\n"));
-        const int place = static_cast<int>(m_view.toPlainText().size() - added_text.size());
-        QAccessibleTextInsertEvent event(&m_view, place, added_text);
+        const std::string spoken = text::SpokenText(added);
+        const QString added_text = ToQString(spoken);
+        const auto place = std::max<qsizetype>(m_view.Spoken().size() - added_text.size(), 0);
+        QAccessibleTextInsertEvent event(&m_view, static_cast<int>(place), added_text);
         QAccessible::updateAccessibility(&event);
         if (std::ranges::find(kReports, m_box.Name()) != std::end(kReports))
-            Form().Announce(text::SpokenText(added));
+            Form().Announce(spoken);
     }
 
     window::RichTextBox& m_box;

@@ -367,11 +367,11 @@ constexpr ControlName kNames[] = {
     {"fraEstp", "Equilibrio de la partícula"},
     {"tabCalc", "Respuestas"},
     {"tabStat", "Equilibrio del cuerpo rígido"},
-    In(A::Projectile, "tabMrua", "Tiro parabólico"),
-    {"tabMrua", "Movimiento uniformemente acelerado"},
+    In(A::Projectile, "tabMrua", "Procedimientos del tiro"),
+    {"tabMrua", "Procedimientos del movimiento"},
     {"fraTable", "Datos de los puntos"},
     {"fraKinem", "Cinemática plana"},
-    {"fraHelp", "Ayuda contextual"},
+    {"fraHelp", "Ayuda del programa"},
 
     // In picArgs
     In(A::Motion, "picArgs1", "Datos que pide el procedimiento"),

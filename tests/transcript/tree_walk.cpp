@@ -15,12 +15,14 @@ using Role = QAccessible::Role;
 constexpr Role kHolders[] = {QAccessible::Window, QAccessible::Dialog,      QAccessible::Grouping,
                              QAccessible::Pane,   QAccessible::LayeredPane, QAccessible::Notification};
 /// What is read where it stands.
-constexpr Role kTexts[] = {QAccessible::StaticText, QAccessible::ColumnHeader, QAccessible::RowHeader};
+constexpr Role kTexts[] = {QAccessible::StaticText, QAccessible::Graphic, QAccessible::ColumnHeader,
+                           QAccessible::RowHeader};
 /// What is told apart by the one that it belongs to.
 constexpr Role kParts[] = {QAccessible::Cell, QAccessible::ColumnHeader, QAccessible::RowHeader,
                            QAccessible::ListItem};
-/// What the toolkit calls by the one of its parts that is in front.
-constexpr Role kFronted[] = {QAccessible::PageTabList};
+/// What the toolkit calls by the one of its parts that is in front, and windows, which nobody takes for one
+/// of the controls in them.
+constexpr Role kApart[] = {QAccessible::PageTabList, QAccessible::Window, QAccessible::Dialog};
 
 template <std::size_t kCount>
 bool IsOneOf(const Role (&roles)[kCount], Role role) {
@@ -36,6 +38,14 @@ bool IsFiller(const QAccessibleInterface& object) {
     return is_inner || is_bare || object.role() == QAccessible::ScrollBar;
 }
 
+/// The toolkit keeps the former rows of a list while no reader runs, and does not say that a list is hidden.
+bool IsInView(const QAccessibleInterface& object) {
+    if (!object.isValid() || object.state().invisible || object.state().offscreen)
+        return false;
+    const auto* widget = qobject_cast<const QWidget*>(object.object());
+    return !widget || widget->isVisible();
+}
+
 bool TakesTab(const QAccessibleInterface& object) {
     const auto* widget = qobject_cast<const QWidget*>(object.object());
     return widget && (widget->focusPolicy() & Qt::TabFocus);
@@ -49,13 +59,13 @@ void TreeWalk::Visit(QWidget& window) {
 }
 
 void TreeWalk::Visit(QAccessibleInterface& object, bool in_reach) {
-    const QAccessible::State state = object.state();
-    if (state.invisible || state.offscreen)
+    if (!IsInView(object))
         return;
     const bool now_in_reach = in_reach || TakesTab(object);
     if (!IsFiller(object))
         Judge(object, now_in_reach);
-    VisitChildren(object, now_in_reach);
+    // Who goes to a control gets at its parts, but not at all that stands on a panel.
+    VisitChildren(object, now_in_reach && !IsOneOf(kHolders, object.role()));
 }
 
 void TreeWalk::VisitChildren(QAccessibleInterface& object, bool in_reach) {
@@ -85,7 +95,7 @@ void TreeWalk::JudgeName(const QAccessibleInterface& object) {
     if (name.trimmed().isEmpty())
         return Complain(object, "has no name");
     ++m_findings.named;
-    const bool is_apart = IsOneOf(kParts, object.role()) || IsOneOf(kFronted, object.role());
+    const bool is_apart = IsOneOf(kParts, object.role()) || IsOneOf(kApart, object.role());
     if (!is_apart && !m_names.insert(name).second)
         Complain(object, "is called like another one");
 }
