@@ -47,7 +47,9 @@ struct ShownText {
 /// What is painted behind a widget: its own background or that of the panel it stands on, from a pixel of it.
 text::Color GroundOf(const QWidget& widget) {
     for (const QWidget* panel = &widget; panel; panel = panel->parentWidget())
-        if (panel->autoFillBackground() || panel->isWindow())
+        if (panel != &widget && panel->findChild<QTabBar*>({}, Qt::FindDirectChildrenOnly))
+            return ToColor(panel->palette().color(QPalette::AlternateBase));
+        else if (panel->autoFillBackground() || panel->isWindow())
             return ToColor(panel->palette().color(panel->backgroundRole()));
     return text::kWhite;
 }

@@ -18,6 +18,8 @@ int Run(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    // However the program is started, its desktop has the screens that the tests go through.
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TAVRELO_SCREENS);
     QStandardPaths::setTestModeEnabled(true);
     tavrelo::qt::Application application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
