@@ -138,7 +138,7 @@ class Speaker {
     }
     /// A sign that stays as it stands, with the blanks that it has.
     void Copy(const SpokenToken& token) {
-        if (token.blanks == 0)
+        if (token.blanks == 0 || IsIn(kPause, token.text.front()))
             m_glued = true;
         Say(ToUtf8(token.text));
         const SpokenToken* next = Next();
@@ -265,7 +265,8 @@ class Speaker {
             if (k > 0 && !digits)
                 spoken += ' ';
             const std::string_view greek = GreekName(script[k]);
-            spoken += greek.empty() ? ToUtf8(script[k]) : std::string(greek);
+            const std::string_view name = greek.empty() ? SignName(script[k]) : greek;
+            spoken += name.empty() ? ToUtf8(script[k]) : std::string(name);
         }
         return spoken;
     }
@@ -301,7 +302,8 @@ class Speaker {
             return SpeakCaret();
         if (sign == U'?' && Previous() && Previous()->IsSign(U'='))
             return Say("incógnita");
-        if (sign == U'•' && m_at == 0)
+        // A bullet, or the mark in front of what is typed.
+        if (m_at == 0 && (sign == U'•' || sign == U'>'))
             return;
         if (SignName(sign).empty() || StandsInProse(token))
             return Copy(token);
@@ -314,12 +316,28 @@ class Speaker {
             return Say("cruz");
         if (of_vectors && sign == U'•')
             return Say("punto");
+        if (const std::string_view name = PairName(sign); !name.empty()) {
+            ++m_at;
+            return Say(name);
+        }
         const bool is_minus = sign == U'-' || sign == U'−';
         const SpokenToken* previous = Previous();
         if (is_minus && previous && previous->kind == TokenKind::Sign &&
             IsIn(U"+-−±×·*/^", previous->text.front()))
             return Say("negativo");
         Say(SignName(sign));
+    }
+
+    /// A comparison that is typed with two signs.
+    std::string_view PairName(char32_t sign) const {
+        constexpr struct {
+            char32_t first, second, joined;
+        } kPairs[] = {{U'<', U'=', U'≤'}, {U'>', U'=', U'≥'}, {U'<', U'>', U'≠'}};
+        const SpokenToken* next = Next();
+        for (const auto& [first, second, joined] : kPairs)
+            if (sign == first && next && next->blanks == 0 && next->IsSign(second))
+                return SignName(joined);
+        return {};
     }
 
     void SpeakCaret() {

@@ -59,6 +59,8 @@ std::string ResultMark(const DrawnVector& vector) {
 template <class Telling>
 std::string ListOf(const std::vector<DrawnVector>& vectors, const drawing::Noun& noun, std::string_view where,
                    Telling tell) {
+    if (vectors.empty())
+        return drawing::AsSentence(drawing::Counted(0, noun)) + std::string(where) + ".";
     std::vector<std::string> told;
     for (const DrawnVector& vector : vectors)
         told.push_back(drawing::LabelWords(vector.label) + tell(vector) + ResultMark(vector));

@@ -81,6 +81,7 @@ TEST(SpokenText, ReadsTheEquationsOfProjectiles) {
 
 TEST(SpokenText, ReadsWhatTheCalculatorReports) {
     constexpr Reading kReadings[] = {
+        {"A!n x¡n + A!n!-!1 x", "A sub n x elevado a n más A sub n menos 1 x"},
         {"| 2 ;-1 3 |", "renglón 2, menos 1, 3"},
         {";D = ;-53", "delta igual a menos 53"},
         {"3 x!1 + ;-1 x!2 = 12", "3 x sub 1 más negativo 1 x sub 2 igual a 12"},
@@ -113,6 +114,8 @@ TEST(SpokenText, ReadsTypedFormulas) {
         {"sen(30)", "seno de 30"},
         {"2*COS(x+1)", "2 por coseno de abre paréntesis x más 1 cierra paréntesis"},
         {"1° y 2°", "1 grado y 2 grados"},
+        {"x<=2, y>=3, z<>4", "x menor o igual que 2, y mayor o igual que 3, z distinto de 4"},
+        {"> f(x), {1 , 2}", "f de x, abre llave 1, 2 cierra llave"},
         {"≤ 5 ⇒ x ≈ 2", "menor o igual que 5 implica x aproximadamente igual a 2"},
     };
     for (const Reading& each : readings)

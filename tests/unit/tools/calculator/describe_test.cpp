@@ -56,6 +56,8 @@ TEST(DescribeVectors, TellThePointsThatTheyLeave) {
               "3, resultado.");
 }
 
+TEST(DescribeVectors, SayThatThereAreNone) { EXPECT_EQ(DescribeAtPoints({}, kDecimals), "Ninguna fuerza."); }
+
 TEST(DescribeGraph, TellsItsFormulaAndItsCourse) {
     const std::vector<double> xs = {0, 1, 2, 3}, ys = {-3, -2, 1, 6};
     EXPECT_EQ(DescribeGraph("x^2-3", {"x", "y", xs, ys}, kDecimals),
