@@ -24,7 +24,7 @@ constexpr Twins kTwins[] = {
     {kHoverFace, 0xff3f4955},  {kPressedFace, 0xff28527f},  {kDisabledFace, 0xff2a2e33},
     {kEdge, 0xff74808c},       {kSoftEdge, 0xff454d56},     {kHeading, 0xff30363d},
     {kAccent, 0xff5ea6ee},     {kChoice, 0xff245486},       {kFadedChoice, 0xff33475c},
-    {kHeldSlider, 0xff9aa6b2}, {kDisabledText, 0xff8f99a3}, {kText, 0xffe8ecf0},
+    {kHeldSlider, 0xff9aa6b2}, {kDisabledText, 0xffa0aab4}, {kText, 0xffe8ecf0},
     {kPaper, 0xff1c2024},      {kTip, 0xff3a3b2c},          {kHint, 0xffa9b3bd},
 };
 

@@ -94,10 +94,9 @@ class TabStripBinding : public Binding {
   protected:
     void ShowState() override {
         Binding::ShowState();
-        // Tabs behind the front one are the darkest of a light look, the front one the lightest of a dark
-        // one.
+        // A tab behind is the darkest ground of a light look and the lightest of a dark one.
         const QPalette look = QApplication::palette();
-        const QColor behind = ShadeOf(IsDark(look) ? kPage : kHeading, look);
+        const QColor behind = ShadeOf(kHeading, look);
         const text::Color fore = m_strip.ForeColor();
         const bool is_plain = fore == text::kBlack && IsDark(look);
         const text::Color shown = is_plain ? ToColor(look.color(QPalette::WindowText))

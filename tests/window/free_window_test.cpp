@@ -126,7 +126,7 @@ void FreeWindowTest::TheirMenusAreThoseOfTheSource() {
     QCOMPARE(captions_of(window.view.OpenFree(*window.Form().Find("pic"))),
              QStringList({QStringLiteral("Copiar imagen"), QStringLiteral("Guardar imagen...")}));
     qt::FreeWindow& report = window.view.OpenFree(*window.Form().Find("rtbSolve"));
-    QCOMPARE(captions_of(*report.findChild<QTextEdit*>()),
+    QCOMPARE(captions_of(*report.findChild<QTextEdit*>()->viewport()),
              QStringList({QStringLiteral("Copiar"), QStringLiteral("Seleccionar todo")}));
 }
 
