@@ -13,6 +13,14 @@ constexpr double kLevel = 1e-9;          // part of the extent that counts as no
 
 using Values = std::span<const double>;
 
+/// The largest number that counts as no change, and as zero, beside the others.
+double LevelOf(Values ys) {
+    double largest = 0;
+    for (const double y : ys)
+        largest = std::max(largest, std::abs(y));
+    return kLevel * largest;
+}
+
 /// A change of sign where the curve grows towards both sides of the gap is a jump over zero.
 bool IsJump(Values ys, std::size_t k) {
     const bool grows_before = k > 0 && std::abs(ys[k]) > std::abs(ys[k - 1]);
@@ -57,13 +65,17 @@ std::string StretchWords(const ToldCurve& curve, int decimals) {
 }  // namespace
 
 std::vector<double> ZerosOf(Values xs, Values ys) {
+    // What arithmetic leaves of a zero counts as one.
+    const double level = LevelOf(ys);
+    const auto is_zero = [&](std::size_t k) { return std::abs(ys[k]) <= level; };
     std::vector<double> zeros;
     for (std::size_t k = 0; k < ys.size(); ++k) {
-        const bool begins = k == 0 || ys[k - 1] != 0;
-        if (ys[k] == 0 && begins)
-            zeros.push_back(xs[k]);
-        const bool crosses =
-            k + 1 < ys.size() && ((ys[k] < 0 && ys[k + 1] > 0) || (ys[k] > 0 && ys[k + 1] < 0));
+        if (is_zero(k)) {
+            if (k == 0 || !is_zero(k - 1))
+                zeros.push_back(xs[k]);
+            continue;
+        }
+        const bool crosses = k + 1 < ys.size() && !is_zero(k + 1) && (ys[k] < 0) != (ys[k + 1] < 0);
         if (crosses && !IsJump(ys, k))
             zeros.push_back(xs[k] + (xs[k + 1] - xs[k]) * (ys[k] / (ys[k] - ys[k + 1])));
     }
@@ -74,8 +86,7 @@ std::vector<Stretch> StretchesOf(Values xs, Values ys) {
     std::vector<Stretch> stretches;
     if (ys.empty())
         return stretches;
-    const auto [low, high] = std::ranges::minmax(ys);
-    const double level = kLevel * std::max(std::abs(low), std::abs(high));
+    const double level = LevelOf(ys);
     for (std::size_t k = 1; k < ys.size(); ++k) {
         const double change = ys[k] - ys[k - 1];
         const int sense = std::abs(change) <= level ? 0 : change > 0 ? 1 : -1;

@@ -89,6 +89,8 @@ TEST(Zeros, LieWhereTheCurveCrossesAndNotAtAPole) {
     EXPECT_TRUE(ZerosOf(Values{-2, -1, 1, 2}, Values{-0.5, -1, 1, 0.5}).empty());
     EXPECT_EQ(ZerosOf(Values{-2, -1, 2, 3}, Values{-2, -1, 2, 3}), Values{0});
     EXPECT_EQ(ZerosOf(Values{0, 1, 2, 3}, Values{1, 0, 0, 1}), Values{1});
+    // -2 sin(2 t) at pi, as arithmetic leaves it.
+    EXPECT_EQ(ZerosOf(Values{0, 1, 2}, Values{-3, -2, 4.9e-16}), Values{2});
 }
 
 TEST(PathWords, TellBothEndsAndTheExtent) {
