@@ -88,7 +88,7 @@ void CheckSolution(const std::vector<Force>& before, const std::vector<Force>& a
 
 void Draw(const tools::particle::ForcesInView& forces) {
     window::Recorder canvas(kWidth, kHeight);
-    tools::particle::DrawForces(canvas, forces, 0);
+    tools::particle::DrawForces(canvas, forces, 0, kDecimals);
 }
 
 void Solve(tools::particle::ForcesInView forces) {

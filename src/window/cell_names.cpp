@@ -25,12 +25,14 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
-/// A heading as it is said; a bare number goes behind `kind`.
+/// A heading as it is said; a number, "7" or "#7", goes behind `kind`.
 std::string Said(std::string_view heading, std::string_view kind) {
     heading = Trimmed(heading);
     const auto* found = std::ranges::find(kAbbreviations, heading, &Abbreviation::heading);
     if (found != std::end(kAbbreviations))
         return std::string(found->words);
+    if (heading.starts_with('#'))
+        heading.remove_prefix(1);
     const bool is_number = heading.find_first_not_of("0123456789") == std::string_view::npos;
     return is_number && !heading.empty() ? std::string(kind).append(heading) : std::string(heading);
 }

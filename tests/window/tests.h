@@ -178,6 +178,8 @@ class ClosingTest : public QObject {
 class AccessibleTest : public QObject {
     Q_OBJECT
   private slots:
+    void initTestCase();
+    void cleanupTestCase();
     void cleanup();
     void PanelsLabelsAndOrnamentsHaveTheirRoles();
     void NamesFollowToolsAndLabels();

@@ -29,9 +29,10 @@ TEST_F(CellNamesTest, TakeTheHeadingsOfTheirRowAndColumn) {
 TEST_F(CellNamesTest, SayNumbersAndAbbreviationsInFull) {
     Grid& grid = form.Get<Grid>("gd1");
     constexpr GridColumn kColumns[] = {{"#", 300},    {"Cpo.", 400}, {"Pto.", 400}, {"Fuerza[:][/Par]", 900},
-                                       {"Mom.", 900}, {"7", 900}};
+                                       {"Mom.", 900}, {"7", 900},    {"#8", 900}};
     ArrangeColumns(grid, kColumns);
-    const std::string_view kSaid[] = {"Número", "Cuerpo", "Punto", "Fuerza o par", "Momento", "columna 7"};
+    const std::string_view kSaid[] = {"Número",  "Cuerpo",    "Punto",    "Fuerza o par",
+                                      "Momento", "columna 7", "columna 8"};
     for (int col = 0; col < grid.Cols(); ++col)
         EXPECT_EQ(ColumnHeading(grid, col), kSaid[col]);
 }
