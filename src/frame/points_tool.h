@@ -37,7 +37,7 @@ struct PointsView {
 
 /// How to begin with the table.
 inline constexpr std::string_view kPointsInvitation =
-    "Elige la configuración de la tabla y escribe en ella los datos de cada punto.";
+    "Elige la configuración de la tabla y escribe los datos.";
 
 /// The help buttons of the panel, by their index.
 enum class PointsHelp { Configuration, Row, Entry };

@@ -38,7 +38,7 @@ void RedrawAll(window::Surface& canvas, const RigidScene& scene) {
     Draw(canvas, DiagramOf(scene, SizeOf(canvas)));
     canvas.Describe(DescribeScene(scene));
     if (scene.problem.structure.points.empty())
-        canvas.Invite("Escribe un vector de separación y acéptalo; luego \"Actualizar\" traza los puntos.");
+        canvas.Invite("Escribe una cadena de puntos y su vector de separación.");
 }
 
 void DrawOver(window::Surface& canvas, const mechanics::rigid::PointTable& points,
