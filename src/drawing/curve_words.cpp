@@ -101,9 +101,7 @@ std::vector<Stretch> StretchesOf(Values xs, Values ys) {
         const double step =
             (xs.back() - xs.front()) / static_cast<double>(std::max<std::size_t>(xs.size() - 1, 1));
         const bool is_summit = each.sense == 0 && stretches.size() > 1 && each.to - each.from < 1.5 * step;
-        if (is_summit && !merged.empty())
-            merged.back().to = each.to;
-        else if (!merged.empty() && merged.back().sense == each.sense)
+        if (!merged.empty() && (is_summit || merged.back().sense == each.sense))
             merged.back().to = each.to;
         else if (!is_summit)
             merged.push_back(each);

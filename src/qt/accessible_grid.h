@@ -16,6 +16,7 @@ struct TablePlace {
     int col = 0;
 
     bool IsHeading() const { return row == 0 || col == 0; }
+    // NOLINTNEXTLINE(modernize-use-nullptr): what the compiler makes of it compares with 0.
     friend auto operator<=>(const TablePlace&, const TablePlace&) = default;
 };
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "qt/later.h"
+
 namespace tavrelo::qt {
 
 Announcer::Announcer(QWidget& window) : QWidget(&window) { hide(); }
@@ -15,8 +17,7 @@ void Announcer::Say(const QString& sentence) {
         return;
     m_waiting << sentence.trimmed();
     if (m_waiting.size() == 1)
-        QMetaObject::invokeMethod(
-            this, [this] { SayWaiting(); }, Qt::QueuedConnection);
+        Later(*this, [this] { SayWaiting(); });
 }
 
 void Announcer::SayWaiting() {

@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 
+#include "qt/later.h"
 #include "window/reading_order.h"
 
 namespace tavrelo::qt {
@@ -169,8 +170,7 @@ void FocusGuide::RestIfLost() {
 
 void FocusGuide::RestSoon(const window::Control& lost) {
     m_lost = &lost;
-    QMetaObject::invokeMethod(
-        this, [this] { RestIfLost(); }, Qt::QueuedConnection);
+    Later(*this, [this] { RestIfLost(); });
 }
 
 void FocusGuide::GoToNextPanel(int step) {

@@ -12,6 +12,7 @@
 
 #include "qt/flat_parts.h"
 #include "qt/keys.h"
+#include "qt/later.h"
 #include "qt/text.h"
 #include "window/cell_names.h"
 #include "window/cell_typing.h"
@@ -264,13 +265,12 @@ void GridView::focusInEvent(QFocusEvent*) {
     // The table's own handler would choose a cell that the model does not know of.
     viewport()->update();
     // The toolkit tells of the table itself behind this; the cell is to have the last word.
-    QMetaObject::invokeMethod(
-        this, [this] { TellCurrentCell(); }, Qt::QueuedConnection);
+    Later(*this, [this] { TellCurrentCell(); });
 }
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     // The table's own handler would tell of the cell too, by a count of its own.
-    QAbstractItemView::currentChanged(current, previous);
+    QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
     TellCurrentCell();
 }
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "qt/bindings.h"
+#include "qt/later.h"
 #include "qt/picture_view.h"
 #include "qt/text.h"
 
@@ -32,8 +33,7 @@ class PictureBinding : public Binding {
     void DescribeLate() {
         if (std::exchange(m_describes_late, true))
             return;
-        QMetaObject::invokeMethod(
-            this, [this] { Describe(); }, Qt::QueuedConnection);
+        Later(*this, [this] { Describe(); });
     }
 
     void Describe() {

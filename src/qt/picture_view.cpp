@@ -13,6 +13,7 @@
 #include "qt/flat_parts.h"
 #include "qt/free_window.h"
 #include "qt/keys.h"
+#include "qt/later.h"
 #include "qt/picture_menu.h"
 #include "qt/pointers.h"
 #include "qt/text.h"
@@ -154,8 +155,7 @@ void PictureView::keyPressEvent(QKeyEvent* event) {
 void PictureView::focusInEvent(QFocusEvent*) {
     update();
     // The widget tells its own focus first.
-    QMetaObject::invokeMethod(
-        this, [this] { TellCurrentCell(); }, Qt::QueuedConnection);
+    Later(*this, [this] { TellCurrentCell(); });
 }
 
 void PictureView::focusOutEvent(QFocusEvent* event) {

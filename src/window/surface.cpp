@@ -90,7 +90,7 @@ void Recorder::Describe(std::string_view sentences) {
     Changed();
 }
 
-void Recorder::AddTip(PictureTip tip) { m_recording.tips.push_back(std::move(tip)); }
+void Recorder::AddTip(const PictureTip& tip) { m_recording.tips.push_back(tip); }
 
 void Recorder::Invite(std::string_view line) {
     if (m_recording.invitation == line)

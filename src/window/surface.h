@@ -81,7 +81,7 @@ class Surface {
     /// The drawing is a page of texts, and they are its words. Ends with the next Cls, too.
     virtual void DescribeByTexts() {}
     /// Keeps what is told to who points at a place of the drawing, until the next Cls.
-    virtual void AddTip(PictureTip /*tip*/) {}
+    virtual void AddTip(const PictureTip& /*tip*/) {}
     /// One line that says how to begin, for a board on which nothing was put yet. It is no part of the
     /// drawing: it is neither copied nor printed, and the next operation takes it away.
     virtual void Invite(std::string_view /*line*/) {}
@@ -136,7 +136,7 @@ class Recorder : public Surface {
     void Draw(DrawOp op) override;
     void Describe(std::string_view sentences) override;
     void DescribeByTexts() override;
-    void AddTip(PictureTip tip) override;
+    void AddTip(const PictureTip& tip) override;
     void Invite(std::string_view line) override;
     void Resize(double width, double height);
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "drawing/draw_engine.h"
@@ -88,7 +87,7 @@ void DrawCurves(window::Surface& surface, const mechanics::kinematics::LineCurve
     }
     LabelEnds(surface, frame, times, "t = ", "t = ", decimals);
     if (!tip.upward.empty())
-        surface.AddTip(std::move(tip));
+        surface.AddTip(tip);
     surface.Describe(DescribeCurves(curves, decimals));
 }
 

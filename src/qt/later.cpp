@@ -1,0 +1,17 @@
+#include "qt/later.h"
+
+#include <QTimer>
+
+namespace tavrelo::qt {
+
+void Later(QObject& context, const std::function<void()>& action) {
+    auto* timer = new QTimer(&context);
+    timer->setSingleShot(true);
+    QObject::connect(timer, &QTimer::timeout, &context, [timer, action] {
+        timer->deleteLater();
+        action();
+    });
+    timer->start(0);
+}
+
+}  // namespace tavrelo::qt
