@@ -19,7 +19,7 @@ constexpr text::Color kFaceColor = text::Rgb(245, 245, 245);
 constexpr int kHourCell = 20;  // side of the square around a numeral, pixels
 
 std::string NameOfHour(int hour) {
-    const std::string name = "Hora " + std::to_string(hour);
+    std::string name = "Hora " + std::to_string(hour);
     switch (hour) {
         case notation::kHourRight:
             return name + ", eje x";
