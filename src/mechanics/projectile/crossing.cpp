@@ -123,7 +123,7 @@ std::optional<double> PathLength(const Flight& flight, double first_time, double
         const double slope = curve.b + 2.0 * curve.a * x;
         return std::sqrt(1.0 + slope * slope);
     };
-    const auto [first, last] = std::minmax(StateAt(flight, first_time).x, StateAt(flight, second_time).x);
+    const auto [first, last] = std::minmax({StateAt(flight, first_time).x, StateAt(flight, second_time).x});
     // At the top the slope changes its sign: the steeper the branches, the sharper is the bend of the element
     // there, over which the rule loses its digits.
     const double top = -flight.trajectory->b / (2.0 * flight.trajectory->a);
