@@ -8,7 +8,7 @@
 namespace tavrelo::tools::calculator {
 namespace {
 
-constexpr int kQuadraticRoutine = 3;
+constexpr int kQuadraticRoutine = 5;
 constexpr int kLineFitRoutine = 23;
 constexpr int kParticleRoutine = 38;
 constexpr int kVectorSumRoutine = 28;
