@@ -31,6 +31,12 @@ bool IsModifier(int key) {
            key == Qt::Key_AltGr;
 }
 
+/// Whether no panel lies over the widget.
+bool IsOnTop(const QWidget& widget) {
+    const QWidget& window = *widget.window();
+    return window.childAt(widget.mapTo(&window, widget.rect().center())) == &widget;
+}
+
 /// Whether the user did something to the widget itself, not only on the way to another one.
 bool IsAct(const QWidget& widget, const QEvent& event) {
     if (event.type() == QEvent::MouseButtonPress)
@@ -171,6 +177,17 @@ void FocusGuide::RestIfLost() {
 void FocusGuide::RestSoon(const window::Control& lost) {
     m_lost = &lost;
     Later(*this, [this] { RestIfLost(); });
+}
+
+std::vector<QAbstractButton*> FocusGuide::ButtonsInView() const {
+    std::vector<QAbstractButton*> buttons;
+    for (const window::Control* control : window::ReadingOrder(m_form)) {
+        const Binding* binding = control->IsShown() ? m_bindings.of_control(*control) : nullptr;
+        auto* button = binding ? qobject_cast<QAbstractButton*>(&binding->Widget()) : nullptr;
+        if (button && button->isActiveWindow() && !button->text().isEmpty() && IsOnTop(*button))
+            buttons.push_back(button);
+    }
+    return buttons;
 }
 
 void FocusGuide::GoToNextPanel(int step) {

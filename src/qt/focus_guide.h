@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QObject>
 #include <deque>
 #include <functional>
+#include <vector>
 
 #include "qt/binding.h"
 #include "qt/form_window.h"
@@ -31,6 +33,9 @@ class FocusGuide : public QObject {
 
     /// Told the last control of the program's window in the order of Tab, when the keys are about to move.
     std::function<void(QWidget&)> OnLastStop;
+
+    /// The buttons, options and checks of the active window that show a caption, in reading order.
+    std::vector<QAbstractButton*> ButtonsInView() const;
 
     /// To the first control of the next panel in view, or the one before.
     void GoToNextPanel(int step);

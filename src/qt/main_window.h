@@ -10,6 +10,7 @@
 #include "qt/focus_guide.h"
 #include "qt/form_window.h"
 #include "qt/free_window.h"
+#include "qt/mnemonics.h"
 #include "qt/zoom_bar.h"
 
 namespace tavrelo::qt {
@@ -102,6 +103,7 @@ class MainWindow : public QObject {
     std::unordered_map<const window::Control*, std::unique_ptr<Binding>> m_bindings;
     std::unordered_map<const QWidget*, Binding*> m_by_widget;
     FocusGuide m_guide;
+    Mnemonics m_mnemonics{[this] { return m_guide.ButtonsInView(); }};
     std::unordered_map<const window::Control*, std::unique_ptr<FreeWindow>> m_free_windows;
     struct LateChange {
         Binding* binding;

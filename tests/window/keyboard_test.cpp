@@ -2,6 +2,7 @@
 #include <QMessageBox>
 #include <set>
 
+#include "qt/mnemonics.h"
 #include "test_window.h"
 #include "tests.h"
 
@@ -403,6 +404,68 @@ void KeyboardTest::CellsAreAccessible() {
     QCOMPARE(window.Global("HelpTool"), std::string("2"));
     QVERIFY(particle->state().checked);
     QVERIFY(toolbar->focusChild() != toolbar->child(1));
+}
+
+void KeyboardTest::LettersAreFreeAndTheirOwn() {
+    // First letters of words come first, so that only the second R goes to another one; figures, signs and
+    // letters with an accent give none.
+    const std::vector<QString> captions = {QStringLiteral("Resolver"), QStringLiteral("Restaurar"),
+                                           QStringLiteral("Datos"),    QStringLiteral("Dar el eje"),
+                                           QStringLiteral("8"),        QStringLiteral("Ángulo"),
+                                           QStringLiteral("x(t)"),     QStringLiteral("×")};
+    QCOMPARE(qt::MnemonicPlaces(captions), (std::vector<int>{0, 2, 0, 4, -1, 1, 0, -1}));
+}
+
+void KeyboardTest::AltAndALetterPressAButton() {
+    KeyboardWindow window;
+    window.Strike(Qt::Key_2, Qt::AltModifier);
+    window.Enter("v-100");
+    auto& erase = window.As<QAbstractButton>("cmdParts(5)");
+    const QString caption = QStringLiteral("Cancelar última");
+    QCOMPARE(erase.text(), caption);
+    const QImage plain = erase.grab().toImage();
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt);
+    QCOMPARE(erase.text(), QStringLiteral("&Cancelar última"));
+    QVERIFY(erase.grab().toImage() != plain);
+    QCOMPARE(window.Form().Find("cmdParts(5)")->Caption(), caption.toStdString());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::AltModifier);
+    QTRY_COMPARE(window.Global("ForceCount"), std::string("0"));
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
+    QCOMPARE(erase.text(), caption);
+    // The letter typed nothing, and the keys stay where they were.
+    QCOMPARE(window.FocusName(), std::string("txtVector"));
+    QCOMPARE(window.Form().Get<window::TextBox>("txtVector").Text(), std::string());
+    // Without Alt held down the letters are nobody's.
+    window.Strike(Qt::Key_C);
+    QCOMPARE(window.Form().Get<window::TextBox>("txtVector").Text(), std::string("c"));
+}
+
+void KeyboardTest::AltAndALetterChoosesAnOption() {
+    KeyboardWindow window;
+    window.Strike(Qt::Key_6, Qt::AltModifier);
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt);
+    QCOMPARE(window.As<QAbstractButton>("chkGraph(1)").text(), QStringLiteral("&v(t)"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::AltModifier);
+    QTRY_VERIFY(window.Form().Get<window::CheckBox>("chkGraph(1)").Checked());
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
+    QCOMPARE(window.As<QAbstractButton>("chkGraph(1)").text(), QStringLiteral("v(t)"));
+}
+
+/// The dialog takes the letters while it is in front, and what the help covers has none.
+void KeyboardTest::OnlyWhatIsInFrontHasLetters() {
+    KeyboardWindow window;
+    window.Strike(Qt::Key_2, Qt::AltModifier);
+    window.Strike(Qt::Key_F1);
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt);
+    QCOMPARE(window.As<QAbstractButton>("cmdHelpCtrl(0)").text(), QStringLiteral("&Página general"));
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
+    window.Strike(Qt::Key_7, Qt::AltModifier);
+    QApplication::setActiveWindow(window.Widget("cmdAbout").window());
+    QCoreApplication::processEvents();
+    QTest::keyPress(QApplication::focusWidget(), Qt::Key_Alt);
+    QCOMPARE(window.As<QAbstractButton>("cmdHelpCtrl(0)").text(), QStringLiteral("Página general"));
+    QCOMPARE(window.As<QAbstractButton>("cmdPrintRes").text(), QStringLiteral("&Imprimir"));
+    QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
 }
 
 void KeyboardTest::FocusIsSeen_data() {

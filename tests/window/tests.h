@@ -95,6 +95,10 @@ class KeyboardTest : public QObject {
     void EveryCellDoesWhatItSays();
     void ATableIsClickedByKeys();
     void CellsAreAccessible();
+    void LettersAreFreeAndTheirOwn();
+    void AltAndALetterPressAButton();
+    void AltAndALetterChoosesAnOption();
+    void OnlyWhatIsInFrontHasLetters();
     void FocusIsSeen_data();
     void FocusIsSeen();
 };
