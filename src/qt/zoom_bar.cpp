@@ -1,6 +1,9 @@
 #include "qt/zoom_bar.h"
 
 #include <QMenu>
+#include <QTimer>
+#include <chrono>
+#include <utility>
 
 #include "qt/zoom.h"
 
@@ -17,6 +20,8 @@ void SetUp(QToolButton& button, const QString& tip) {
     button.setAutoRaise(true);
     button.setFocusPolicy(Qt::TabFocus);
     button.setToolButtonStyle(Qt::ToolButtonTextOnly);
+    // Given a size, even none, it does not measure its text when it is shown.
+    button.resize(0, 0);
 }
 
 }  // namespace
@@ -49,9 +54,18 @@ void ZoomBar::FollowByTab(QWidget* widget) {
     setTabOrder(&m_contrast, &m_percentage);
 }
 
+void ZoomBar::paintEvent(QPaintEvent*) {
+    constexpr std::chrono::milliseconds kFrame{16};
+    if (std::exchange(m_was_painted, true))
+        return;
+    QTimer::singleShot(kFrame, this, &ZoomBar::PlaceButtons);
+}
+
 void ZoomBar::resizeEvent(QResizeEvent*) { PlaceButtons(); }
 
 void ZoomBar::PlaceButtons() {
+    if (!m_was_painted)
+        return;
     const int blank = fontMetrics().averageCharWidth();
     int right = width() - blank;
     for (QToolButton* button : {&m_percentage, &m_contrast}) {

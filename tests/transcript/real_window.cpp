@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "qt/text.h"
+#include "script.h"
 
 // What a student does to a real window.
 
@@ -257,6 +258,8 @@ void RealWindow::PutOnClipboard(const std::string& text) {
 
 void RealWindow::SavePicture(const std::string& path) {
     QCoreApplication::processEvents();
+    if (!QTest::qWaitFor([this] { return m_window.Bar().IsFilled(); }))
+        throw ScriptError("the bar below the page stays empty");
     m_window.Frame().grab().save(ToQString(path));
 }
 

@@ -23,6 +23,8 @@ class TestWindow {
         view.Show();
         QApplication::setActiveWindow(&view.Frame());
         QCoreApplication::processEvents();
+        if (!QTest::qWaitFor([this] { return view.Bar().IsFilled(); }))
+            QTest::qFail("the bar below the page stays empty", __FILE__, __LINE__);
     }
 
     /// Presses toolbar button 1 to 9.
