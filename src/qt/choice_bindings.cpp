@@ -1,5 +1,9 @@
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QRadioButton>
+#include <algorithm>
+#include <iterator>
+#include <vector>
 
 #include "qt/bindings.h"
 #include "qt/text.h"
@@ -45,12 +49,61 @@ class ChoiceBinding : public Binding {
     QAbstractButton& m_widget;
 };
 
+/// Where a key leads in a group of options: an arrow to the next one that can be chosen, round and round,
+/// Home and End to the first and the last. Null for another key and where there is no other option.
+window::OptionButton* OptionAt(int key, const window::OptionButton& from) {
+    std::vector<window::OptionButton*> usable;
+    std::ranges::copy_if(from.group, std::back_inserter(usable),
+                         [](const window::OptionButton* option) { return option->IsUsable(); });
+    const auto count = static_cast<std::ptrdiff_t>(usable.size());
+    const std::ptrdiff_t here = std::ranges::find(usable, &from) - usable.begin();
+    std::ptrdiff_t there = here;
+    if (key == Qt::Key_Home)
+        there = 0;
+    else if (key == Qt::Key_End)
+        there = count - 1;
+    else if (key == Qt::Key_Right || key == Qt::Key_Down)
+        there = (here + 1) % count;
+    else if (key == Qt::Key_Left || key == Qt::Key_Up)
+        there = (here + count - 1) % count;
+    return there == here ? nullptr : usable[static_cast<std::size_t>(there)];
+}
+
+bool MovesInGroup(int key) {
+    constexpr int kKeys[] = {Qt::Key_Home, Qt::Key_End,   Qt::Key_Left,
+                             Qt::Key_Up,   Qt::Key_Right, Qt::Key_Down};
+    return std::ranges::find(kKeys, key) != std::end(kKeys);
+}
+
+/// An option; the arrows choose another one of its group, with Ctrl they only go there, for choosing may do
+/// much.
+class OptionBinding : public ChoiceBinding<window::OptionButton> {
+  public:
+    OptionBinding(window::OptionButton& option, QAbstractButton& widget, ViewContext& context)
+        : ChoiceBinding(option, widget, context), m_option(option) {}
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+        if (!key || !MovesInGroup(key->key()))
+            return ChoiceBinding::eventFilter(watched, event);
+        if (window::OptionButton* other = OptionAt(key->key(), m_option)) {
+            Form().SetFocus(*other);
+            if (!(key->modifiers() & Qt::ControlModifier))
+                other->UserClick();
+        }
+        return true;
+    }
+
+  private:
+    window::OptionButton& m_option;
+};
+
 }  // namespace
 
 std::unique_ptr<Binding> NewOptionBinding(window::Control& control, QWidget& parent, ViewContext& context) {
     auto& option = dynamic_cast<window::OptionButton&>(control);
-    return std::make_unique<ChoiceBinding<window::OptionButton>>(
-        option, *new WholeChoice<QRadioButton>(&parent), context);
+    return std::make_unique<OptionBinding>(option, *new WholeChoice<QRadioButton>(&parent), context);
 }
 
 std::unique_ptr<Binding> NewCheckBinding(window::Control& control, QWidget& parent, ViewContext& context) {

@@ -18,6 +18,8 @@ bool IsGroup(const window::Control& control) {
     return picture && picture->HasCells();
 }
 
+bool IsOption(const window::Control& control) { return control.Kind() == window::ControlKind::OptionButton; }
+
 /// The panel of the window on which a control lies; the control itself where it lies on none.
 const window::Control& PanelOf(const window::Control& control) {
     const window::Control* panel = &control;
@@ -61,14 +63,32 @@ FocusGuide::FocusGuide(window::Form1& form, FormWindow& main, FormWindow& dialog
 
 bool FocusGuide::TakesKeys(const window::Control& control) const {
     const Binding* binding = m_bindings.of_control(control);
-    return binding && binding->Widget().focusPolicy() & Qt::TabFocus && control.IsUsable() &&
-           control.Bounds().left + control.Bounds().width > 0;
+    const bool by_tab = binding && (binding->Widget().focusPolicy() & Qt::TabFocus || IsOption(control));
+    return by_tab && control.IsUsable() && control.Bounds().left + control.Bounds().width > 0;
+}
+
+bool FocusGuide::IsPassedBy(const window::Control& control) const {
+    const auto* option = dynamic_cast<const window::OptionButton*>(&control);
+    if (!option)
+        return false;
+    const Binding* focused = FocusedBinding();
+    const window::OptionButton* stop = nullptr;
+    for (const window::OptionButton* other : option->group) {
+        if (!TakesKeys(*other))
+            continue;
+        if (focused && &focused->Model() == other)
+            return other != option;
+        if (!stop || other->Checked())
+            stop = other;
+    }
+    return stop != option;
 }
 
 std::vector<Binding*> FocusGuide::Stops(const FormWindow& window) const {
     std::vector<Binding*> stops;
     for (const window::Control* control : window::ReadingOrder(m_form)) {
-        Binding* binding = TakesKeys(*control) ? m_bindings.of_control(*control) : nullptr;
+        const bool is_stop = TakesKeys(*control) && !IsPassedBy(*control);
+        Binding* binding = is_stop ? m_bindings.of_control(*control) : nullptr;
         if (binding && binding->Widget().window() == &window)
             stops.push_back(binding);
     }
@@ -76,6 +96,9 @@ std::vector<Binding*> FocusGuide::Stops(const FormWindow& window) const {
 }
 
 void FocusGuide::OrderTabs(const FormWindow& window) const {
+    for (const window::Control* control : m_form.Controls())
+        if (const Binding* binding = IsOption(*control) ? m_bindings.of_control(*control) : nullptr)
+            binding->Widget().setFocusPolicy(IsPassedBy(*control) ? Qt::ClickFocus : Qt::StrongFocus);
     QWidget* previous = nullptr;
     for (Binding* stop : Stops(window)) {
         if (previous)

@@ -49,6 +49,8 @@ class FocusGuide : public QObject {
     void Leave();
     void Remember(QWidget* left);
     bool TakesKeys(const window::Control& control) const;
+    /// Of a group of options Tab stops at one: where the keys are, else the chosen one, else the first.
+    bool IsPassedBy(const window::Control& control) const;
     /// The controls of a window that the keys can go to now, in reading order.
     std::vector<Binding*> Stops(const FormWindow& window) const;
     Binding* RestingPlace(const FormWindow& window) const;

@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QMessageBox>
+#include <algorithm>
 #include <set>
 
 #include "qt/mnemonics.h"
@@ -196,6 +197,12 @@ void KeyboardTest::TabGoesThroughEveryTool() {
             const bool is_still = picture && !picture->HasCells();
             const bool is_off = control->Bounds().left + control->Bounds().width <= 0;
             if (is_mute || is_still || is_off || !control->IsUsable())
+                continue;
+            const auto* option = dynamic_cast<window::OptionButton*>(control);
+            const bool is_passed = option && std::ranges::any_of(option->group, [&](const auto* other) {
+                                       return reached.contains(other->Name());
+                                   });
+            if (is_passed)
                 continue;
             QVERIFY2(reached.contains(control->Name()),
                      (control->Name() + " in tool " + std::to_string(tool)).c_str());
@@ -466,6 +473,76 @@ void KeyboardTest::OnlyWhatIsInFrontHasLetters() {
     QCOMPARE(window.As<QAbstractButton>("cmdHelpCtrl(0)").text(), QStringLiteral("Página general"));
     QCOMPARE(window.As<QAbstractButton>("cmdPrintRes").text(), QStringLiteral("&Imprimir"));
     QTest::keyRelease(QApplication::focusWidget(), Qt::Key_Alt);
+}
+
+/// Tab goes to the chosen option; arrows, Home and End choose another one, with Ctrl they only go there.
+void KeyboardTest::OptionsAreOneStop() {
+    KeyboardWindow window;
+    window.Strike(Qt::Key_7, Qt::AltModifier);
+    QApplication::setActiveWindow(window.Widget("cmdAbout").window());
+    QCoreApplication::processEvents();
+    const auto options = window.Form().GetArray<window::OptionButton>("optPrint");
+    const auto chosen = [&options] {
+        std::string name;
+        for (const auto& [index, option] : options.Items())
+            name += option->Checked() ? option->Name() : "";
+        return name;
+    };
+    const auto expect = [&](const char* focused, const char* checked) {
+        QCOMPARE(QApplication::focusWidget(), &window.Widget(focused));
+        QCOMPARE(chosen(), std::string(checked));
+    };
+    expect("optPrint(0)", "");
+    window.Strike(Qt::Key_Space);
+    expect("optPrint(0)", "optPrint(0)");
+    window.Strike(Qt::Key_Down);
+    expect("optPrint(1)", "optPrint(1)");
+    window.Strike(Qt::Key_Left);
+    window.Strike(Qt::Key_Up);
+    expect("optPrint(2)", "optPrint(2)");
+    window.Strike(Qt::Key_Down, Qt::ControlModifier);
+    expect("optPrint(0)", "optPrint(2)");
+    window.Strike(Qt::Key_Tab);
+    expect("cmdPrintRes", "optPrint(2)");
+    window.Strike(Qt::Key_Backtab, Qt::ShiftModifier);
+    expect("optPrint(2)", "optPrint(2)");
+    window.Strike(Qt::Key_Home);
+    expect("optPrint(0)", "optPrint(0)");
+    window.Strike(Qt::Key_End);
+    expect("optPrint(2)", "optPrint(2)");
+    const QImage focused = window.Widget("optPrint(2)").grab().toImage();
+    window.Strike(Qt::Key_Tab);
+    QVERIFY(window.Widget("optPrint(2)").grab().toImage() != focused);
+}
+
+/// Arrows pass by options that cannot be chosen; where no other one is left, nothing happens.
+void KeyboardTest::ArrowsPassByDisabledOptions() {
+    KeyboardWindow window;
+    window.Strike(Qt::Key_3, Qt::AltModifier);
+    auto& pages = window.Form().Get<window::TabStrip>("tabStat");
+    pages.UserPick(2);
+    QCoreApplication::processEvents();
+    const auto options = window.Form().GetArray<window::OptionButton>("optShowDCL");
+    options[1].SetEnabled(false);
+    options[4].SetEnabled(false);
+    QVERIFY(window.TabTo("optShowDCL(0)"));
+    window.Strike(Qt::Key_Right, Qt::ControlModifier);
+    QCOMPARE(window.FocusName(), std::string("optShowDCL(2)"));
+    window.Strike(Qt::Key_End, Qt::ControlModifier);
+    QCOMPARE(window.FocusName(), std::string("optShowDCL(3)"));
+    window.Strike(Qt::Key_Right, Qt::ControlModifier);
+    QCOMPARE(window.FocusName(), std::string("optShowDCL(0)"));
+    // None of these systems is defined, which choosing one would tell.
+    QCOMPARE(window.boxes.size(), 0);
+    window.Strike(Qt::Key_Right);
+    QCOMPARE(window.FocusName(), std::string("optShowDCL(2)"));
+    QTRY_COMPARE(window.boxes.size(), 1);
+    QApplication::setActiveWindow(&window.view.Frame());
+    for (const int index : {0, 3})
+        options[index].SetEnabled(false);
+    window.Strike(Qt::Key_Left);
+    QCOMPARE(window.FocusName(), std::string("optShowDCL(2)"));
+    QCOMPARE(window.boxes.size(), 1);
 }
 
 void KeyboardTest::FocusIsSeen_data() {

@@ -99,6 +99,8 @@ class KeyboardTest : public QObject {
     void AltAndALetterPressAButton();
     void AltAndALetterChoosesAnOption();
     void OnlyWhatIsInFrontHasLetters();
+    void OptionsAreOneStop();
+    void ArrowsPassByDisabledOptions();
     void FocusIsSeen_data();
     void FocusIsSeen();
 };
