@@ -226,7 +226,7 @@ void CompareCashKarp(const bench::Table& table, const std::string& name, Functio
     constexpr double kEnd = 5.0;
     int calls = 0;
     const auto counted = [&](std::span<const double> at) { return ++calls, f(at); };
-    const auto integrate = [](numeric::OdeFunction function) {
+    const auto integrate = [](auto& function) {
         numeric::OdeState y = {1.0, 0.0};
         const auto outcome =
             numeric::ODEInt(function, 1, y, 0.0, kEnd, 1e-5, numeric::kOdeFirstStep, numeric::kOdeLeastStep);

@@ -108,6 +108,8 @@ CurveSamples SamplePolynomial(std::span<const double> coefs, std::span<const dou
     const auto [least, largest] = std::minmax_element(xs.begin(), xs.end());
     const double range = CheckedSubtract(*largest, *least);
     CurveSamples samples;
+    samples.xs.reserve(static_cast<std::size_t>(count));
+    samples.ys.reserve(static_cast<std::size_t>(count));
     for (int k = 0; k < count; ++k) {
         const double x = *least + range * k / (count - 1);
         samples.xs.push_back(x);

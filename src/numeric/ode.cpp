@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "numeric/checked.h"
 #include "numeric/compare.h"
@@ -11,158 +10,13 @@ namespace tavrelo::numeric {
 
 namespace {
 
-// The step control of RKQS.
-constexpr double kSafety = 0.9;
-constexpr double kGrowPower = -0.2;
-constexpr double kShrinkPower = -0.25;
-/// Below this error the step grows by its largest factor: (5 / kSafety) to the power 1 / kGrowPower.
-constexpr double kGrowthLimit = 0.000189;
-constexpr double kLargestGrowth = 5.0;
-constexpr double kShrinkLimit = 0.1;
+using cash_karp::Components;
+using cash_karp::Slope;
+using cash_karp::Take;
+using cash_karp::Whole;
 
-/// Keeps the scale of a state that vanishes above 0.
-constexpr double kScaleFloor = 1e-30;
 /// A step of RKDumb that moves x by no more than this ends the walk.
 constexpr double kStandstill = 1e-8;
-
-// The published table of Cash and Karp: where each stage looks, how it mixes the slopes of those before it,
-// the weights of the fifth order, and their difference from those of the fourth. Weights of 0 are left out.
-constexpr double kNode2 = 0.2;
-constexpr double kNode3 = 0.3;
-constexpr double kNode4 = 0.6;
-constexpr double kNode5 = 1.0;
-constexpr double kNode6 = 0.875;
-constexpr std::array kMixture2 = {0.2};
-constexpr std::array kMixture3 = {3.0 / 40.0, 9.0 / 40.0};
-constexpr std::array kMixture4 = {0.3, -0.9, 1.2};
-constexpr std::array kMixture5 = {-11.0 / 54.0, 2.5, -70.0 / 27.0, 35.0 / 27.0};
-constexpr std::array kMixture6 = {1631.0 / 55296.0, 175.0 / 512.0, 575.0 / 13824.0, 44275.0 / 110592.0,
-                                  253.0 / 4096.0};
-// Of the slopes 1, 3, 4, 6 and 1, 3, 4, 5, 6.
-constexpr std::array kWeights = {37.0 / 378.0, 250.0 / 621.0, 125.0 / 594.0, 512.0 / 1771.0};
-constexpr std::array kErrorWeights = {37.0 / 378.0 - 2825.0 / 27648.0, 250.0 / 621.0 - 18575.0 / 48384.0,
-                                      125.0 / 594.0 - 13525.0 / 55296.0, -277.0 / 14336.0,
-                                      512.0 / 1771.0 - 0.25};
-
-/// The components in use of an OdeState. They are handed from step to step as numbers of their own: a pair
-/// written in parts and read as one would stall the processor.
-template <std::size_t kComponents>
-using Components = std::array<double, kComponents>;
-
-template <std::size_t kComponents>
-Components<kComponents> Take(const OdeState& state) {
-    Components<kComponents> components;
-    std::copy_n(state.begin(), kComponents, components.begin());
-    return components;
-}
-template <std::size_t kComponents>
-OdeState Whole(const Components<kComponents>& components) {
-    OdeState state{};
-    std::copy(components.begin(), components.end(), state.begin());
-    return state;
-}
-
-std::size_t ComponentsOf(int order) {
-    if (order < 1 || order > static_cast<int>(kHighestOrder)) {
-        throw RuntimeFailure(FailureCode::SubscriptRange, "order of a differential equation");
-    }
-    return static_cast<std::size_t>(order);
-}
-
-template <std::size_t kComponents, std::size_t kCount, std::size_t... kIndex, typename... Earlier>
-Components<kComponents> Advance(const Components<kComponents>& y, double h,
-                                const std::array<double, kCount>& weights, std::index_sequence<kIndex...>,
-                                const Components<kComponents>& last, const Earlier&... earlier) {
-    const double last_weight = h * weights.back();
-    Components<kComponents> moved = y;
-    for (std::size_t i = 0; i < kComponents; ++i) {
-        if constexpr (kCount > 1) {
-            moved[i] += h * (... + (weights[kIndex] * earlier[i]));
-        }
-        moved[i] = Finite(moved[i] + last_weight * last[i]);
-    }
-    return moved;
-}
-/// y + h times the sum of the slopes under their weights, the last slope before the others: the stages wait
-/// for each other, so as little as possible is left to do once it is known.
-template <std::size_t kComponents, std::size_t kCount, typename... Earlier>
-Components<kComponents> Advance(const Components<kComponents>& y, double h,
-                                const std::array<double, kCount>& weights,
-                                const Components<kComponents>& last, const Earlier&... earlier) {
-    static_assert(sizeof...(Earlier) + 1 == kCount);
-    return Advance(y, h, weights, std::index_sequence_for<Earlier...>(), last, earlier...);
-}
-
-/// h times the sum of the slopes under their weights; it nearly cancels, so nothing is added before its end.
-template <std::size_t kComponents, std::size_t... kIndex, typename... Slopes>
-Components<kComponents> ErrorOf(double h, std::index_sequence<kIndex...>,
-                                const Components<kComponents>& first, const Slopes&... others) {
-    Components<kComponents> error;
-    for (std::size_t i = 0; i < kComponents; ++i) {
-        error[i] =
-            Finite(h * ((kErrorWeights[0] * first[i]) + ... + (kErrorWeights[kIndex + 1] * others[i])));
-    }
-    return error;
-}
-
-template <std::size_t kComponents>
-Components<kComponents> Slope(OdeFunction f, double x, const Components<kComponents>& y) {
-    if constexpr (kComponents == 1) {
-        const std::array<double, 2> arguments = {x, y[0]};
-        return {Finite(f(arguments))};
-    } else {
-        const std::array<double, 3> arguments = {x, y[0], y[1]};
-        return {y[1], Finite(f(arguments))};
-    }
-}
-
-template <std::size_t kComponents>
-struct Step {
-    Components<kComponents> y;
-    Components<kComponents> error;
-};
-
-template <std::size_t kComponents>
-Step<kComponents> TakeStep(OdeFunction f, const Components<kComponents>& y, const Components<kComponents>& k1,
-                           double x, double h) {
-    const auto k2 = Slope(f, x + kNode2 * h, Advance(y, h, kMixture2, k1));
-    const auto k3 = Slope(f, x + kNode3 * h, Advance(y, h, kMixture3, k2, k1));
-    const auto k4 = Slope(f, x + kNode4 * h, Advance(y, h, kMixture4, k3, k1, k2));
-    const auto k5 = Slope(f, x + kNode5 * h, Advance(y, h, kMixture5, k4, k1, k2, k3));
-    const auto k6 = Slope(f, x + kNode6 * h, Advance(y, h, kMixture6, k5, k1, k2, k3, k4));
-    return {Advance(y, h, kWeights, k6, k1, k3, k4),
-            ErrorOf(h, std::make_index_sequence<kErrorWeights.size() - 1>(), k1, k3, k4, k5, k6)};
-}
-
-/// The largest error of a component against what is allowed; above 1 the step was too long.
-template <std::size_t kComponents>
-double ErrorRatio(const Components<kComponents>& error, const Components<kComponents>& scale, double eps) {
-    double largest = 0.0;
-    for (std::size_t i = 0; i < kComponents; ++i) {
-        largest = std::max(largest, std::abs(CheckedDivide(error[i], scale[i])));
-    }
-    return CheckedDivide(largest, eps);
-}
-
-double Shortened(double h, double error_ratio) {
-    const double shorter = kSafety * h * std::pow(error_ratio, kShrinkPower);
-    // The limit looks at the new step, so it takes hold of negative steps only.
-    return kShrinkLimit * shorter > shorter ? kShrinkLimit * shorter : shorter;
-}
-
-double Lengthened(double h, double error_ratio) {
-    return error_ratio > kGrowthLimit ? kSafety * h * std::pow(error_ratio, kGrowPower) : kLargestGrowth * h;
-}
-
-template <std::size_t kComponents>
-Components<kComponents> ScaleOf(const Components<kComponents>& y, const Components<kComponents>& dydx,
-                                double h) {
-    Components<kComponents> scale;
-    for (std::size_t i = 0; i < kComponents; ++i) {
-        scale[i] = Finite(std::abs(y[i]) + std::abs(h * dydx[i]) + kScaleFloor);
-    }
-    return scale;
-}
 
 template <std::size_t kComponents>
 Components<kComponents> Moved(const Components<kComponents>& y, double h,
@@ -172,45 +26,6 @@ Components<kComponents> Moved(const Components<kComponents>& y, double h,
         moved[i] = Finite(y[i] + h * slope[i]);
     }
     return moved;
-}
-
-template <std::size_t kComponents>
-ControlledStep TakeControlledStep(OdeFunction f, Components<kComponents>& y,
-                                  const Components<kComponents>& dydx, double& x, double h, double eps,
-                                  const Components<kComponents>& scale) {
-    while (true) {
-        const Step<kComponents> step = TakeStep(f, y, dydx, x, h);
-        const double error_ratio = ErrorRatio(step.error, scale, eps);
-        if (error_ratio <= 1.0) {
-            x = CheckedAdd(x, h);
-            y = step.y;
-            return {h, Lengthened(h, error_ratio)};
-        }
-        h = Shortened(h, error_ratio);
-    }
-}
-
-/// The walk of ODEInt.
-template <std::size_t kComponents>
-OdeOutcome Walk(OdeFunction f, OdeState& y, double x1, double x2, double eps, double h1, double h_min) {
-    const double range = CheckedSubtract(x2, x1);
-    double x = x1;
-    double h = std::copysign(h1, range);
-    auto state = Take<kComponents>(y);
-    for (int step = 0; step < kMostOdeSteps; ++step) {
-        const auto dydx = Slope(f, x, state);
-        const auto scale = ScaleOf(state, dydx, h);
-        if ((x + h - x2) * (x + h - x1) > 0.0) {
-            h = x2 - x;
-        }
-        const ControlledStep taken = TakeControlledStep(f, state, dydx, x, h, eps, scale);
-        if ((x - x2) * range >= 0.0) {
-            std::copy(state.begin(), state.end(), y.begin());
-            return OdeOutcome::Done;
-        }
-        h = std::abs(taken.next) < h_min ? std::copysign(h_min, range) : taken.next;
-    }
-    return OdeOutcome::TooManySteps;
 }
 
 template <std::size_t kComponents>
@@ -229,7 +44,7 @@ Components<kComponents> ClassicalStep(OdeFunction f, const Components<kComponent
 
 template <std::size_t kComponents>
 CashKarpStep CashKarp(OdeFunction f, const OdeState& y, const OdeState& dydx, double x, double h) {
-    const auto step = TakeStep(f, Take<kComponents>(y), Take<kComponents>(dydx), x, h);
+    const auto step = cash_karp::TakeStep(f, Take<kComponents>(y), Take<kComponents>(dydx), x, h);
     return {Whole<kComponents>(step.y), Whole<kComponents>(step.error)};
 }
 
@@ -238,7 +53,7 @@ ControlledStep Controlled(OdeFunction f, OdeState& y, const OdeState& dydx, doub
                           const OdeState& scale) {
     auto state = Take<kComponents>(y);
     const ControlledStep step =
-        TakeControlledStep(f, state, Take<kComponents>(dydx), x, h, eps, Take<kComponents>(scale));
+        cash_karp::TakeControlledStep(f, state, Take<kComponents>(dydx), x, h, eps, Take<kComponents>(scale));
     std::copy(state.begin(), state.end(), y.begin());
     return step;
 }
@@ -266,36 +81,6 @@ ControlledStep RKQS(OdeFunction f, int order, OdeState& y, const OdeState& dydx,
                     double eps, const OdeState& scale) {
     return ComponentsOf(order) == 1 ? Controlled<1>(f, y, dydx, x, h_try, eps, scale)
                                     : Controlled<2>(f, y, dydx, x, h_try, eps, scale);
-}
-
-OdeOutcome ODEInt(OdeFunction f, int order, OdeState& y, double x1, double x2, double eps, double h1,
-                  double h_min) {
-    return ComponentsOf(order) == 1 ? Walk<1>(f, y, x1, x2, eps, h1, h_min)
-                                    : Walk<2>(f, y, x1, x2, eps, h1, h_min);
-}
-
-namespace {
-
-/// The integral of f from `low` up to `high`, made from the left.
-OdeIntegral IntegrateUpward(OdeFunction f, double low, double high, double eps) {
-    OdeState y{};
-    const OdeOutcome outcome = ODEInt(f, 1, y, low, high, eps, kOdeFirstStep, kOdeLeastStep);
-    return {y[0], outcome};
-}
-
-}  // namespace
-
-OdeIntegral IntegrateOde(OdeFunction f, double a, double b, double eps) {
-    const double low = std::min(a, b);
-    const double high = std::max(a, b);
-    const OdeIntegral from_left = IntegrateUpward(f, low, high, eps);
-    if (from_left.outcome == OdeOutcome::Done)
-        return from_left;
-    const auto mirrored = [&](std::span<const double> at) {
-        const std::array<double, 2> place = {low + high - at[0], at[1]};
-        return f(place);
-    };
-    return IntegrateUpward(mirrored, low, high, eps);
 }
 
 OdeState RK4(OdeFunction f, int order, const OdeState& y, const OdeState& dydx, double x, double h) {

@@ -1,26 +1,21 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
-#include <cstddef>
 #include <span>
 #include <string_view>
 #include <vector>
 
+#include "numeric/cash_karp.h"
 #include "numeric/function_ref.h"
+#include "numeric/ode_state.h"
 
 namespace tavrelo::numeric {
-
-/// Highest order of the differential equations.
-inline constexpr std::size_t kHighestOrder = 2;
-
-/// The function value y[0] and, at order 2, its derivative y[1]. At order 1 the second element is not used.
-using OdeState = std::array<double, kHighestOrder>;
 
 /// The right side of y' = f(x, y) or y'' = f(x, y, y'): called with the list (x, y) or (x, y, y'). Fails with
 /// a RuntimeFailure where it has no value.
 using OdeFunction = FunctionRef<double(std::span<const double>)>;
 
-enum class OdeOutcome { Done, TooManySteps };
 /// Title and text of the box for TooManySteps.
 inline constexpr std::string_view kTooManyStepsTitle = "OZU";
 inline constexpr std::string_view kTooManySteps = "Demasiados pasos en la rutina ODEInt";
@@ -29,8 +24,6 @@ inline constexpr std::string_view kTooManySteps = "Demasiados pasos en la rutina
 inline constexpr double kOdeFirstStep = 0.1;
 inline constexpr double kOdeLeastStep = 0.001;
 inline constexpr double kOdeIntegralAccuracy = 1e-5;
-/// Steps after which ODEInt gives up.
-inline constexpr int kMostOdeSteps = 1000;
 
 // `order` is 1 or 2 throughout; the routines fail with what f fails with and with Overflow.
 
@@ -45,10 +38,6 @@ struct CashKarpStep {
 /// other order.
 CashKarpStep RKCK(OdeFunction f, int order, const OdeState& y, const OdeState& dydx, double x, double h);
 
-struct ControlledStep {
-    double done;  // length of the step that was accurate enough
-    double next;  // length to try next
-};
 /// One step with error control: shortens `h_try` until the error of each component is at most `eps` times its
 /// scale, and moves x and y. There is no least step. Fails with DivisionByZero when a scale is 0.
 ControlledStep RKQS(OdeFunction f, int order, OdeState& y, const OdeState& dydx, double& x, double h_try,
@@ -57,8 +46,12 @@ ControlledStep RKQS(OdeFunction f, int order, OdeState& y, const OdeState& dydx,
 /// Integrates from x1 to x2, in either direction; `y` holds the start and receives the end. `h1` is the
 /// length of the first step; a step below `h_min` is lifted to it and the integration goes on. After
 /// kMostOdeSteps steps TooManySteps, and `y` still holds the start.
-[[nodiscard]] OdeOutcome ODEInt(OdeFunction f, int order, OdeState& y, double x1, double x2, double eps,
-                                double h1, double h_min);
+template <typename Function>
+[[nodiscard]] OdeOutcome ODEInt(Function&& f, int order, OdeState& y, double x1, double x2, double eps,
+                                double h1, double h_min) {
+    return ComponentsOf(order) == 1 ? cash_karp::Walk<1>(f, y, x1, x2, eps, h1, h_min)
+                                    : cash_karp::Walk<2>(f, y, x1, x2, eps, h1, h_min);
+}
 
 struct OdeIntegral {
     double value;  // 0 after TooManySteps
@@ -70,7 +63,24 @@ struct OdeIntegral {
 /// A density that is 0 at first and then jumps stops the integration: while y and y' are 0 no error is
 /// tolerated, so no step passes the jump. It is then made from the other limit, with f mirrored; one that is
 /// 0 at both ends gives TooManySteps.
-OdeIntegral IntegrateOde(OdeFunction f, double a, double b, double eps = kOdeIntegralAccuracy);
+template <typename Function>
+OdeIntegral IntegrateOde(Function&& f, double a, double b, double eps = kOdeIntegralAccuracy) {
+    const double low = std::min(a, b);
+    const double high = std::max(a, b);
+    const auto integrate_upward = [&](auto& density) -> OdeIntegral {
+        OdeState y{};
+        const OdeOutcome outcome = ODEInt(density, 1, y, low, high, eps, kOdeFirstStep, kOdeLeastStep);
+        return {y[0], outcome};
+    };
+    const OdeIntegral from_left = integrate_upward(f);
+    if (from_left.outcome == OdeOutcome::Done)
+        return from_left;
+    const auto mirrored = [&](std::span<const double> at) {
+        const std::array<double, 2> place = {low + high - at[0], at[1]};
+        return f(std::span<const double>(place));
+    };
+    return integrate_upward(mirrored);
+}
 
 /// One classical fourth-order Runge-Kutta step of length h from (x, y), whose derivatives are `dydx`.
 OdeState RK4(OdeFunction f, int order, const OdeState& y, const OdeState& dydx, double x, double h);
