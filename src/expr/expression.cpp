@@ -51,13 +51,6 @@ void CExpression::AssignVariables(std::span<const text::Value> vars) {
     }
 }
 
-void CExpression::AssignVariables(std::span<const double> vars) {
-    const std::size_t count = std::min(vars.size(), static_cast<std::size_t>(VariablesCount()));
-    for (std::size_t i = 0; i < count; ++i) {
-        m_variables.Item(static_cast<int>(i) + 1).Value.SetNumber(vars[i]);
-    }
-}
-
 text::Value CExpression::Value(std::span<const text::Value> vars) {
     if (!IsEvaluable()) {
         return {};
@@ -87,14 +80,14 @@ void CExpression::PrepareNumeric() {
 
 double CExpression::EvaluateNumber(std::span<const double> vars) {
     if (m_numeric.IsReady() && !vars.empty() && vars.size() >= m_numeric.VariablesNeeded()) {
-        AssignVariables(vars);
+        m_variables.Give(vars);
         const double value = m_numeric.Run(vars.data(), *m_angle_factor);
         return std::isfinite(value) ? value : NumberOf(RunProgram());
     }
     if (!IsEvaluable()) {
         return 0.0;
     }
-    AssignVariables(vars);
+    m_variables.Give(vars);
     return RunNumber();
 }
 

@@ -104,7 +104,6 @@ class CExpression {
     bool IsEvaluable() const { return m_program.complete && ErrorCode() == 0; }
     Operand RunProgram() const { return Run(m_program, *m_angle_factor); }
     void AssignVariables(std::span<const text::Value> vars);
-    void AssignVariables(std::span<const double> vars);
 
     using Columns = std::span<const std::span<const double>>;
     void ForgetNumeric();

@@ -27,6 +27,12 @@ VariablePtr VariableList::Find(std::string_view name) const {
     return entry != m_entries.end() ? entry->variable : nullptr;
 }
 
+void VariableList::GiveAnew(std::span<const double> numbers) const {
+    for (std::size_t k = 0; k < std::min(numbers.size(), m_entries.size()); ++k) {
+        m_entries[k].variable->Value.SetNumber(numbers[k]);
+    }
+}
+
 VariablePtr VariableList::Create(std::string_view name) {
     auto variable = std::make_shared<CVariable>();
     variable->Name = name;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,22 @@ class VariableList {
     CVariable& Item(int position) const {
         return *m_entries[static_cast<std::size_t>(position - 1)].variable;
     }
+    /// Gives the numbers to the variables from the first one on; what is left over on either side stays.
+    /// Every value of a formula asks for it, so the common case, variables that hold numbers already, calls
+    /// nothing.
+    void Give(std::span<const double> numbers) const {
+        auto entry = m_entries.begin();
+        for (const double number : numbers) {
+            if (entry == m_entries.end()) {
+                return;
+            }
+            text::Value& value = (entry++)->variable->Value;
+            if (!value.HoldsNumber()) {
+                return GiveAnew(numbers);
+            }
+            value.SetNumber(number);
+        }
+    }
     /// Null when there is none of that name.
     VariablePtr Find(std::string_view name) const;
     /// A new variable without a value; there must be none of that name.
@@ -36,6 +53,8 @@ class VariableList {
     int Add(VariablePtr variable);
 
   private:
+    void GiveAnew(std::span<const double> numbers) const;
+
     struct Entry {
         std::string key;
         VariablePtr variable;
