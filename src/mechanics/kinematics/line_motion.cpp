@@ -73,7 +73,7 @@ class Equation {
 LineState PositionAt(const LineMotion& motion, double t, const double& angle_factor) {
     MotionFormula formula(motion.formula, 1, angle_factor);
     const auto x = [&](double time) { return formula.At({time}); };
-    return {t, Finite(x(t)), numeric::Derivative(x, t, DerivativeStep(t)).value,
+    return {t, Finite(x(t)), SlopeAt(x, t, DerivativeStep(t)),
             numeric::SecondDeriv(x, t, SecondDerivativeStep(t))};
 }
 
@@ -111,8 +111,7 @@ LineCurves SamplePosition(const LineMotion& motion, double t0, double t1, const 
     if (choice.x)
         curves.x = formula.AtAll({curves.t});
     if (choice.v)
-        curves.v = Sampled(curves.t,
-                           [&](double t) { return numeric::Derivative(x, t, kGraphDerivativeStep).value; });
+        curves.v = Sampled(curves.t, [&](double t) { return SlopeAt(x, t, kGraphDerivativeStep); });
     if (choice.a)
         curves.a = SecondDerivatives(formula, curves.t, step);
     return curves;

@@ -22,7 +22,7 @@ struct Jet {
 Jet JetOf(const std::string& formula, double t, const double& angle_factor) {
     MotionFormula parsed(formula, 1, angle_factor);
     const auto at = [&](double time) { return parsed.At({time}); };
-    return {Finite(at(t)), numeric::Derivative(at, t, DerivativeStep(t)).value,
+    return {Finite(at(t)), SlopeAt(at, t, DerivativeStep(t)),
             numeric::SecondDeriv(at, t, SecondDerivativeStep(t))};
 }
 

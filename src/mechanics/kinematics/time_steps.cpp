@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "numeric/checked.h"
+#include "numeric/derivatives.h"
 
 namespace tavrelo::mechanics::kinematics {
 namespace {
@@ -12,6 +13,9 @@ namespace {
 constexpr double kLongestFirstStep = 0.5;
 constexpr double kFirstStepPart = 10;
 constexpr double kSecondStepPart = 100;
+constexpr double kShorterSteps = 10;
+/// Apart by more than this part of their size, two derivatives are not the same.
+constexpr double kSameSlope = 1e-7;
 
 constexpr std::size_t kStencil = 5;
 using Weights = std::array<double, kStencil>;
@@ -28,6 +32,12 @@ constexpr double kSlopeDivisor = 12;
 }  // namespace
 
 double DerivativeStep(double t) { return std::min(kLongestFirstStep, std::abs(t) / kFirstStepPart); }
+
+double SlopeAt(numeric::RealFunction f, double t, double first_step) {
+    const double slope = numeric::Derivative(f, t, first_step).value;
+    const double nearer = numeric::Derivative(f, t, first_step / kShorterSteps).value;
+    return std::abs(slope - nearer) <= kSameSlope * (1 + std::abs(nearer)) ? slope : nearer;
+}
 
 double SecondDerivativeStep(double t) { return t / kSecondStepPart; }
 

@@ -16,13 +16,9 @@ namespace {
 namespace kinematics = mechanics::kinematics;
 
 constexpr double kRadians = 1;
-// Parts of the size of the numbers: of formulas alone, of what is integrated step by step, of derivatives
-// from small first steps and from the long one of a graph, at which estimates may agree by chance.
+// Parts of the size of the numbers: of formulas alone, and of what steps make of them.
 constexpr double kPart = 1e-9;
 constexpr double kPartOfSteps = 1e-5;
-constexpr double kPartOfDerivative = 1e-3;
-constexpr double kPartOfGraphVelocity = 1e-2;
-constexpr double kPartOfGraphAcceleration = 1e-3;
 constexpr double kLatest = 5;
 constexpr const char* kTooManySteps = "Demasiados pasos en la rutina ODEInt.";
 constexpr const char* kCommandFailed = "Error en el comando.";
@@ -64,12 +60,11 @@ Verdict Judge(const KnownCourse& course, double t) {
             return Refused(kTooManySteps);
         const auto& state = std::get<kinematics::LineState>(outcome);
         const Sizes sizes = SizesOf(course, is_position ? t : course.typed.start.t, t);
-        const double part = is_position ? kPartOfDerivative : kPartOfSteps;
         std::string why = WhyNot("x", state.x, course.x(t), is_position ? kPart : kPartOfSteps, sizes.x);
         if (why.empty())
-            why = WhyNot("v", state.v, course.v(t), part, std::max(sizes.v, sizes.x));
+            why = WhyNot("v", state.v, course.v(t), kPartOfSteps, std::max(sizes.v, sizes.x));
         if (why.empty() && state.a)
-            why = WhyNot("a", *state.a, course.a(t), part, std::max({sizes.a, sizes.v, sizes.x}));
+            why = WhyNot("a", *state.a, course.a(t), kPartOfSteps, std::max({sizes.a, sizes.v, sizes.x}));
         return why.empty() ? Right() : Wrong(why);
     } catch (const numeric::RuntimeFailure& failure) {
         // A second derivative at t = 0 has no step.
@@ -120,12 +115,11 @@ Verdict PlayLineCurves(Problem& problem) {
     const bool is_position = course.typed.way == kinematics::Way::Position;
     const Sizes sizes = SizesOf(course, is_position ? first : std::min(first, course.typed.start.t), last);
     const double size = std::max({sizes.x, sizes.v, sizes.a});
-    const double part = is_position ? kPartOfGraphVelocity : kPartOfSteps;
     std::string why = WhyNoCurve("x", curves.t, curves.x, course.x, kPartOfSteps, sizes.x);
     if (why.empty())
-        why = WhyNoCurve("v", curves.t, curves.v, course.v, part, std::max(sizes.x, sizes.v));
+        why = WhyNoCurve("v", curves.t, curves.v, course.v, kPartOfSteps, std::max(sizes.x, sizes.v));
     if (why.empty())
-        why = WhyNoCurve("a", curves.t, curves.a, course.a, kPartOfGraphAcceleration, size);
+        why = WhyNoCurve("a", curves.t, curves.a, course.a, kPartOfSteps, size);
     return why.empty() ? Right() : Wrong(why);
 }
 

@@ -19,7 +19,7 @@ using kinematics::Way;
 using Pair = kinematics::PlaneState::Pair;
 
 constexpr double kPart = 1e-9;
-constexpr double kPartOfDerivative = 1e-3;
+constexpr double kPartOfDerivative = 1e-5;
 constexpr double kLatest = 5;
 
 /// A motion in the plane with the unit of its angles.

@@ -22,6 +22,18 @@ TEST(TimeSteps, DerivativeStepsShrinkTowardsZero) {
     EXPECT_EQ(SecondDerivativeStep(0), 0);
 }
 
+/// Here two estimates from long steps agree by chance at -238.9072.
+TEST(TimeSteps, ASlopeIsNotTakenInByChance) {
+    constexpr double kTime = 3.84;
+    const auto f = [](double t) {
+        return 4.41 - 6.66 * std::sin(1.77 * t) - 5.17 * t * t * t - 3.14 / (t + 3.71);
+    };
+    const double slope = -6.66 * 1.77 * std::cos(1.77 * kTime) - 5.17 * 3 * kTime * kTime +
+                         3.14 / ((kTime + 3.71) * (kTime + 3.71));
+    EXPECT_NEAR(SlopeAt(f, kTime, DerivativeStep(kTime)), slope, 1e-6);
+    EXPECT_NEAR(SlopeAt(f, kTime, 0.5), slope, 1e-6);
+}
+
 TEST(TimeSteps, EqualStepsHoldBothEnds) {
     EXPECT_EQ(EqualSteps(1, 3, 4), (std::vector<double>{1, 1.5, 2, 2.5, 3}));
     EXPECT_EQ(FailureOf([] { EqualSteps(-1e308, 1e308, 4); }), FailureCode::Overflow);
