@@ -17,6 +17,7 @@ using forces::ResultantKind;
 using numeric::Point;
 
 constexpr double kRounding = 1e-9;
+constexpr double kLinePart = 1e-6;
 // What the steps of a load's integral leave of it.
 constexpr double kStepsPart = 1e-3;
 
@@ -70,6 +71,35 @@ struct Total {
 
 }  // namespace
 
+namespace {
+
+double MomentAbout(const Total& total, Point point) {
+    return total.moment - (point.x * total.y - point.y * total.x);
+}
+
+std::string FaultOfSums(const forces::PlaneResultant& found, const Total& total) {
+    if (Agree(found.force.x, total.x, kRounding, total.size) &&
+        Agree(found.force.y, total.y, kRounding, total.size) &&
+        Agree(found.moment, total.moment, kRounding, total.size))
+        return "";
+    return "sums " + Digits(found.force.x) + ", " + Digits(found.force.y) + ", " + Digits(found.moment);
+}
+
+// On its line the resultant alone does what all forces do.
+std::string FaultOfLine(const forces::PlaneResultant& found, const Total& total) {
+    std::vector<Point> on_line;
+    if (found.line != forces::ActionLine::Horizontal)
+        on_line.push_back({found.x_intercept, 0});
+    if (found.line != forces::ActionLine::Vertical)
+        on_line.push_back({0, found.y_intercept});
+    for (const Point& point : on_line)
+        if (std::abs(MomentAbout(total, point)) > kLinePart * total.size)
+            return "on its line the moment is " + Digits(MomentAbout(total, point));
+    return "";
+}
+
+}  // namespace
+
 Verdict PlayPlaneForces(Problem& problem) {
     Chance& chance = problem.chance;
     const auto place = [&] { return Point{chance.Between(-9.0, 9.0), chance.Between(-9.0, 9.0)}; };
@@ -84,39 +114,23 @@ Verdict PlayPlaneForces(Problem& problem) {
         add(chance.Between(-90.0, 90.0), chance.Between(-90.0, 90.0));
     const Wanted wanted = AnyWanted(chance);
     add(wanted.x - total.x, wanted.y - total.y);
+    if (wanted.kind != ResultantKind::Force && std::hypot(total.x, total.y) > kRounding)
+        return Right();  // the last force would have been nothing, which cannot be typed
+    const Point any = place();
+    if (!Agree(forces::VectorListMoments(list, any), MomentAbout(total, any), kRounding, total.size))
+        return Wrong("the sum of moments is " + Digits(forces::VectorListMoments(list, any)));
     const Typed couple = Rounded(wanted.moment - total.moment, 9);
     problem.Type(couple.text);
     total.moment += couple.value;
-    if (wanted.kind != ResultantKind::Force &&
-        (std::abs(total.x) > kRounding || std::abs(total.y) > kRounding))
-        return Right();  // the last force would have been nothing, which cannot be typed
     const forces::PlaneResultant found = forces::PlaneForces(list, std::vector{couple.value});
-    if (!Agree(found.force.x, total.x, kRounding, total.size) ||
-        !Agree(found.force.y, total.y, kRounding, total.size) ||
-        !Agree(found.moment, total.moment, kRounding, total.size))
-        return Wrong("sums " + Digits(found.force.x) + ", " + Digits(found.force.y) + ", " +
-                     Digits(found.moment));
     if (found.kind != wanted.kind)
         return Wrong("the kind of the resultant is another one");
-    const Point any = place();
-    const double about_any = total.moment - (any.x * total.y - any.y * total.x);
-    if (!Agree(forces::MomentAt(found, any), about_any, kRounding, total.size))
-        return Wrong("the moment at " + Digits(any.x) + ", " + Digits(any.y) + " is " +
-                     Digits(forces::MomentAt(found, any)));
-    if (found.kind != ResultantKind::Force)
-        return Right();
-    // On its line the resultant alone does what all forces do.
-    std::vector<Point> on_line;
-    if (found.line != forces::ActionLine::Horizontal)
-        on_line.push_back({found.x_intercept, 0});
-    if (found.line != forces::ActionLine::Vertical)
-        on_line.push_back({0, found.y_intercept});
-    for (const Point& point : on_line) {
-        const double left = total.moment - (point.x * total.y - point.y * total.x);
-        if (std::abs(left) > 1e-6 * total.size)
-            return Wrong("on its line the moment is " + Digits(left));
-    }
-    return Right();
+    if (!Agree(forces::MomentAt(found, any), MomentAbout(total, any), kRounding, total.size))
+        return Wrong("the moment at another point is " + Digits(forces::MomentAt(found, any)));
+    std::string fault = FaultOfSums(found, total);
+    if (fault.empty() && found.kind == ResultantKind::Force)
+        fault = FaultOfLine(found, total);
+    return fault.empty() ? Right() : Wrong(fault);
 }
 
 Verdict PlayParallelForces(Problem& problem) {

@@ -16,6 +16,7 @@ namespace {
 namespace forces = mechanics::forces;
 
 constexpr double kRounding = 1e-9;
+constexpr double kAngleRounding = 1e-6;
 constexpr int kDecimals = 3;
 constexpr double kDegrees = 180 / std::numbers::pi;
 // The cross product of nearly parallel vectors, as a part of the product of their lengths.
@@ -72,40 +73,52 @@ Verdict PlayVectorText(Problem& problem) {
     return Right();
 }
 
-Verdict PlayVectorAlgebra(Problem& problem) {
-    Chance& chance = problem.chance;
-    const auto [a, va] = AnyVector(problem);
-    const auto [b, vb] = AnyVector(problem);
+namespace {
+
+std::string FaultOfPair(const Stated& a, const Stated& b) {
+    const Vector &va = a.value, &vb = b.value;
     const double size = va.Length() + vb.Length(), product = va.Length() * vb.Length();
-    const forces::SumAndProducts found = forces::VectorSum2(a, b);
-    std::string fault = FaultOf("the sum", found.sum, va + vb, size);
-    if (fault.empty())
-        fault = FaultOf("the difference", found.difference, va + -vb, size);
-    if (fault.empty() && !Agree(found.dot, Dot(va, vb), kRounding, product))
-        fault = "the scalar product is " + Digits(found.dot);
-    if (fault.empty() && !Agree(found.cross, Cross(va, vb), kRounding, product))
-        fault = "the vector product is " + Digits(found.cross);
+    const forces::SumAndProducts found = forces::VectorSum2(a.read, b.read);
+    if (!Agree(found.dot, Dot(va, vb), kRounding, product))
+        return "the scalar product is " + Digits(found.dot);
+    if (!Agree(found.cross, Cross(va, vb), kRounding, product))
+        return "the vector product is " + Digits(found.cross);
     const double between = std::atan2(std::abs(Cross(va, vb)), Dot(va, vb)) * kDegrees;
     const bool is_in_line = std::abs(Cross(va, vb)) < kNearlyParallel * product;
-    if (fault.empty() && !is_in_line && !Agree(found.angle, between, 1e-6))
-        fault = "the angle between is " + Digits(found.angle);
-    const double turn = TypedDirection(chance);
-    problem.Type(Digits(turn));
+    if (!is_in_line && !Agree(found.angle, between, kAngleRounding))
+        return "the angle between is " + Digits(found.angle);
+    const std::string fault = FaultOf("the sum", found.sum, va + vb, size);
+    return fault.empty() ? FaultOf("the difference", found.difference, va + -vb, size) : fault;
+}
+
+std::string FaultOfTurning(const Stated& a, double turn) {
+    const auto turned = [&](forces::RotationKind kind) { return forces::RotateVector(a.read, turn, kind); };
     const double c = CosDegrees(turn), s = SinDegrees(turn);
+    const Vector& v = a.value;
+    const std::string fault = FaultOf("the turned vector", turned(forces::RotationKind::Vector),
+                                      {v.x * c - v.y * s, v.x * s + v.y * c}, v.Length());
+    if (!fault.empty())
+        return fault;
+    return FaultOf("the vector in turned axes", turned(forces::RotationKind::Axes),
+                   {v.x * c + v.y * s, v.y * c - v.x * s}, v.Length());
+}
+
+}  // namespace
+
+Verdict PlayVectorAlgebra(Problem& problem) {
+    Chance& chance = problem.chance;
+    const Stated a = AnyVector(problem), b = AnyVector(problem);
+    const double turn = TypedDirection(chance);
+    const double first = Rounded(chance.Between(-9.0, 9.0), 1).value;
+    const double second = Rounded(chance.Between(-9.0, 9.0), 1).value;
+    problem.Type(Digits(turn) + " " + Digits(first) + " " + Digits(second));
+    std::string fault = FaultOfPair(a, b);
     if (fault.empty())
-        fault = FaultOf("the turned vector", forces::RotateVector(a, turn, forces::RotationKind::Vector),
-                        {va.x * c - va.y * s, va.x * s + va.y * c}, va.Length());
+        fault = FaultOfTurning(a, turn);
+    const std::array<forces::WeightedVector, 2> weighted = {{{first, a.read}, {second, b.read}}};
     if (fault.empty())
-        fault =
-            FaultOf("the vector in turned axes", forces::RotateVector(a, turn, forces::RotationKind::Axes),
-                    {va.x * c + va.y * s, va.y * c - va.x * s}, va.Length());
-    const double first = Rounded(chance.Between(-9.0, 9.0), 1).value,
-                 second = Rounded(chance.Between(-9.0, 9.0), 1).value;
-    problem.Type(Digits(first) + " and " + Digits(second));
-    const std::array<forces::WeightedVector, 2> weighted = {{{first, a}, {second, b}}};
-    if (fault.empty())
-        fault = FaultOf("the sum of products", forces::VectorListSum(weighted), first * va + second * vb,
-                        9 * size);
+        fault = FaultOf("the sum of products", forces::VectorListSum(weighted),
+                        first * a.value + second * b.value, 9 * (a.value.Length() + b.value.Length()));
     return RightUnless(fault);
 }
 

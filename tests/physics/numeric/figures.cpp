@@ -220,46 +220,76 @@ Verdict PlayTriangleOfVertices(Problem& problem) {
     return Right();
 }
 
-Verdict PlayPolygon(Problem& problem) {
+namespace {
+
+// A polygon and a point inside it, from which its vertices follow each other by less than half a turn, so
+// that no sides cross.
+struct Star {
+    Point middle;
+    bool is_clockwise;
+    std::vector<Point> vertices = {};
+
+    const Point& At(std::size_t k) const { return vertices[k % vertices.size()]; }
+};
+
+Star AnyStar(Problem& problem) {
     Chance& chance = problem.chance;
-    // Seen from a middle the vertices follow each other by less than half a turn, so that no sides cross.
     const std::size_t count = 3 + chance.Below(8);
-    const Point middle = {chance.Between(-20.0, 20.0), chance.Between(-20.0, 20.0)};
-    const bool is_clockwise = chance.OneIn(2);
-    std::vector<Point> vertices;
+    Star star = {{chance.Between(-20.0, 20.0), chance.Between(-20.0, 20.0)}, chance.OneIn(2)};
     for (std::size_t k = 0; k < count; ++k) {
         const double part = (static_cast<double>(k) + chance.Between(-0.2, 0.2)) / static_cast<double>(count);
-        const double angle = (is_clockwise ? -360 : 360) * part, radius = chance.Between(1.0, 10.0);
-        vertices.push_back({Rounded(middle.x + radius * CosDegrees(angle), 3).value,
-                            Rounded(middle.y + radius * SinDegrees(angle), 3).value});
-        problem.Type(Digits(vertices.back().x) + " " + Digits(vertices.back().y));
+        const double angle = (star.is_clockwise ? -360 : 360) * part, radius = chance.Between(1.0, 10.0);
+        star.vertices.push_back({Rounded(star.middle.x + radius * CosDegrees(angle), 3).value,
+                                 Rounded(star.middle.y + radius * SinDegrees(angle), 3).value});
+        problem.Type(Digits(star.vertices.back().x) + " " + Digits(star.vertices.back().y));
     }
-    const numeric::Polygon found = numeric::SolvePolygon(vertices);
-    Sum area, moment_x, moment_y;
-    double perimeter = 0;
+    return star;
+}
+
+// Why sides and angles are not those of the vertices; empty when they are.
+std::string FaultOfCorners(const numeric::Polygon& found, const Star& star) {
+    const std::size_t count = star.vertices.size();
     for (std::size_t k = 0; k < count; ++k) {
-        const Point &a = vertices[k], &b = vertices[(k + 1) % count],
-                    &last = vertices[(k + count - 1) % count];
-        const double part = ((a.x - middle.x) * (b.y - middle.y) - (a.y - middle.y) * (b.x - middle.x)) / 2 *
-                            (is_clockwise ? -1 : 1);
-        area.Add(part);
-        moment_x.Add(part * (a.x + b.x + middle.x) / 3);
-        moment_y.Add(part * (a.y + b.y + middle.y) / 3);
-        perimeter += Distance(a, b);
-        if (!Agree(found.sides[k], Distance(a, b), kRounding))
-            return Wrong("side " + std::to_string(k + 1) + " is " + Digits(found.sides[k]));
-        const bool is_hollow = found.angles[k] > 180;
-        if (!Agree(is_hollow ? 360 - found.angles[k] : found.angles[k], AngleAt(a, last, b), kRounding, 1))
-            return Wrong("angle " + std::to_string(k + 1) + " is " + Digits(found.angles[k]));
+        if (!Agree(found.sides[k], Distance(star.At(k), star.At(k + 1)), kRounding))
+            return "side " + std::to_string(k + 1) + " is " + Digits(found.sides[k]);
+        const double inner = found.angles[k] > 180 ? 360 - found.angles[k] : found.angles[k];
+        if (!Agree(inner, AngleAt(star.At(k), star.At(k + 1), star.At(k + count - 1)), kRounding, 1))
+            return "angle " + std::to_string(k + 1) + " is " + Digits(found.angles[k]);
     }
     if (!Agree(found.angle_total, 180 * (static_cast<double>(count) - 2), kRounding))
-        return Wrong("the angles make " + Digits(found.angle_total));
-    if (!Agree(found.area, area.Value(), kRounding) || !Agree(found.perimeter, perimeter, kRounding))
-        return Wrong("area " + Digits(found.area) + ", perimeter " + Digits(found.perimeter));
-    if (!Agree(found.centroid.x, moment_x.Value() / area.Value(), kRounding, 10) ||
-        !Agree(found.centroid.y, moment_y.Value() / area.Value(), kRounding, 10))
-        return Wrong("the centroid is " + Digits(found.centroid.x) + ", " + Digits(found.centroid.y));
-    return Right();
+        return "the angles make " + Digits(found.angle_total);
+    return "";
+}
+
+// Why the whole is not that of the triangles from the middle to each side; empty when it is.
+std::string FaultOfWhole(const numeric::Polygon& found, const Star& star) {
+    double area = 0, perimeter = 0;
+    Point moment = {0, 0};
+    for (std::size_t k = 0; k < star.vertices.size(); ++k) {
+        const Point &a = star.At(k), &b = star.At(k + 1), &m = star.middle;
+        const double doubled = (a.x - m.x) * (b.y - m.y) - (a.y - m.y) * (b.x - m.x);
+        const double part = star.is_clockwise ? -doubled / 2 : doubled / 2;
+        area += part;
+        moment = {moment.x + part * (a.x + b.x + m.x) / 3, moment.y + part * (a.y + b.y + m.y) / 3};
+        perimeter += Distance(a, b);
+    }
+    if (!Agree(found.area, area, kRounding) || !Agree(found.perimeter, perimeter, kRounding))
+        return "area " + Digits(found.area) + ", perimeter " + Digits(found.perimeter);
+    if (!Agree(found.centroid.x, moment.x / area, kRounding, 10) ||
+        !Agree(found.centroid.y, moment.y / area, kRounding, 10))
+        return "the centroid is " + Digits(found.centroid.x) + ", " + Digits(found.centroid.y);
+    return "";
+}
+
+}  // namespace
+
+Verdict PlayPolygon(Problem& problem) {
+    const Star star = AnyStar(problem);
+    const numeric::Polygon found = numeric::SolvePolygon(star.vertices);
+    std::string fault = FaultOfCorners(found, star);
+    if (fault.empty())
+        fault = FaultOfWhole(found, star);
+    return fault.empty() ? Right() : Wrong(fault);
 }
 
 }  // namespace tavrelo::physics

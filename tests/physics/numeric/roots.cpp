@@ -155,38 +155,57 @@ Verdict PlayCosSin(Problem& problem) {
     return Right();
 }
 
-Verdict PlayRootSearch(Problem& problem) {
-    Chance& chance = problem.chance;
-    const double left = Rounded(chance.Between(-50.0, 50.0), 2).value;
-    const double right = left + Rounded(chance.Size(1, 100), 2).value;
-    const double cell = (right - left) / kCells;
-    std::vector<double> roots;
-    for (std::size_t k = chance.Below(7); k > 0; --k) {
-        const double root = chance.Between(left, right);
-        // Two in one cell are no change of sign; one on a sample is missed.
-        const auto is_near = [&](double other) { return std::abs(other - root) < 3 * cell; };
-        const double from_sample = std::abs(std::remainder(root - left, cell));
-        if (std::ranges::none_of(roots, is_near) && from_sample > 1e-4 * cell)
-            roots.push_back(root);
-    }
-    std::ranges::sort(roots);
-    const double factor = chance.Sign() * chance.Size(0.1, 10);
-    std::string text = Digits(factor);
-    for (const double root : roots)
-        text += "*(x - " + Digits(root) + ")";
-    problem.Type(text + " between " + Digits(left) + " and " + Digits(right));
-    const auto f = [&](double x) {
+namespace {
+
+// A product with known roots between two ends, apart from each other and from the samples of the search: two
+// in one cell are no change of sign, one on a sample is missed.
+struct Product {
+    double left, right, factor;
+    std::vector<double> roots = {};
+
+    double Cell() const { return (right - left) / kCells; }
+    double At(double x) const {
         double value = factor;
         for (const double root : roots)
-            value *= (x - root) / cell;
+            value *= (x - root) / Cell();
         return value;
-    };
-    const bool is_backward = chance.OneIn(4);
-    const auto outcome = numeric::FindRoots(f, is_backward ? right : left, is_backward ? left : right);
-    if (const auto* refusal = std::get_if<numeric::RootsRefusal>(&outcome))
-        return roots.empty()
-                   ? Refused(numeric::TextOf(*refusal))
-                   : Wrong("refused although it has roots: " + std::string(numeric::TextOf(*refusal)));
+    }
+    bool CanTake(double root) const {
+        const double from_sample = std::abs(std::remainder(root - left, Cell()));
+        return from_sample > 1e-4 * Cell() &&
+               std::ranges::none_of(roots, [&](double other) { return std::abs(other - root) < 3 * Cell(); });
+    }
+};
+
+Product AnyProduct(Problem& problem) {
+    Chance& chance = problem.chance;
+    const double left = Rounded(chance.Between(-50.0, 50.0), 2).value;
+    Product product = {left, left + Rounded(chance.Size(1, 100), 2).value,
+                       chance.Sign() * chance.Size(0.1, 10)};
+    for (std::size_t k = chance.Below(7); k > 0; --k)
+        if (const double root = chance.Between(left, product.right); product.CanTake(root))
+            product.roots.push_back(root);
+    std::ranges::sort(product.roots);
+    std::string text = Digits(product.factor);
+    for (const double root : product.roots)
+        text += "*(x - " + Digits(root) + ")";
+    problem.Type(text + " between " + Digits(left) + " and " + Digits(product.right));
+    return product;
+}
+
+}  // namespace
+
+Verdict PlayRootSearch(Problem& problem) {
+    const Product product = AnyProduct(problem);
+    const std::vector<double>& roots = product.roots;
+    const bool is_backward = problem.chance.OneIn(4);
+    const auto outcome = numeric::FindRoots([&](double x) { return product.At(x); },
+                                            is_backward ? product.right : product.left,
+                                            is_backward ? product.left : product.right);
+    if (const auto* refusal = std::get_if<numeric::RootsRefusal>(&outcome)) {
+        const std::string message(numeric::TextOf(*refusal));
+        return roots.empty() ? Refused(message) : Wrong("refused although it has roots: " + message);
+    }
     const std::vector<double>& found = std::get<numeric::FoundRoots>(outcome).roots;
     if (found.size() != roots.size())
         return Wrong(std::to_string(found.size()) + " roots of " + std::to_string(roots.size()));

@@ -227,6 +227,38 @@ Verdict PlayFreeForce(Problem& problem) {
     return JudgedCount(structure, asked, 1, is_regular);
 }
 
+namespace {
+
+// How many angles keep the body with a rope that pulls, and whether none of them lies near a limit.
+struct Pulls {
+    std::size_t count = 0;
+    bool are_clear = true;
+};
+
+Pulls PullsOf(const TurnedBody& body, const std::string& rope, const std::string& other) {
+    const Triple side = body.ColumnAt(other, 0), load = body.Sums({}, 0);
+    const Triple weights = Cross(load, side);
+    const AngleSum sum = AngleSum::Of([&](double at) { return Dot(weights, body.ColumnAt(rope, at)); });
+    const Triple turned = TurnedBody::Minus(body.ColumnAt(rope, 0), body.ColumnAt(rope, 180));
+    if (Length(weights) < kNothing * Length(load) * Length(side) ||
+        sum.Amplitude() < kNothing * Length(weights) * Length(turned) || std::abs(sum.Cosine()) > kClearlyTwo)
+        return {0, false};
+    Pulls pulls;
+    for (const double root : sum.Roots()) {
+        // The rope's column, the other one and the load lie in one plane: two of them make the third.
+        const Triple column = body.ColumnAt(rope, root);
+        const Triple across = Cross(column, side);
+        const double size = Length(across);
+        const double pull = -Dot(Cross(load, side), across) / (size * size);
+        pulls.count += pull > 0 ? 1 : 0;
+        pulls.are_clear = pulls.are_clear && Length(column) > kNothing * Length(turned) &&
+                          size > kNothing * Length(column) * Length(side) && std::abs(pull) > kNothing;
+    }
+    return pulls;
+}
+
+}  // namespace
+
 Verdict PlayBodyOnARope(Problem& problem) {
     Chance& chance = problem.chance;
     TypedStructure structure = BodyOf(problem);
@@ -245,25 +277,7 @@ Verdict PlayBodyOnARope(Problem& problem) {
     const AskedBody asked = {kBody, AnyPoint(chance, points)};
     AddBalance(chance, structure, asked, values);
     const TurnedBody body(structure, asked, NameOf(angle), values);
-    const Triple side = body.ColumnAt(other, 0), load = body.Sums({}, 0);
-    const Triple weights = Cross(load, side);
-    const AngleSum sum = AngleSum::Of([&](double at) { return Dot(weights, body.ColumnAt(rope, at)); });
-    const Triple turned = TurnedBody::Minus(body.ColumnAt(rope, 0), body.ColumnAt(rope, 180));
-    bool is_clear = Length(weights) > kNothing * Length(load) * Length(side) &&
-                    sum.Amplitude() > kNothing * Length(weights) * Length(turned) &&
-                    std::abs(sum.Cosine()) < kClearlyTwo;
-    std::size_t pulling = 0;
-    for (const double root : is_clear ? sum.Roots() : std::array<double, 2>{}) {
-        // The rope's column, the other one and the load lie in one plane: two of them make the third.
-        const Triple column = body.ColumnAt(rope, root);
-        const Triple across = Cross(column, side);
-        const double size = Length(across);
-        is_clear = is_clear && Length(column) > kNothing * Length(turned) &&
-                   size > kNothing * Length(column) * Length(side);
-        const double pull = -Dot(Cross(load, side), across) / (size * size);
-        is_clear = is_clear && std::abs(pull) > kNothing;
-        pulling += pull > 0 ? 1 : 0;
-    }
+    const auto [pulling, is_clear] = PullsOf(body, rope, other);
     return JudgedCount(structure, asked, pulling, is_clear);
 }
 

@@ -313,30 +313,31 @@ StructureAnswers TypedStructure::Solve(const std::vector<AskedBody>& bodies, con
     const auto equations = rigid::BuildEquations(m_problem.forces, chosen, suppressed);
     if (const auto* refusal = std::get_if<text::Refusal>(&equations))
         return {refusal->text, {}, {}};
-    StructureAnswers answers;
-    answers.fault = FaultOfPlaces();
-    const auto judge = [&](const rigid::BodyResults& results) {
-        const Values values = ValuesOf(results);
-        answers.solutions.push_back(values);
-        std::string fault = FaultOf(bodies, values);
-        if (fault.empty())
-            fault = FaultOfTable(m_rows, rigid::WithResults(m_problem.forces, results), bodies, values);
-        if (!fault.empty() && answers.fault.empty())
-            answers.fault = "with " + Told(values) + " " + fault;
-    };
+    StructureAnswers answers = {"", {}, FaultOfPlaces()};
     try {
         const auto outcome = rigid::SolveEquations(std::get<rigid::BodyEquations>(equations), bodies.size());
         if (const auto* refusal = std::get_if<text::Refusal>(&outcome))
             answers.refusal = refusal->text;
         else if (const auto* results = std::get_if<rigid::BodyResults>(&outcome))
-            judge(*results);
+            Judge(*results, bodies, answers);
         else
-            for (const rigid::BodyResults& results : std::get<rigid::BodyChoice>(outcome))
-                judge(results);
+            for (const rigid::BodyResults& offered : std::get<rigid::BodyChoice>(outcome))
+                Judge(offered, bodies, answers);
     } catch (const numeric::RuntimeFailure&) {
         answers.refusal = text::kCommandFailed;
     }
     return answers;
+}
+
+void TypedStructure::Judge(const rigid::BodyResults& results, const std::vector<AskedBody>& bodies,
+                           StructureAnswers& answers) const {
+    const Values values = ValuesOf(results);
+    answers.solutions.push_back(values);
+    std::string fault = FaultOf(bodies, values);
+    if (fault.empty())
+        fault = FaultOfTable(m_rows, rigid::WithResults(m_problem.forces, results), bodies, values);
+    if (!fault.empty() && answers.fault.empty())
+        answers.fault = "with " + Told(values) + " " + fault;
 }
 
 }  // namespace tavrelo::physics

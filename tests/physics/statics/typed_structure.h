@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "mechanics/rigid/results.h"
 #include "mechanics/rigid/rigid_problem.h"
 #include "problem.h"
 #include "statics/stated_force.h"
@@ -96,6 +97,9 @@ class TypedStructure {
     char NextName() const { return static_cast<char>('A' + m_places.size()); }
     void Remember(char name, Components at);
     bool IsParticle(int body) const;
+    // Puts a solution into the sums and adds it to the answers.
+    void Judge(const mechanics::rigid::BodyResults& results, const std::vector<AskedBody>& bodies,
+               StructureAnswers& answers) const;
     std::string FaultOfPlaces() const;
     std::string FaultOf(const std::vector<AskedBody>& bodies, const Values& values) const;
 
