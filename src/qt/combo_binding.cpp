@@ -1,7 +1,10 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QWheelEvent>
+#include <utility>
 
+#include "qt/accessible.h"
+#include "qt/accessible_combo.h"
 #include "qt/bindings.h"
 #include "qt/text.h"
 
@@ -9,9 +12,13 @@ namespace tavrelo::qt {
 namespace {
 
 /// A combo whose list opens as wide as its longest row and which the wheel moves only while it has the focus.
-class WideCombo : public QComboBox {
+class WideCombo : public QComboBox, public TellsOfItself {
   public:
-    using QComboBox::QComboBox;
+    explicit WideCombo(QWidget& parent) : QComboBox(&parent) {
+        connect(this, &QComboBox::currentTextChanged, this, [this](const QString& text) { TellRow(text); });
+    }
+
+    QAccessibleInterface* NewAccessible() override { return new AccessibleCombo(*this); }
 
     void showPopup() override {
         const int margins = view()->contentsMargins().left() + view()->contentsMargins().right();
@@ -27,6 +34,14 @@ class WideCombo : public QComboBox {
         else
             event->ignore();
     }
+
+  private:
+    void TellRow(const QString& text) {
+        QAccessibleTextUpdateEvent event(this, 0, std::exchange(m_told, text), text);
+        QAccessible::updateAccessibility(&event);
+    }
+
+    QString m_told;
 };
 
 class ComboBinding : public Binding {
@@ -57,7 +72,7 @@ class ComboBinding : public Binding {
 }  // namespace
 
 std::unique_ptr<Binding> NewComboBinding(window::Control& control, QWidget& parent, ViewContext& context) {
-    auto* widget = new WideCombo(&parent);
+    auto* widget = new WideCombo(parent);
     widget->setMaxVisibleItems(20);
     // The list is measured when it opens, not when it is filled.
     widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

@@ -4,6 +4,7 @@
 #include <QTabBar>
 
 #include "qt/accessible.h"
+#include "qt/accessible_tabs.h"
 #include "qt/bindings.h"
 #include "qt/flat_parts.h"
 #include "qt/fonts.h"
@@ -16,7 +17,7 @@ constexpr int kTabHeight = 24;
 constexpr int kTabMargin = 9;  // left and right of a caption
 
 /// Tabs just as wide as their captions, so that three fit over the narrowest page.
-class TightTabBar : public QTabBar {
+class TightTabBar : public QTabBar, public TellsOfItself {
   public:
     TightTabBar(QWidget& parent, const ViewContext& context) : QTabBar(&parent), m_context(context) {
         setDrawBase(false);
@@ -25,6 +26,8 @@ class TightTabBar : public QTabBar {
         setElideMode(Qt::ElideNone);
         setFocusPolicy(Qt::TabFocus);
     }
+
+    QAccessibleInterface* NewAccessible() override { return new AccessibleTabs(*this); }
 
   protected:
     QSize tabSizeHint(int index) const override {
@@ -49,13 +52,15 @@ class TabStripWidget : public QWidget, public TellsOfItself {
         setFocusProxy(&m_tabs);
         setFocusPolicy(Qt::TabFocus);
         setAutoFillBackground(true);
+        connect(&m_tabs, &QTabBar::currentChanged, this, [this] {
+            QAccessibleEvent event(this, QAccessible::NameChanged);
+            QAccessible::updateAccessibility(&event);
+        });
     }
 
     QTabBar& Tabs() { return m_tabs; }
 
-    QAccessibleInterface* NewAccessible() override {
-        return new QAccessibleWidget(this, QAccessible::Grouping);
-    }
+    QAccessibleInterface* NewAccessible() override { return new AccessiblePage(*this, m_tabs); }
 
   protected:
     void resizeEvent(QResizeEvent*) override {

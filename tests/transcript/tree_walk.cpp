@@ -20,9 +20,8 @@ constexpr Role kTexts[] = {QAccessible::StaticText, QAccessible::Graphic, QAcces
 /// What is told apart by the one that it belongs to.
 constexpr Role kParts[] = {QAccessible::Cell, QAccessible::ColumnHeader, QAccessible::RowHeader,
                            QAccessible::ListItem};
-/// What the toolkit calls by the one of its parts that is in front, and windows, which nobody takes for one
-/// of the controls in them.
-constexpr Role kApart[] = {QAccessible::PageTabList, QAccessible::Window, QAccessible::Dialog};
+/// What nobody takes for one of the controls in it.
+constexpr Role kApart[] = {QAccessible::Window, QAccessible::Dialog};
 
 template <std::size_t kCount>
 bool IsOneOf(const Role (&roles)[kCount], Role role) {

@@ -24,7 +24,7 @@ QString NameOf(const QAccessibleInterface& object) { return object.text(QAccessi
 struct Note {
     QAccessible::Event event;
     QAccessible::Role role;
-    QString text;  // what was inserted, else the name
+    QString text;  // what was inserted or put instead, else the name
 };
 std::vector<Note>& Notes() {
     static std::vector<Note> notes;
@@ -35,8 +35,12 @@ void TakeNote(QAccessibleEvent* event) {
     const QAccessibleInterface* object = event->accessibleInterface();
     if (!object || !object->isValid())
         return;
-    const auto* insert = dynamic_cast<const QAccessibleTextInsertEvent*>(event);
-    Notes().push_back({event->type(), object->role(), insert ? insert->textInserted() : NameOf(*object)});
+    QString text = NameOf(*object);
+    if (const auto* insert = dynamic_cast<const QAccessibleTextInsertEvent*>(event))
+        text = insert->textInserted();
+    if (const auto* update = dynamic_cast<const QAccessibleTextUpdateEvent*>(event))
+        text = update->textInserted();
+    Notes().push_back({event->type(), object->role(), text});
 }
 
 /// The texts of all notes of that kind since the last call of Notes().clear().
@@ -191,6 +195,7 @@ void AccessibleTest::ListsCombosTabsAndArrowsTellTheirState() {
     QCOMPARE(Told(bar).role(), QAccessible::PageTabList);
     QCOMPARE(Told(bar).child(1)->role(), QAccessible::PageTab);
     QCOMPARE(NameOf(*Told(bar).child(1)), QString("DCL"));
+    QCOMPARE(NameOf(Told(bar)), QString("Equilibrio del cuerpo rígido"));
 
     const QAccessibleInterface& spin = Told(window.Widget("spnColor"));
     QCOMPARE(spin.role(), QAccessible::SpinBox);
@@ -208,6 +213,60 @@ void AccessibleTest::ListsCombosTabsAndArrowsTellTheirState() {
     const QAccessibleInterface& topics = Told(window.Widget("cboHelp"));
     QCOMPARE(topics.role(), QAccessible::ComboBox);
     QCOMPARE(topics.text(QAccessible::Value), window.As<QComboBox>("cboHelp").currentText());
+    QCOMPARE(NameOf(topics), QString("Tema de ayuda"));
+}
+
+void AccessibleTest::TheTabInFrontIsTold() {
+    TestWindow window;
+    window.PressTool(3);
+    auto& strip = window.Form().Get<window::TabStrip>("tabStat");
+    QTabBar& bar = *window.Widget("tabStat").findChild<QTabBar*>();
+    const QAccessibleInterface& tabs = Told(bar);
+    QCOMPARE(tabs.childCount(), 3);
+    const auto in_front = [&tabs] {
+        QStringList names;
+        for (int index = 0; index < tabs.childCount(); ++index)
+            if (tabs.child(index)->state().selected)
+                names << NameOf(*tabs.child(index));
+        return names;
+    };
+    QCOMPARE(in_front(), QStringList{NameOf(*tabs.child(0))});
+    QAccessible::installUpdateHandler(TakeNote);
+    strip.UserPick(1);
+    QCOMPARE(in_front(), QStringList{"DCL"});
+    QCOMPARE(Noted(QAccessible::Selection, QAccessible::PageTab), QStringList{"DCL"});
+    // The page is called after its tab.
+    QCOMPARE(NameOf(Told(window.Widget("tabStat"))), QString("Ficha DCL"));
+    QVERIFY(!tabs.focusChild());
+    bar.setFocus();
+    QCOMPARE(tabs.focusChild(), tabs.child(1));
+    QVERIFY(tabs.child(1)->state().focused && !tabs.child(0)->state().focused);
+    const QPoint middle = tabs.child(2)->rect().center();
+    QCOMPARE(tabs.childAt(middle.x(), middle.y()), tabs.child(2));
+    QCOMPARE(tabs.indexOfChild(tabs.child(2)), 2);
+    tabs.child(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(strip.Current(), 2);
+}
+
+void AccessibleTest::ACombosRowIsItsValueAndItsText() {
+    TestWindow window;
+    window.PressTool(2);
+    window.PressTool(8);
+    auto& combo = window.As<QComboBox>("cboHelp");
+    QAccessibleInterface& topics = Told(combo);
+    QVERIFY(combo.count() > 1);
+    QAccessible::installUpdateHandler(TakeNote);
+    combo.setFocus();
+    QTest::keyClick(&combo, Qt::Key_Down);
+    const QString row = combo.currentText();
+    QCOMPARE(row, combo.itemText(1));
+    QCOMPARE(NameOf(topics), QString("Tema de ayuda"));
+    QCOMPARE(topics.text(QAccessible::Value), row);
+    QCOMPARE(topics.textInterface()->text(0, topics.textInterface()->characterCount()), row);
+    QVERIFY(topics.state().collapsed && topics.state().focused);
+    QCOMPARE(topics.child(0)->role(), QAccessible::List);
+    QCOMPARE(topics.child(0)->childCount(), combo.count());
+    QCOMPARE(Noted(QAccessible::TextUpdated, QAccessible::ComboBox), QStringList{row});
 }
 
 void AccessibleTest::AReportIsSaidOnce() {

@@ -193,6 +193,8 @@ class AccessibleTest : public QObject {
     void TheFocusGoesWithTheCurrentCell();
     void AChosenBlockIsTold();
     void ListsCombosTabsAndArrowsTellTheirState();
+    void TheTabInFrontIsTold();
+    void ACombosRowIsItsValueAndItsText();
     void AReportIsSaidOnce();
     void OneHandlerIsSaidInOneGo();
     void NothingIsNotSaid();
