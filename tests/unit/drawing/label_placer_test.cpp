@@ -129,5 +129,15 @@ TEST(LabelPlacer, TheFreeSideLiesInTheWidestAngle) {
     }
 }
 
+/// Without a side of its own a label stands above its place.
+TEST(LabelPlacer, StandsAboveWhenNoSideIsGiven) {
+    window::Recorder picture(kWidth, kHeight);
+    LabelPlacer labels(picture);
+    PrintLabel(picture, labels.Place("A", {200, 150}, {0, 0}, text::kBlack));
+    const auto areas = LabelAreas(picture);
+    ASSERT_EQ(areas.size(), 1U);
+    EXPECT_LE(areas[0].bottom, 150);
+    EXPECT_NEAR((areas[0].left + areas[0].right) / 2, 200, 0.5);
+}
 }  // namespace
 }  // namespace tavrelo::drawing

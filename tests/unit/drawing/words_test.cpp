@@ -31,6 +31,7 @@ TEST(Words, JoinLists) {
     EXPECT_EQ(Listed(items), "A, B y C");
     EXPECT_EQ(ListedAtLength(items), "A; B; C");
     EXPECT_EQ(AsSentence("ángulo"), "Ángulo");
+    EXPECT_EQ(AsSentence(""), "");
 }
 
 TEST(Words, TellNumbersAndDirections) {
@@ -98,5 +99,24 @@ TEST(PathWords, TellBothEndsAndTheExtent) {
               "empieza en x 1, y 0 y termina en x menos 1, y 0. Abarca x de menos 1 a 1, y de 0 a 1.");
 }
 
+/// A saw of nine teeth between -1 and 1, a sample each: nine stretches, five of them upward, and a zero
+/// halfway up or down each. Too many to tell one by one.
+TEST(CurveWords, CountsLongListsOfZerosAndStretches) {
+    Values xs, ys;
+    for (int k = 0; k <= 9; ++k) {
+        xs.push_back(k);
+        ys.push_back(k % 2 == 0 ? -1 : 1);
+    }
+    EXPECT_EQ(ZerosOf(xs, ys), (Values{0.5, 1.5, 2.5, 3.5, 4.5, 5.5, 6.5, 7.5, 8.5}));
+    EXPECT_EQ(
+        CurveWords({"t", "v", xs, ys}, 3),
+        "v frente a t, de t 0 a t 9. Mínimo menos 1 en t 0; máximo 1 en t 1. 9 ceros, de t 0.5 a t 8.5. "
+        "Sube en 5 tramos y baja en 4.");
+}
+
+TEST(CurveWords, AnEmptyCurveHasNoStretch) {
+    EXPECT_TRUE(StretchesOf({}, {}).empty());
+    EXPECT_EQ(PathWords({"x", "y", {}, {}}, 3), "");
+}
 }  // namespace
 }  // namespace tavrelo::drawing

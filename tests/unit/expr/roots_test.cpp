@@ -57,7 +57,9 @@ INSTANTIATE_TEST_SUITE_P(Limits, RootScan,
                                            ScanRow{"X-1.5", 0, -5, 1, {}},      //
                                            ScanRow{"X", 0, 0, 0, {}},           // no range at all
                                            ScanRow{"X-0.5", 0, 1, 1e-300, {}},  // no headway
-                                           ScanRow{"X", 1e300, -1e300, 1e-9, {}}));
+                                           ScanRow{"X", 1e300, -1e300, 1e-9, {}},
+                                           // the step leaves the range of numbers
+                                           ScanRow{"X", 1.5e308, 1.7e308, 1e308, {}}));
 
 TEST(RootScan, APoleIsReportedAsARoot) {
     CExpression expression(testing::kDegrees);

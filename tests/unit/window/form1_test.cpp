@@ -112,5 +112,48 @@ TEST_F(Form1Test, TwoWindowsLiveSideBySide) {
     EXPECT_EQ(other.publics.Decimals, 3);
 }
 
+TEST_F(Form1Test, TellsOfFocusAndPointer) {
+    std::vector<std::pair<std::string, Change>> heard;
+    form.OnChange = [&](Control& control, Change change) { heard.emplace_back(control.Name(), change); };
+    auto& box = form.Get<TextBox>("txtNCD");
+    form.Get<Window>("Form2").SetVisible(true);
+    heard.clear();
+    form.SetFocus(box);
+    form.SetFocus(box);
+    form.SetPointer(kPointerCross);
+    EXPECT_EQ(form.Focus(), &box);
+    EXPECT_EQ(form.Pointer(), kPointerCross);
+    EXPECT_EQ(heard, (std::vector<std::pair<std::string, Change>>{{"txtNCD", Change::Focus},
+                                                                  {"Form1", Change::State}}));
+}
+
+TEST_F(Form1Test, EndsOnce) {
+    int ends = 0;
+    form.OnEnd = [&] { ++ends; };
+    form.End();
+    form.End();
+    EXPECT_EQ(ends, 1);
+    EXPECT_FALSE(form.Get<Window>("Form1").IsShown());
+}
+
+TEST_F(Form1Test, AnArrayHasNoOtherIndexes) {
+    const auto parts = form.GetArray<Button>("cmdParts");
+    EXPECT_EQ(parts[5].Caption(), "Cancelar última");
+    EXPECT_THROW(parts[3], numeric::RuntimeFailure);
+}
+
+/// Fifteen twips are a pixel; the upward pixels of a picture begin at its lower edge.
+TEST_F(Form1Test, APictureHasItsOwnUnits) {
+    auto& picture = form.Get<Picture>("picClock");
+    const double height = picture.Bounds().height;
+    const std::pair<MouseUnits, Point> rows[] = {{MouseUnits::Pixels, {30, 20}},
+                                                 {MouseUnits::PixelsUp, {30, height - 20}},
+                                                 {MouseUnits::Twips, {450, 300}}};
+    for (const auto& [units, own] : rows) {
+        picture.SetUnits(units);
+        EXPECT_EQ(picture.ToOwnUnits({30, 20}).x, own.x);
+        EXPECT_EQ(picture.ToOwnUnits({30, 20}).y, own.y);
+    }
+}
 }  // namespace
 }  // namespace tavrelo::window

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "test_host.h"
-#include "window/form1.h"
+#include "window/guarded.h"
 
 namespace tavrelo::window {
 namespace {
@@ -54,5 +54,64 @@ TEST_F(GridTest, RemovingTheCurrentLastRowLeavesNoCurrentCell) {
     EXPECT_EQ(grid.Row(), -1);
 }
 
+TEST_F(GridTest, TheKeysBeginAtTheFirstCellWhenNoneIsCurrent) {
+    grid.UserPress(3, 1);
+    grid.RemoveRow(3);
+    grid.UserNavigate(Key::Down, false);
+    EXPECT_EQ(grid.Row(), 1);
+    EXPECT_EQ(grid.Col(), 1);
+    grid.UserNavigate(Key::Down, false);
+    EXPECT_EQ(grid.Row(), 2);
+}
+
+TEST_F(GridTest, OtherKeysMoveNothing) {
+    grid.UserPress(2, 3);
+    grid.UserNavigate(Key::Enter, false);
+    EXPECT_EQ(grid.Selection(), (CellBlock{2, 3, 2, 3}));
+}
+
+TEST_F(GridTest, ADragCellByCellSelectsFromThePressedCell) {
+    int changes = 0;
+    On(form, grid.OnSelChange, [&] { ++changes; });
+    grid.UserPress(2, 2);
+    changes = 0;
+    grid.UserDragTo(3, 3);
+    EXPECT_EQ(grid.Selection(), (CellBlock{2, 2, 3, 3}));
+    grid.UserDragTo(3, 3);
+    EXPECT_EQ(changes, 1);
+    grid.UserDragTo(0, 0);  // over the headings: as far as the cells go
+    EXPECT_EQ(grid.Selection(), (CellBlock{1, 1, 2, 2}));
+    EXPECT_EQ(grid.DraggedBlock(), (CellBlock{2, 2, 1, 1}));
+    grid.UserDragTo(9, 1);  // beside the table
+    EXPECT_EQ(grid.DraggedBlock(), (CellBlock{2, 2, 1, 1}));
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(GridTest, ADragNeedsACurrentCell) {
+    grid.UserPress(3, 1);
+    grid.RemoveRow(3);
+    grid.UserDragTo(2, 2);
+    EXPECT_EQ(grid.Row(), -1);
+}
+
+TEST_F(GridTest, ADoubleClickOnAHeadingIsNone) {
+    int clicks = 0;
+    On(form, grid.OnDblClick, [&] { ++clicks; });
+    grid.UserDblClick(0, 2);
+    grid.UserDblClick(2, 0);
+    grid.UserDblClick(4, 1);
+    EXPECT_EQ(clicks, 0);
+    grid.UserDblClick(3, 2);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(grid.Row(), 3);
+}
+
+TEST_F(GridTest, ACellKeepsItsColour) {
+    const text::Color red = text::Rgb(255, 0, 0);
+    const text::Color before = grid.CellBackColor(1, 1);
+    grid.SetCellBackColor(2, 1, red);
+    EXPECT_EQ(grid.CellBackColor(2, 1), red);
+    EXPECT_EQ(grid.CellBackColor(1, 1), before);
+}
 }  // namespace
 }  // namespace tavrelo::window

@@ -429,6 +429,17 @@ TEST(SubstituteInComponents, FindsTheVerticalComponent) {
               (Lines{"¿Deseas replantear las ecuaciones de movimiento con este valor calculado de v0y?"}));
 }
 
+// The speed at t = 2 is the horizontal component but for the last digits that are typed: there it flies
+// level, and v0y = 9.8 * 2.
+TEST(SubstituteInComponents, TakesASpeedBelowTheComponentByRoundingAsEqual) {
+    Desk desk = WithComponents({"0", "0", "0", "3000", ""});
+    desk.Column(2, {"2", "", "", "2999.999999999"})
+        .Answers({true})
+        .Click(Procedure::SubstituteInComponents, 1);
+    EXPECT_EQ(desk.Report()[2], "v!0!y = 19.6");
+    EXPECT_NEAR(*desk.TheProblem().EquationsOf(1).launch.second, 19.6, 1e-9);
+}
+
 const Cells kVy15 = {"0", "0", "0", "", "15"};
 const Cells kVx12 = {"2", "5", "-3", "12", ""};
 const ParameterRefusal kComponentRefusals[] = {
@@ -464,6 +475,9 @@ const ParameterRefusal kComponentRefusals[] = {
     {kVy15, {"", "", "30", "30"}, "No hay solución para v0x."},
     {kVy15, {"", "0", "", "30"}, "Estás poniendo la coordenada x igual a la del punto inicial."},
     {kVy15, {"", "10", "", "-30"}, "No hay solución para v0x."},
+    // A speed is never negative: its square alone would do, w = sqrt(900 - 5.2^2).
+    {kVy15, {"1", "", "", "-30"}, "No hay solución para v0x."},
+    {kVx12, {"3", "", "", "-30"}, "No hay solución."},
     {{"0", "0", "0", "0", ""}, {"1", "", "3"}, "v0x no puede ser cero."},
     {kVx12, {"1", "2"}, "Estos datos no son aplicables en vista de la relación\nx - 5 = 12 (t - 2)"},
     {{"-2", "-5", "0", "12", ""},
