@@ -24,6 +24,10 @@ TEST(Markup, RendersTheCharacters) {
         {"n¡-¡1", "n-1"},
         {"$F!1", "F1"},
         {";q;D;S;l;m;e", "θΔΣλμε"},
+        // Behind the Greek mark other marks are letters of the symbol font like any other.
+        {";!2", "!2"},
+        {";/3a", "/3a"},
+        {"x!", "x"},
         {"3 ;- 2", "3 − 2"},
         {"#cruz", "×"},
         {"#angu#esca#mame#grad#cora", "∠•±°♥"},

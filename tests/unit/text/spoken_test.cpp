@@ -127,6 +127,7 @@ TEST(SpokenText, LeavesProseAsItStands) {
     constexpr const char* kProse[] = {
         "Elige un tema (el que quieras) de la lista: \"Ayuda\".",
         "cuerpo-rígido",
+        "x-ésimo",
         "¿Cuál? ¡Ésta!",
         "La tensión sube a la derecha...",
     };

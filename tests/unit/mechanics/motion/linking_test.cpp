@@ -122,6 +122,11 @@ TEST(SolveLink, RefusesAndFails) {
     EXPECT_EQ(refused({{0, 0, 0}, {}, 1, 4, 3, 4}), kNoLink);
     EXPECT_EQ(refused({{0, 0, 0}, 1, {}, 4, 3, 4}), kNoLink);
     EXPECT_EQ(refused({{5, 0, 0}, 2, -1, 4, 57, {}}), kNoLink) << "c before a";
+    // Thrown up at 10 under -10 it turns at 5; the junction would lie at (-100 - 200)/(-10) = 30.
+    EXPECT_EQ(refused({{0, 0, 10}, -10, -5, {}, -20, 0}), kNoLink);
+    // The second stretch alone, begun with 2, comes to 16 with 6 in 4; the first one alone to 8 with 4.
+    EXPECT_EQ(refused({{0, 0, 0}, {}, 1, 4, 16, 6}), kNoLink);
+    EXPECT_EQ(refused({{0, 0, 0}, 1, {}, 4, 8, 6}), kNoLink);
     EXPECT_EQ(FailureOf([&] { (void)refused({{0, 0, 0}, 2, -1, 9, 57, 6}); }), FailureCode::TypeMismatch);
     EXPECT_EQ(FailureOf([&] { (void)refused({{0, 0, 0}, 2, {}, {}, 57, 6}); }), FailureCode::TypeMismatch);
 }

@@ -245,5 +245,36 @@ TEST(UnknownSpeed, MayBeArbitrary) {
                      "t!1 = 2  o bien  t!1 = ;-2", "en cuyo caso v!0 es arbitraria."}));
 }
 
+/// Uniform from x = 3: the second place is three times as far from there as the first one, at three times the
+/// time, with any speed; another place never is. Accelerated motions are never so, but for the start itself.
+TEST(UnknownSpeed, OfPlacesAtMultiplesOfATime) {
+    const auto last_line = [](std::string_view acceleration, const char* first, const char* second) {
+        Problem problem = PlantedOnOrigin({"0", "3", ""}, acceleration);
+        Fill(problem, 1, 1, {"", first, ""});
+        Fill(problem, 1, 3, {"3*t1", second, ""});
+        return Shown(ClickPoint(problem, Procedure::SubstituteWithParameters, {1, 1, 3}, kDecimals)).back();
+    };
+    EXPECT_EQ(last_line("0", "8", "18"), "v!0 es arbitraria.");
+    EXPECT_EQ(last_line("0", "8", "19"), "refused: No hay solución para v0");
+    EXPECT_EQ(last_line("2", "8", "18"), "refused: No hay solución para v0");
+    EXPECT_EQ(last_line("2", "3", "3"), "v!0 es arbitraria.");
+}
+
+TEST(UnknownSpeed, OfAUniformMotionBetweenTwoPlaces) {
+    Problem problem = PlantedOnOrigin({"0", "3", ""}, "0");
+    Fill(problem, 1, 1, {"", "8", ""});
+    Fill(problem, 1, 3, {"t1+2", "24", ""});
+    EXPECT_EQ(Shown(ClickPoint(problem, Procedure::SubstituteWithParameters, {1, 1, 3}, kDecimals))[2],
+              "Se halló: v!0 = 8");  // 16 in 2
+}
+
+/// x3 = 2 x1 from the origin: v3^2 - v0^2 = 2 (v1^2 - v0^2), so v0^2 = 2 v1^2 - v3^2.
+TEST(BothUnknown, NoSpeedHasANegativeSquare) {
+    const Column origin = {"0", "0", ""};
+    EXPECT_EQ(Shown(Click({"2 * 1 - 9", origin, {"", "", "1"}, {"", "2*x1", "3"}}, Unknown::Both)),
+              Lines{"refused: No existe solución."});
+    EXPECT_EQ(Shown(Click({"2 * 25 - 49", origin, {"", "", "5"}, {"", "2*x1", "7"}}, Unknown::Both))[2],
+              " ;- v!0¡2 = ;-1");
+}
 }  // namespace
 }  // namespace tavrelo::mechanics::motion

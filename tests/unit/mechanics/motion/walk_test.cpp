@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "../../failure_code.h"
 #include "mechanics/motion/distance.h"
 #include "mechanics/motion/graph.h"
@@ -187,5 +189,27 @@ TEST(Graph, AMoverAtRestHasNoRange) {
     EXPECT_EQ(graph.greatest_position, 7);
 }
 
+/// The turn at t = 5 lies between the even steps of the curve and is one of its points: the least position is
+/// 0.
+TEST(GraphBetween, ShowsTheTurningPointItself) {
+    const auto answer = GraphBetween(TurningProblem(), {1, 1, 0}, {1, 1, 3});
+    ASSERT_TRUE(std::holds_alternative<MotionGraph>(answer));
+    const auto& graph = std::get<MotionGraph>(answer);
+    ASSERT_EQ(graph.curves.size(), 1U);
+    const std::vector<double>& times = graph.curves[0].times;
+    EXPECT_EQ(std::count(times.begin(), times.end(), 5.0), 1);
+    EXPECT_TRUE(std::is_sorted(times.begin(), times.end()));
+    EXPECT_NEAR(graph.least_position, 0, kTolerance);
+    EXPECT_EQ(graph.greatest_position, 25);
+}
+
+TEST(LegsBetween, NeedsPointsOfOneMoverInTheirOrder) {
+    const Problem problem = TwoMovers(4);
+    const auto answer = LegsBetween(problem, {1, 1, 0}, {2, 1, 0});
+    ASSERT_TRUE(std::holds_alternative<text::Refusal>(answer));
+    EXPECT_EQ(std::get<text::Refusal>(answer).text, kSpansMovers);
+    const Problem turning = TurningProblem();
+    EXPECT_EQ(FailureOf([&] { (void)LegsBetween(turning, {1, 1, 2}, {1, 1, 1}); }), FailureCode::OutOfDomain);
+}
 }  // namespace
 }  // namespace tavrelo::mechanics::motion

@@ -167,5 +167,18 @@ TEST(Names, TellMoverAndStretch) {
     EXPECT_THROW(ProjectileNamesOf(3), numeric::RuntimeFailure);
 }
 
+TEST(Configuration, FailsOnMoversAndStretchesThatItDoesNotHave) {
+    const Configuration configuration = AfterClicks(0, {});
+    EXPECT_EQ(configuration.MoverAt(1).points, 9);
+    for (const int mover : {0, kMostMovers + 1}) {
+        EXPECT_THROW((void)configuration.MoverAt(mover), numeric::RuntimeFailure);
+        EXPECT_FALSE(configuration.HasStretch(mover, 1));
+    }
+    EXPECT_TRUE(configuration.HasStretch(1, 1));
+    for (const int stretch : {0, 2}) {
+        EXPECT_FALSE(configuration.HasStretch(1, stretch));
+        EXPECT_THROW((void)configuration.StretchAt(1, stretch), numeric::RuntimeFailure);
+    }
+}
 }  // namespace
 }  // namespace tavrelo::mechanics::points
