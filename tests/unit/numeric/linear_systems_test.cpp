@@ -248,6 +248,21 @@ TEST(SolveIndependent, RefusesDependentRowsBehindASmallPivot) {
     EXPECT_EQ(SolveIndependent(dependent, b), LinearOutcome::DeterminantIsZero);
 }
 
+/// The same rows, looked at by their factors alone.
+TEST(HasRoundingPivot, TellsAPivotOfRoundingFromASmallOne) {
+    const auto has = [](const std::vector<double>& rows) {
+        SquareMatrix a(3, rows);
+        const std::vector<double> largest = LargestOfRows(a);
+        Permutation permutation;
+        double determinant = 0;
+        EXPECT_EQ(LUDec(a, permutation, determinant), LinearOutcome::Done);
+        return HasRoundingPivot(a, permutation, largest);
+    };
+    EXPECT_TRUE(has({910.5, -789.2, 137.7, -779.0, -837.4, 298.0, -516.0, -4090.6, 1169.4}));
+    EXPECT_FALSE(has({910.5, -789.2, 137.7, -779.0, -837.4, 298.0, -516.0, -4090.6, 1169.5}));
+    EXPECT_FALSE(has({1, 0, 0, 0, 1e-6, 0, 0, 0, 1e6}));
+}
+
 TEST(AreDependent, GoesByRowsAndColumnsOfOneSize) {
     struct Row {
         std::size_t order;

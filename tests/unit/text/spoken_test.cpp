@@ -49,6 +49,7 @@ TEST(SpokenText, ReadsTheEquationsOfMotion) {
         {"4 v!0 + 8 a = 36", "4 v sub 0 más 8 a igual a 36"},
         {"o bien   v!0 = #mame 7, a = 0", "o bien, v sub 0 igual a más menos 7, a igual a 0"},
         {"d = 13", "d igual a 13"},
+        {"x = t¡3", "x igual a t al cubo"},
     };
     ExpectReadings(kReadings);
 }
@@ -108,6 +109,12 @@ TEST(SpokenText, ReadsWhatTheCalculatorReports) {
 TEST(SpokenText, ReadsTypedFormulas) {
     const Reading readings[] = {
         {"x^2-3", "x al cuadrado menos 3"},
+        {"t^3", "t al cubo"},
+        {"2^(n", "2 elevado a abre paréntesis n"},  // nothing closes it
+        {"√2", "raíz de 2"},
+        {"√(x", "raíz de abre paréntesis x"},
+        {"y = sen", "y igual a sen"},
+        {"1 + 2 + ...", "1 más 2 más puntos suspensivos"},
         {"2^(n+1)*3", "2 elevado a n más 1 fin de exponente por 3"},
         {"√(3²+4²)", "raíz de 3 al cuadrado más 4 al cuadrado fin de raíz"},
         {"R(3^2+4^2)", "raíz de 3 al cuadrado más 4 al cuadrado fin de raíz"},
