@@ -6,6 +6,8 @@
 #include <iterator>
 
 #include "qt/fonts.h"
+#include "qt/text_colors.h"
+#include "text/contrast.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -20,13 +22,39 @@ struct Twins {
     QRgb dark;
 };
 constexpr Twins kTwins[] = {
-    {kWindow, 0xff24282d},     {kPage, 0xff2b3036},         {kFace, 0xff353b42},
-    {kHoverFace, 0xff3f4955},  {kPressedFace, 0xff28527f},  {kDisabledFace, 0xff2a2e33},
-    {kEdge, 0xff74808c},       {kSoftEdge, 0xff454d56},     {kHeading, 0xff30363d},
-    {kAccent, 0xff5ea6ee},     {kChoice, 0xff245486},       {kFadedChoice, 0xff33475c},
-    {kHeldSlider, 0xff9aa6b2}, {kDisabledText, 0xffa0aab4}, {kText, 0xffe8ecf0},
-    {kPaper, 0xff1c2024},      {kTip, 0xff3a3b2c},          {kHint, 0xffa9b3bd},
+    {kWindow, 0xff24282d},      {kPage, 0xff2b3036},        {kFace, 0xff353b42},
+    {kHoverFace, 0xff3f4955},   {kPressedFace, 0xff28527f}, {kDisabledFace, 0xff2a2e33},
+    {kEdge, 0xff74808c},        {kSoftEdge, 0xff454d56},    {kHeading, 0xff30363d},
+    {kAccent, 0xff5ea6ee},      {kFocus, 0xff9ccbff},       {kChoice, 0xff245486},
+    {kFadedChoice, 0xff33475c}, {kHeldSlider, 0xff9aa6b2},  {kDisabledText, 0xffa0aab4},
+    {kText, 0xffe8ecf0},        {kPaper, 0xff1c2024},       {kTip, 0xff3a3b2c},
+    {kHint, 0xffa9b3bd},
 };
+
+constexpr double kStrongEdge = 2;
+
+struct Edge {
+    QColor color;
+    double width;
+};
+
+void FillRounded(const QRect& rect, QPainter& painter, const Edge& edge, const QColor& face, double scale) {
+    const double radius = kCornerRadius * scale;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(edge.color, edge.width));
+    painter.setBrush(face);
+    painter.drawRoundedRect(Inside(rect), radius, radius);
+    painter.restore();
+}
+
+/// The edge of a rectangle, inside it.
+void FillFrame(QPainter& painter, const QRect& outer, int thickness, const QBrush& brush) {
+    painter.fillRect(outer.left(), outer.top(), outer.width(), thickness, brush);
+    painter.fillRect(outer.left(), outer.bottom() + 1 - thickness, outer.width(), thickness, brush);
+    painter.fillRect(outer.left(), outer.top(), thickness, outer.height(), brush);
+    painter.fillRect(outer.right() + 1 - thickness, outer.top(), thickness, outer.height(), brush);
+}
 
 }  // namespace
 
@@ -40,12 +68,21 @@ QColor ShadeOf(QRgb color, bool is_dark) {
     return QColor::fromRgb(is_dark && twins != std::end(kTwins) ? twins->dark : color);
 }
 
+QColor FocusOn(const QColor& ground) {
+    const QColor focus = ShadeOf(kFocus, text::IsDark(ToColor(ground)));
+    return ToQColor(text::VisibleOn(ToColor(focus), ToColor(ground)));
+}
+
+bool IsHovered(const QStyleOption& option) {
+    return (option.state & QStyle::State_Enabled) && (option.state & QStyle::State_MouseOver);
+}
+
 QColor FaceColor(const QStyleOption& option) {
     if (!(option.state & QStyle::State_Enabled))
         return ShadeOf(kDisabledFace, option.palette);
     if (option.state & (QStyle::State_Sunken | QStyle::State_On))
         return ShadeOf(kPressedFace, option.palette);
-    if (option.state & QStyle::State_MouseOver)
+    if (IsHovered(option))
         return ShadeOf(kHoverFace, option.palette);
     return option.palette.color(QPalette::Button);
 }
@@ -56,21 +93,43 @@ QColor EdgeColor(const QStyleOption& option) {
     return ShadeOf(option.state & QStyle::State_HasFocus ? kAccent : kEdge, option.palette);
 }
 
+QColor PaperEdgeColor(const QStyleOption& option) {
+    if (!(option.state & QStyle::State_HasFocus) || !(option.state & QStyle::State_Enabled))
+        return EdgeColor(option);
+    const QColor accent = ShadeOf(kAccent, text::IsDark(ToColor(option.palette.color(QPalette::Base))));
+    return ToQColor(text::VisibleOn(ToColor(accent), ToColor(option.palette.color(QPalette::Window))));
+}
+
 void DrawRounded(const QStyleOption& option, QPainter& painter, const QColor& face, double scale) {
-    constexpr double kFocusedEdge = 2;
-    const double radius = kCornerRadius * scale;
     const bool has_focus = (option.state & QStyle::State_HasFocus) && (option.state & QStyle::State_Enabled);
+    FillRounded(option.rect, painter, {EdgeColor(option), has_focus ? kStrongEdge * scale : 1}, face, scale);
+}
+
+void DrawButton(const QStyleOption& option, QPainter& painter, double scale) {
+    const bool is_pressed = (option.state & QStyle::State_Sunken) && (option.state & QStyle::State_Enabled);
+    if (!is_pressed && !IsHovered(option))
+        return DrawRounded(option, painter, FaceColor(option), scale);
+    const bool is_strong = is_pressed || (option.state & QStyle::State_HasFocus);
+    const Edge edge{ShadeOf(kAccent, option.palette), is_strong ? kStrongEdge * scale : 1};
+    FillRounded(option.rect, painter, edge, FaceColor(option), scale);
+}
+
+void DrawIndicatorHover(const QStyleOption& option, QPainter& painter, bool is_round, double scale) {
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(EdgeColor(option), has_focus ? kFocusedEdge * scale : 1));
-    painter.setBrush(face);
-    painter.drawRoundedRect(Inside(option.rect), radius, radius);
+    painter.setRenderHint(QPainter::Antialiasing, is_round);
+    painter.setPen(QPen(ShadeOf(kAccent, option.palette), std::max(1, qRound(scale))));
+    painter.setBrush(Qt::NoBrush);
+    const QRect edge = option.rect.adjusted(0, 0, -1, -1);
+    if (is_round)
+        painter.drawEllipse(edge);
+    else
+        painter.drawRect(edge);
     painter.restore();
 }
 
 void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale) {
     const bool is_front = tab.state & QStyle::State_Selected;
-    const bool is_hovered = tab.state & QStyle::State_MouseOver;
+    const bool is_hovered = IsHovered(tab);
     painter.save();
     painter.setPen(ShadeOf(kSoftEdge, tab.palette));
     painter.setBrush(ShadeOf(is_front ? kPage : is_hovered ? kHoverFace : kHeading, tab.palette));
@@ -82,6 +141,9 @@ void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale) {
         painter.fillRect(tab.rect.left(), tab.rect.top(), tab.rect.width(), height,
                          tab.palette.color(QPalette::WindowText));
     }
+    if (is_hovered && !is_front)
+        FillFrame(painter, tab.rect.adjusted(0, qRound(2 * scale), 1, 0), std::max(1, qRound(scale)),
+                  ShadeOf(kAccent, tab.palette));
     if (tab.state & QStyle::State_HasFocus) {
         constexpr int kInset = 3;
         DrawFocusFrame(painter, tab.rect.adjusted(kInset, kInset, -kInset, -kInset), scale);
@@ -91,33 +153,31 @@ void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale) {
 
 void DrawFocusFrame(QPainter& painter, const QRect& rect, double scale, bool is_held) {
     const int width = std::max(2, qRound(2 * scale));
-    const auto frame = [&painter](const QRect& outer, int thickness, const QBrush& brush) {
-        painter.fillRect(outer.left(), outer.top(), outer.width(), thickness, brush);
-        painter.fillRect(outer.left(), outer.bottom() + 1 - thickness, outer.width(), thickness, brush);
-        painter.fillRect(outer.left(), outer.top(), thickness, outer.height(), brush);
-        painter.fillRect(outer.right() + 1 - thickness, outer.top(), thickness, outer.height(), brush);
-    };
-    frame(rect, width + 2, Qt::white);
+    FillFrame(painter, rect, width + 2, Qt::white);
     const QColor dark = QColor::fromRgb(kFocus);
-    frame(rect.adjusted(1, 1, -1, -1), width, is_held ? QBrush(dark, Qt::Dense4Pattern) : QBrush(dark));
+    FillFrame(painter, rect.adjusted(1, 1, -1, -1), width,
+              is_held ? QBrush(dark, Qt::Dense4Pattern) : QBrush(dark));
 }
 
-void DrawCellFocus(QPainter& painter, const QRect& cell) {
+void DrawCellFocus(QPainter& painter, const QRect& cell, const QColor& ground) {
     constexpr int kWidth = 2;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QPen(QColor::fromRgb(kFocus), kWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setPen(QPen(FocusOn(ground), kWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(cell.adjusted(0, 0, -1, -1));
     painter.restore();
 }
 
-void DrawHover(QPainter& painter, const QRect& rect, bool is_pressed) {
+void DrawHover(QPainter& painter, const QRect& rect, double scale, bool is_pressed) {
     constexpr int kHoverStrength = 40;  // of 255
     constexpr int kPressStrength = 90;
-    QColor color = QColor::fromRgb(kAccent);
-    color.setAlpha(is_pressed ? kPressStrength : kHoverStrength);
-    painter.fillRect(rect, color);
+    const int width = std::max(1, qRound(scale)) * (is_pressed ? 2 : 1);
+    const QColor accent = QColor::fromRgb(kAccent);
+    QColor tint = accent;
+    tint.setAlpha(is_pressed ? kPressStrength : kHoverStrength);
+    painter.fillRect(rect, tint);
+    FillFrame(painter, rect, width, accent);
 }
 
 void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter& painter) {

@@ -36,16 +36,26 @@ bool IsDark(const QPalette& palette);
 /// One of the colours above as it is in the look of a palette: itself, or its twin of the dark look.
 QColor ShadeOf(QRgb color, bool is_dark);
 inline QColor ShadeOf(QRgb color, const QPalette& palette) { return ShadeOf(color, IsDark(palette)); }
+/// The colour of the focus on a ground of any colour.
+QColor FocusOn(const QColor& ground);
 
 inline constexpr double kScrollBarExtent = 13;  // pixels at 100 %
 
+/// Whether something that can be pressed lies below the pointer.
+bool IsHovered(const QStyleOption& option);
 /// The face of something to press: by itself, below the pointer, held down, disabled.
 QColor FaceColor(const QStyleOption& option);
 /// The edge of a box: by itself, with the focus, disabled.
 QColor EdgeColor(const QStyleOption& option);
 
+/// The edge of a report, a list or a table. Reports are white on a dark desktop too: with the focus the edge
+/// is seen on both sides.
+QColor PaperEdgeColor(const QStyleOption& option);
+
 /// A box with round corners in the option's rectangle.
 void DrawRounded(const QStyleOption& option, QPainter& painter, const QColor& face, double scale);
+/// The same for something to press, whose edge is marked while it lies below the pointer.
+void DrawButton(const QStyleOption& option, QPainter& painter, double scale);
 /// A small triangle in the middle of a rectangle.
 void DrawArrow(const QStyleOption& option, const QRect& rect, Qt::ArrowType direction, QPainter& painter,
                double scale);
@@ -53,9 +63,12 @@ void DrawArrow(const QStyleOption& option, const QRect& rect, Qt::ArrowType dire
 /// held.
 void DrawFocusFrame(QPainter& painter, const QRect& rect, double scale, bool is_held = false);
 /// The frame around a cell of a table, on its lines, so that the text stays clear.
-void DrawCellFocus(QPainter& painter, const QRect& cell);
-/// What lies below the pointer, or is pressed by it.
-void DrawHover(QPainter& painter, const QRect& rect, bool is_pressed);
+void DrawCellFocus(QPainter& painter, const QRect& cell, const QColor& ground);
+/// A place of a drawing, which is made for light paper, that lies below the pointer or is pressed by it:
+/// tinted and framed.
+void DrawHover(QPainter& painter, const QRect& rect, double scale, bool is_pressed);
+/// The edge of the mark of a check box or of a (round) option below the pointer.
+void DrawIndicatorHover(const QStyleOption& option, QPainter& painter, bool is_round, double scale);
 void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale);
 /// A bar without buttons at its ends.
 void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter& painter);

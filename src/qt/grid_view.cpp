@@ -256,9 +256,16 @@ void GridView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const QRect cell = visualRect(currentIndex());
     if (cell.isValid())
-        DrawCellFocus(painter, cell);
+        DrawCellFocus(painter, cell, GroundOf(currentIndex()));
     else
         DrawFocusFrame(painter, viewport()->rect(), 1);
+}
+
+QColor GridView::GroundOf(const QModelIndex& cell) const {
+    if (selectionModel()->isSelected(cell))
+        return palette().color(QPalette::Highlight);
+    const QVariant own = cell.data(Qt::BackgroundRole);
+    return own.isValid() ? own.value<QBrush>().color() : palette().color(QPalette::Base);
 }
 
 void GridView::focusInEvent(QFocusEvent*) {

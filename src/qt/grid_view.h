@@ -66,6 +66,8 @@ class GridView : public QTableView, public TellsOfItself {
     int ShowRows(double pixels_per_twip);
     int ShowColumns(double pixels_per_twip);
     void ShowCorner(const QSize& size);
+    /// What is painted behind a cell.
+    QColor GroundOf(const QModelIndex& cell) const;
     bool TakeKey(const QKeyEvent& event);
     /// The keys for what the mouse does to the current cell beyond choosing it.
     bool TakeMouseKey(const QKeyEvent& event);

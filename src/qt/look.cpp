@@ -105,7 +105,7 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
     switch (element) {
         case PE_PanelButtonCommand:
         case PE_PanelButtonTool:
-            DrawRounded(*option, *painter, FaceColor(*option), scale);
+            DrawButton(*option, *painter, scale);
             return;
         case PE_FrameLineEdit:
             if (!IsInSpinBox(widget))
@@ -116,14 +116,11 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
                 DrawRounded(*option, *painter, option->palette.color(QPalette::Base), scale);
             return;
         case PE_Frame:
-            // Panels stand back behind the boxes that lie on them.
-            painter->setPen(qobject_cast<const QAbstractScrollArea*>(widget) ? EdgeColor(*option)
-                                                                             : ShadeOf(kSoftEdge, m_is_dark));
+            painter->setPen(qobject_cast<const QAbstractScrollArea*>(widget)
+                                ? PaperEdgeColor(*option)
+                                : ShadeOf(kSoftEdge, m_is_dark));  // panels stand back behind boxes
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-            // The frame of a page has room for a second line.
-            if (qobject_cast<const QAbstractScrollArea*>(widget) && option->state & State_HasFocus)
-                painter->drawRect(option->rect.adjusted(1, 1, -2, -2));
             return;
         case PE_IndicatorArrowUp:
             DrawArrow(*option, option->rect, Qt::UpArrow, *painter, scale);
@@ -132,9 +129,16 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
             DrawArrow(*option, option->rect, Qt::DownArrow, *painter, scale);
             return;
         case PE_FrameFocusRect:
-            painter->setPen(QPen(ShadeOf(kFocus, m_is_dark), std::max(1, qRound(scale))));
+            // On a tinted panel the widget's own palette is light, whatever the desktop is.
+            painter->setPen(QPen(ShadeOf(kFocus, option->palette), std::max(1, qRound(scale))));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            return;
+        case PE_IndicatorCheckBox:
+        case PE_IndicatorRadioButton:
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+            if (IsHovered(*option))
+                DrawIndicatorHover(*option, *painter, element == PE_IndicatorRadioButton, scale);
             return;
         default:
             QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -156,6 +160,11 @@ void Look::drawControl(ControlElement element, const QStyleOption* option, QPain
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_MenuItem && (option->state & State_Selected)) {
+        painter->setPen(ShadeOf(kAccent, option->palette));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    }
 }
 
 void Look::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
@@ -171,7 +180,7 @@ void Look::drawComplexControl(ComplexControl control, const QStyleOptionComplex*
         DrawArrow(*option, subControlRect(control, option, SC_SpinBoxDown, widget), Qt::DownArrow, *painter,
                   scale);
     } else if (control == CC_ComboBox) {
-        DrawRounded(*option, *painter, FaceColor(*option), scale);
+        DrawButton(*option, *painter, scale);
         DrawArrow(*option, subControlRect(control, option, SC_ComboBoxArrow, widget), Qt::DownArrow, *painter,
                   scale);
     } else {

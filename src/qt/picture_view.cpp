@@ -81,7 +81,7 @@ void PictureView::PaintCells(QPainter& painter) const {
         return m_context.Scaled(cells[static_cast<std::size_t>(cell)].bounds);
     };
     if (m_pointed_cell >= 0 && m_pointed_cell < static_cast<int>(cells.size()) && underMouse())
-        DrawHover(painter, place_of(m_pointed_cell), m_is_pressed);
+        DrawHover(painter, place_of(m_pointed_cell), m_context.zoom, m_is_pressed);
     if (!hasFocus())
         return;
     const int current = m_picture.CurrentCell(cells);

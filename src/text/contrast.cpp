@@ -39,6 +39,23 @@ Color Lighter(Color color, unsigned share) {
     return Rgb(lighter(red), lighter(green), lighter(blue));
 }
 
+/// The colour, or the nearest shade of it that stands so far apart from the background.
+Color Apart(Color color, Color background, double contrast) {
+    if (ContrastRatio(color, background) >= contrast)
+        return color;
+    const auto moved = [&](unsigned share) {
+        return IsDark(background) ? Lighter(color, share) : Darker(color, share);
+    };
+    // The contrast grows with the share, and at its end black or white stands apart.
+    unsigned too_little = 0;
+    unsigned enough = kFull;
+    while (enough - too_little > 1) {
+        const unsigned middle = (too_little + enough) / 2;
+        (ContrastRatio(moved(middle), background) >= contrast ? enough : too_little) = middle;
+    }
+    return moved(enough);
+}
+
 }  // namespace
 
 double Luminance(Color color) {
@@ -56,20 +73,8 @@ bool IsDark(Color background) {
     return ContrastRatio(kBlack, background) < ContrastRatio(kWhite, background);
 }
 
-Color ReadableOn(Color text, Color background) {
-    if (ContrastRatio(text, background) >= kReadableContrast)
-        return text;
-    const auto moved = [&](unsigned share) {
-        return IsDark(background) ? Lighter(text, share) : Darker(text, share);
-    };
-    // The contrast grows with the share, and at its end black or white can always be read.
-    unsigned too_little = 0;
-    unsigned enough = kFull;
-    while (enough - too_little > 1) {
-        const unsigned middle = (too_little + enough) / 2;
-        (ContrastRatio(moved(middle), background) >= kReadableContrast ? enough : too_little) = middle;
-    }
-    return moved(enough);
-}
+Color ReadableOn(Color text, Color background) { return Apart(text, background, kReadableContrast); }
+
+Color VisibleOn(Color line, Color background) { return Apart(line, background, kVisibleContrast); }
 
 }  // namespace tavrelo::text

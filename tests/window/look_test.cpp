@@ -8,6 +8,9 @@
 #include <QTextEdit>
 #include <algorithm>
 #include <cstdio>
+#include <map>
+#include <memory>
+#include <numeric>
 #include <set>
 #include <utility>
 
@@ -166,7 +169,167 @@ void Tell(const char* look, const std::vector<ShownText>& texts) {
                 lowest.Contrast(), lowest.color.rgb, lowest.ground.rgb, lowest.where.c_str());
 }
 
+void AddLooks(std::initializer_list<std::pair<int, const char*>> places) {
+    QTest::addColumn<bool>("is_dark");
+    QTest::addColumn<bool>("has_contrast");
+    QTest::addColumn<int>("tool");
+    QTest::addColumn<QByteArray>("control");
+    for (const bool is_dark : {false, true})
+        for (const bool has_contrast : {false, true})
+            for (const auto& [tool, control] : places)
+                QTest::addRow("%s, %s%s", control, is_dark ? "dark" : "light",
+                              has_contrast ? ", contrast" : "")
+                    << is_dark << has_contrast << tool << QByteArray(control);
+}
+
+/// A control of a tool in one of the looks, painted with all that lies behind it.
+class ControlInLook {
+  public:
+    ControlInLook() {
+        QFETCH(bool, is_dark);
+        QFETCH(bool, has_contrast);
+        QFETCH(int, tool);
+        QFETCH(QByteArray, control);
+        qt::UseLook(is_dark);
+        m_window = std::make_unique<TestWindow>();
+        m_window->view.SetContrast(has_contrast);
+        m_window->PressTool(tool);
+        QWidget& widget = m_window->Widget(control.constData());
+        auto* tabs = widget.findChild<QTabBar*>({}, Qt::FindDirectChildrenOnly);
+        m_widget = tabs ? tabs : &widget;
+        m_window->Widget(control == "Image1" ? "pic" : "Image1").setFocus();
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(m_widget, &leave);
+        m_widget->setAttribute(Qt::WA_UnderMouse, false);
+    }
+    ~ControlInLook() { qt::UseLook(false); }
+    ControlInLook(const ControlInLook&) = delete;
+    ControlInLook& operator=(const ControlInLook&) = delete;
+
+    QWidget& Widget() { return *m_widget; }
+    QImage Picture() {
+        QCoreApplication::processEvents();
+        const QRect place(m_widget->mapTo(m_widget->window(), QPoint()), m_widget->size());
+        return m_widget->window()->grab(place).toImage();
+    }
+    /// The pointer goes to a place.
+    void Point(const QPoint& place) {
+        m_widget->setAttribute(Qt::WA_UnderMouse);
+        const QPointF on_screen = m_widget->mapToGlobal(QPointF(place));
+        QMouseEvent move(QEvent::MouseMove, place, on_screen, Qt::NoButton, Qt::NoButton, {});
+        QHoverEvent hover(QEvent::HoverMove, place, on_screen, QPointF(-1, -1));
+        QCoreApplication::sendEvent(m_widget, &move);
+        QCoreApplication::sendEvent(m_widget, &hover);
+        m_widget->update();
+    }
+
+  private:
+    std::unique_ptr<TestWindow> m_window;
+    QWidget* m_widget = nullptr;
+};
+
+/// The colour of most of a picture; shades of one colour count together.
+QRgb GroundOf(const QImage& image) {
+    constexpr QRgb kCoarse = 0xffe0e0e0;
+    std::map<QRgb, std::map<QRgb, int>> pixels;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ++pixels[image.pixel(x, y) & kCoarse][image.pixel(x, y)];
+    const auto count = [](const auto& shade) { return shade.second; };
+    const auto count_all = [](const auto& shades) {
+        return std::accumulate(shades.second.begin(), shades.second.end(), 0,
+                               [](int sum, const auto& shade) { return sum + shade.second; });
+    };
+    const auto& shades = std::ranges::max_element(pixels, {}, count_all)->second;
+    return std::ranges::max_element(shades, {}, count)->first;
+}
+
+/// How many pixels of a picture differ from those of the one before and stand out from its ground.
+int VisibleChanges(const QImage& before, const QImage& after) {
+    const text::Color ground = ToColor(GroundOf(before));
+    int count = 0;
+    for (int y = 0; y < after.height(); ++y)
+        for (int x = 0; x < after.width(); ++x)
+            if (before.pixel(x, y) != after.pixel(x, y) &&
+                text::ContrastRatio(ToColor(after.pixel(x, y)), ground) >= text::kVisibleContrast)
+                ++count;
+    return count;
+}
+
+constexpr int kLeastLine = 30;  // pixels of a mark that is seen
+
 }  // namespace
+
+void LookTest::FocusStandsOut_data() {
+    AddLooks({{1, "Image1"},
+              {1, "picBar"},
+              {1, "picOpt"},
+              {1, "gd"},
+              {1, "cmdCalculate"},
+              {1, "rtbExpr"},
+              {1, "rtbCalc"},
+              {1, "tabCalc"},
+              {2, "picClock"},
+              {2, "txtVector"},
+              {2, "gdEqui"},
+              {4, "Gd2"},
+              {4, "picAccel"},
+              {6, "pic1"},
+              {6, "chkGraph(0)"}});
+}
+
+void LookTest::FocusStandsOut() {
+    ControlInLook control;
+    const QImage without = control.Picture();
+    control.Widget().setFocus(Qt::TabFocusReason);
+    const int count = VisibleChanges(without, control.Picture());
+    QVERIFY2(count >= kLeastLine, qPrintable(QString::number(count)));
+}
+
+void LookTest::WhatIsPointedAtAndPressedStandsOut_data() {
+    AddLooks({{1, "Image1"},
+              {1, "picBar"},
+              {1, "picOpt"},
+              {1, "cmdCalculate"},
+              {1, "tabCalc"},
+              {2, "picClock"},
+              {4, "picAccel"},
+              {4, "imgProcs"},
+              {6, "chkGraph(0)"}});
+}
+
+void LookTest::WhatIsPointedAtAndPressedStandsOut() {
+    ControlInLook control;
+    QWidget& widget = control.Widget();
+    const QImage without = control.Picture();
+    // Not on the tab in front, which needs no pointing at.
+    const auto* tabs = qobject_cast<QTabBar*>(&widget);
+    const QPoint place = tabs ? tabs->tabRect(1).center() : QPoint(12, 12);
+    control.Point(place);
+    const QImage hovered = control.Picture();
+    const int count = VisibleChanges(without, hovered);
+    QVERIFY2(count >= kLeastLine, qPrintable(QString::number(count)));
+    if (tabs)
+        return;
+    QTest::mousePress(&widget, Qt::LeftButton, {}, place);
+    const bool is_pressed = control.Picture() != hovered;
+    QTest::mouseRelease(&widget, Qt::LeftButton, {}, QPoint(-5, -5));
+    QVERIFY(is_pressed);
+}
+
+void LookTest::TheFocusOfACellStandsOutFromItsGround() {
+    for (const bool is_dark : {false, true})
+        for (const QRgb ground :
+             {qt::kPaper, qt::kChoice, qt::kFadedChoice, qt::kHeading, qt::kDisabledFace}) {
+            const QColor shown = qt::ShadeOf(ground, is_dark);
+            QVERIFY(text::ContrastRatio(ToColor(qt::FocusOn(shown)), ToColor(shown)) >=
+                    text::kVisibleContrast);
+        }
+    // The colours that the program gives to cells, and the worst ground there can be.
+    for (const QRgb ground : {0xffffffe0, 0xffe2f2e2, 0xffffff00, 0xff00ffff, 0xff767676})
+        QVERIFY(text::ContrastRatio(ToColor(qt::FocusOn(QColor(ground))), ToColor(QColor(ground))) >=
+                text::kVisibleContrast);
+}
 
 void LookTest::EveryTextCanBeReadInTheContrastLook() {
     TestWindow window;

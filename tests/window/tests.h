@@ -50,6 +50,11 @@ class LookTest : public QObject {
     void TheSwitchTurnsContrastOnAndOff();
     void TheDesktopIsFollowed();
     void BoardsAndReportsStayWhitePaper();
+    void FocusStandsOut_data();
+    void FocusStandsOut();
+    void WhatIsPointedAtAndPressedStandsOut_data();
+    void WhatIsPointedAtAndPressedStandsOut();
+    void TheFocusOfACellStandsOutFromItsGround();
 };
 
 class FreeWindowTest : public QObject {

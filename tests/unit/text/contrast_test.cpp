@@ -47,7 +47,17 @@ TEST(Contrast, EveryTextCanBeReadOnEveryBackground) {
                     const Color shown = ReadableOn(Rgb(red, green, blue), background);
                     EXPECT_GE(ContrastRatio(shown, background), kReadableContrast)
                         << std::hex << shown.rgb << " on " << background.rgb;
+                    const Color line = VisibleOn(Rgb(red, green, blue), background);
+                    EXPECT_GE(ContrastRatio(line, background), kVisibleContrast)
+                        << std::hex << line.rgb << " on " << background.rgb;
                 }
+}
+
+TEST(Contrast, ALineNeedsLessThanAText) {
+    // (1.05) / (0.2140 + 0.05): the grey of 127 stands 4.0 off from white.
+    const Color grey = Rgb(127, 127, 127);
+    EXPECT_EQ(VisibleOn(grey, kWhite), grey);
+    EXPECT_LT(Luminance(ReadableOn(grey, kWhite)), Luminance(grey));
 }
 
 TEST(Contrast, NoMoreThanNeededIsTakenFromAColour) {
