@@ -152,6 +152,9 @@ class Driver {
 /// What the command line says about how a window is played.
 struct DriverOptions {
     int zoom_percent = 100;
+    bool is_maximised = false;  // then the page is as large as the screen holds
+    bool is_dark = false;       // as on a dark desktop
+    bool has_contrast = false;
 };
 
 }  // namespace tavrelo::transcript

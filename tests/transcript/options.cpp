@@ -44,6 +44,12 @@ void Take(Options& options, std::string_view argument, CommandLine& line) {
         options.print = true;
     else if (argument == "--tree")
         options.tree = true;
+    else if (argument == "--maximised")
+        options.driver.is_maximised = true;
+    else if (argument == "--dark")
+        options.driver.is_dark = true;
+    else if (argument == "--contrast")
+        options.driver.has_contrast = true;
     else if (argument == "--pictures")
         options.pictures = line.ValueOf(argument);
     else if (argument == "--zoom")
@@ -67,7 +73,8 @@ Options ParseOptions(std::span<const char* const> arguments) {
 }
 
 std::string UsageText() {
-    return "transcript [--window] [--print] [--tree] [--pictures FOLDER] [--zoom PERCENT] FILE_OR_FOLDER...";
+    return "transcript [--window] [--print] [--tree] [--pictures FOLDER] [--zoom PERCENT] "
+           "[--maximised] [--dark] [--contrast] FILE_OR_FOLDER...";
 }
 
 }  // namespace tavrelo::transcript

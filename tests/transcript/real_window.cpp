@@ -94,8 +94,12 @@ bool IsHeading(const window::Grid& grid, CellPlace cell) {
 RealWindow::RealWindow(const DriverOptions& options) {
     constexpr double kPercent = 100;
     QApplication::clipboard()->clear();
+    if (options.has_contrast)
+        m_window.SetContrast(true);
     m_window.SetZoom(options.zoom_percent / kPercent);
     m_window.Show();
+    if (options.is_maximised)
+        m_window.Frame().setWindowState(Qt::WindowMaximized);
     QApplication::setActiveWindow(&m_window.Frame());
     QCoreApplication::processEvents();
 }

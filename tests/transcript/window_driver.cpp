@@ -43,6 +43,8 @@ WindowSystem::WindowSystem() : m_toolkit(std::make_unique<Toolkit>()) {}
 WindowSystem::~WindowSystem() = default;
 
 std::unique_ptr<Driver> MakeWindowDriver(const DriverOptions& options) {
+    if (options.is_dark)
+        qt::UseLook(true);
     return std::make_unique<RealWindow>(options);
 }
 

@@ -16,6 +16,9 @@ TEST(Options, DefaultsAreTheModelAndComparing) {
     EXPECT_FALSE(options.tree);
     EXPECT_TRUE(options.pictures.empty());
     EXPECT_EQ(options.driver.zoom_percent, 100);
+    EXPECT_FALSE(options.driver.is_maximised);
+    EXPECT_FALSE(options.driver.is_dark);
+    EXPECT_FALSE(options.driver.has_contrast);
     EXPECT_EQ(options.paths, (std::vector<std::string>{"a", "b.transcript"}));
 }
 
@@ -27,6 +30,14 @@ TEST(Options, StandAnywhere) {
     EXPECT_TRUE(options.tree);
     EXPECT_EQ(options.pictures, "shots");
     EXPECT_EQ(options.driver.zoom_percent, 150);
+    EXPECT_EQ(options.paths, std::vector<std::string>{"a"});
+}
+
+TEST(Options, TellHowTheWindowLooks) {
+    const Options options = Parse({"--window", "--maximised", "--dark", "--contrast", "a"});
+    EXPECT_TRUE(options.driver.is_maximised);
+    EXPECT_TRUE(options.driver.is_dark);
+    EXPECT_TRUE(options.driver.has_contrast);
     EXPECT_EQ(options.paths, std::vector<std::string>{"a"});
 }
 
