@@ -96,5 +96,41 @@ TEST_F(ProgramTest, TheToolbarIsAChoiceOfToolsAndThreeButtons) {
         EXPECT_FALSE(cells[k].name.empty()) << k;
     }
 }
+/// Before a tool with a table of points was entered its panel has nothing to work on, and does nothing.
+TEST_F(ProgramTest, ThePanelOfPointsWaitsForItsTool) {
+    auto& table = Get<window::Grid>("Gd2");
+    EXPECT_EQ(table.NameColumn(1), "");
+    EXPECT_TRUE(Get<window::Picture>("imgProcs").Cells().empty());
+    Get<window::Button>("cmdTable(0)").UserClick();
+    Get<window::Picture>("imgProcs").UserMouseDown({.x = 100, .y = 900});
+    table.UserPress(0, 1);
+    table.UserDblClick(0, 1);
+    EXPECT_EQ(world.messages, 0);
+    EXPECT_EQ(program.GlobalValue("TableConfigured"), "no");
+}
+
+/// The columns of the table go by the numbers of the points, with their mover where there are two.
+TEST_F(ProgramTest, TheTableNamesItsColumnsByPoints) {
+    for (const int tool : {4, 5}) {
+        PressTool(tool);
+        Get<window::Button>("cmdTable(0)").UserClick();
+        EXPECT_EQ(Get<window::Grid>("Gd2").NameColumn(1), "punto 0") << tool;
+        EXPECT_EQ(Get<window::Grid>("Gd2").NameColumn(9), "punto 8") << tool;
+    }
+    Get<window::Button>("cmdTable(1)").UserClick();  // two projectiles, parted behind the fifth point
+    Get<window::Picture>("picAccel").UserMouseDown({.x = 4.5 * 64, .y = 30});
+    EXPECT_EQ(Get<window::Grid>("Gd2").NameColumn(5), "punto 4 del móvil 1");
+    EXPECT_EQ(Get<window::Grid>("Gd2").NameColumn(6), "punto 0 del móvil 2");
+}
+
+/// Without a group of routines in view the bar offers the eight groups alone.
+TEST_F(ProgramTest, TheBarOffersItsGroupsFirst) {
+    const auto cells = Get<window::Picture>("picBar").Cells();
+    ASSERT_EQ(cells.size(), 8u);
+    EXPECT_EQ(cells.front().name, "Ecuaciones lineales");
+    EXPECT_EQ(cells.back().name, "Sistemas de fuerzas");
+    PressTool(1);
+    EXPECT_GT(Get<window::Picture>("picBar").Cells().size(), 8u);
+}
 }  // namespace
 }  // namespace tavrelo::app

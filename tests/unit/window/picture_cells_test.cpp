@@ -49,6 +49,16 @@ TEST(PictureCellsTest, DisabledCellsAreJumpedOver) {
     EXPECT_EQ(CellBeside(cells, 2, Key::End), 3);
     EXPECT_EQ(CellBeside(cells, 2, Key::Left), 3);
     EXPECT_EQ(NearestCell(cells, {30, 10}), 2);
+    cells[2].enabled = cells[3].enabled = false;
+    for (const Key key : {Key::Home, Key::End, Key::Left, Key::Right})
+        EXPECT_EQ(CellBeside(cells, 2, key), kNoCell);
+}
+
+TEST(PictureCellsTest, BesideNoCellLiesNone) {
+    const auto cells = TwoRows();
+    EXPECT_EQ(CellBeside(cells, kNoCell, Key::Right), kNoCell);
+    EXPECT_EQ(CellBeside(cells, 5, Key::Left), kNoCell);
+    EXPECT_EQ(CellBeside({}, kNoCell, Key::Home), kNoCell);
 }
 
 TEST(PictureCellsTest, ACellOwnsItsLeftAndUpperEdge) {
@@ -165,5 +175,8 @@ TEST_F(CellsOfAPictureTest, OnlyTheButtonThatDragsTakesUp) {
     EXPECT_EQ(ups.size(), 1u);
 }
 
+TEST_F(CellsOfAPictureTest, WithoutCellsTakesNoKey) {
+    EXPECT_FALSE(form.Get<Picture>("pic").UserMoveCell(Key::Right));
+}
 }  // namespace
 }  // namespace tavrelo::window

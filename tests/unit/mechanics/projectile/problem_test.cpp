@@ -220,5 +220,36 @@ TEST(Graph, APointLiesInTheMiddle) {
     EXPECT_EQ(graph.Placed(graph.curves[0].points[0]), (numeric::Point{0.5, 0.5}));
 }
 
+/// The other mover joins the graph from its first time to its last one, and needs two.
+TEST(ClickInterval, DrawsTheOtherMoverBetweenItsOwnTimes) {
+    for (const auto& [times, curves] : {std::pair(Cells{"", ""}, 1U), std::pair(Cells{"", "1"}, 1U),
+                                        std::pair(Cells{"0", ""}, 1U), std::pair(Cells{"0", "1"}, 2U)}) {
+        Desk desk(2, 5);
+        desk.Column(1, {"0", "0", "0", "10", "45"}).Column(6, {"0", "5", "0", "10", "90"});
+        desk.Click(Procedure::Plant, 0, 1).Click(Procedure::Plant, 0, 2);
+        desk.Column(2, {"1"}).Column(6, {times[0]}).Column(7, {times[1]});
+        desk.Interval({1, 0}, {1, 1});
+        ASSERT_TRUE(desk.LastGraph());
+        EXPECT_EQ(desk.LastGraph()->curves.size(), curves) << times[0] << ", " << times[1];
+    }
+}
+
+TEST(Problem, HasNoOtherMovers) {
+    const Problem problem = Reconfigured({}, 0);
+    for (const int mover : {0, points::kMostMovers + 1})
+        EXPECT_THROW((void)problem.EquationsOf(mover), numeric::RuntimeFailure);
+}
+
+/// A path takes two clicks: one alone changes and tells nothing.
+TEST(ClickPoint, DoesNothingOnAPath) {
+    Desk desk;
+    desk.Column(1, {"0", "0", "0", "10", "45"}).Click(Procedure::Plant, 0);
+    desk.Report();
+    desk.Board();
+    desk.Click(Procedure::PathAndGraph, 0);
+    EXPECT_EQ(desk.Report(), Lines{});
+    EXPECT_EQ(desk.Board(), Lines{});
+    EXPECT_EQ(desk.Boxes(), Lines{});
+}
 }  // namespace
 }  // namespace tavrelo::mechanics::projectile

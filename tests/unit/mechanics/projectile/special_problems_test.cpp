@@ -554,5 +554,20 @@ TEST(PathLength, DoesNotEndAtACoincidence) {
     EXPECT_EQ(desk.Interval({1, 1}, {1, 2}, false).Report().back(), "283.236");
 }
 
+/// Both fly level, at heights of 10 and 0, under one gravity: they never meet, with any speed.
+TEST(Collision, NeverComesOfParallelWays) {
+    Desk desk = WithMovers({"0", "0", "10", "10", "0"}, {"0", "-20", "0", "", "0"});
+    EXPECT_EQ(desk.Run(Special::Collision).Boxes(), Lines{"No hay solución."});
+    EXPECT_EQ(desk.Report(), Lines{});
+}
+
+/// Dropped at rest from 19.6 it takes 2, and the object passes below it then, 10 from its start: no launch is
+/// needed.
+TEST(Interception, NeedsALaunch) {
+    Desk desk;
+    desk.Column(1, {"0", "10", "19.6"}).Run(Special::Interception, "u = 5, tc = 2");
+    EXPECT_EQ(desk.Boxes(), Lines{"No hay solución."});
+    EXPECT_EQ(desk.Report(), Lines{});
+}
 }  // namespace
 }  // namespace tavrelo::mechanics::projectile

@@ -92,6 +92,11 @@ TEST(WithOrigin, MovesPointsAndForces) {
     EXPECT_EQ(std::get<RigidProblem>(WithOrigin(moved, "A")).structure, Corner().structure);
 }
 
+TEST(WithSystem, FailsBesideTheFiveSystems) {
+    for (const int system : {0, 6})
+        EXPECT_THROW((void)WithSystem(Corner(), system, "AC"), numeric::RuntimeFailure);
+}
+
 TEST(WithSystem, ChangesOneSystem) {
     const RigidProblem changed = WithSystem(Corner(), 3, "AC");
     EXPECT_EQ(changed.systems[2], "AC");
