@@ -16,6 +16,9 @@ if(TAVRELO_SANITIZE)
     target_link_options(tavrelo_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Tables of cases take most of their time in the compiler; what they test stays optimised.
+set(TAVRELO_TEST_OPTIONS $<$<BOOL:${TAVRELO_SANITIZE}>:-O0>)
+
 # tavrelo_library(numeric SOURCES a.cpp b.cpp LINKS text): the static library of one folder of src/. It links only the
 # folders named, so what an include that points up declares does not link; src/arrows.txt tells which may point where.
 function(tavrelo_library folder)
@@ -23,6 +26,9 @@ function(tavrelo_library folder)
     list(TRANSFORM ARG_LINKS PREPEND tavrelo_)
     add_library(tavrelo_${folder} STATIC ${ARG_SOURCES})
     target_link_libraries(tavrelo_${folder} PUBLIC tavrelo_options ${ARG_LINKS})
+    if(NOT folder STREQUAL "qt")
+        tavrelo_precompile(tavrelo_${folder})
+    endif()
 endfunction()
 
 # tavrelo_are_built(result expr text): whether this build has the libraries of all these folders. Only a build of some
