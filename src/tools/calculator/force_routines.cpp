@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "drawing/graph_frame.h"
 #include "drawing/words.h"
 #include "notation/clock_direction.h"
 #include "text/number_text.h"
@@ -208,13 +207,12 @@ void DrawLoadResultant(RoutineRun& run, const mechanics::forces::LineResultant& 
     window::Surface& surface = run.Picture();
     const auto [low, high] = std::minmax(first, last);
     const double part = numeric::CheckedDivide(result.x - low, high - low);
-    const drawing::GraphFrame frame(surface);
-    const double x = frame.left + part * (frame.right - frame.left);
+    const double x = DrawEng::kGraphLeft + part * DrawEng::kGraphSize;
     if (x < 0 || x > surface.Width())
         return;
     const bool is_upward = result.force > 0;
     const double half_length = kLength * DrawEng::kPixPerUnit / 2;
-    const double middle = (frame.top + frame.bottom) / 2;
+    const double middle = surface.FromBottom(DrawEng::kGraphBottom + DrawEng::kGraphSize / 2);
     run.engine.MoveTo(surface, x, middle + (is_upward ? half_length : -half_length), 1);
     run.engine.DrawArrow(surface, {.length = kLength,
                                    .hour = is_upward ? notation::kHourUp : notation::kHourDown,
