@@ -88,7 +88,6 @@ class Parser {
 
     Token TakeOperator();
     void Reduce(Token incoming);
-    void CountArgument();
     void End();
     void Close();
     void Separate();
@@ -96,7 +95,6 @@ class Parser {
     [[noreturn]] void RefuseArgumentCount();
     void PushOperator(Token token);
     Instruction& AddToRPN(Token token);
-    void OperandAdded();
 
     Lexer m_lexer;
     VariableList& m_variables;
@@ -104,7 +102,6 @@ class Parser {
     Program& m_program;
     Pile<Token> m_operators;
     Pile<int> m_arguments;  // arguments still due in each open parenthesis
-    int m_depth = 0;        // operands that the program so far would leave
     bool m_expect_operator = false;
     std::size_t m_token_start = 0;
 };
@@ -177,7 +174,7 @@ void Parser::ParseNumber() {
         instruction.number = -NumberOf({instruction.number, &instruction.text, instruction.kind});
         instruction.kind = OperandKind::Number;
     }
-    OperandAdded();
+    m_expect_operator = true;
 }
 
 void Parser::ParseNamed() {
@@ -209,13 +206,13 @@ void Parser::ParseVariable(std::string_view name) {
         Refuse(ParseErrorCode::UnknownName, name);
     }
     AddToRPN(Token::Operand).variable = std::move(variable);
-    OperandAdded();
+    m_expect_operator = true;
 }
 
 /// An empty pair of parentheses behind a constant is decoration.
 void Parser::ParseConstant(Token token) {
     AddToRPN(token);
-    OperandAdded();
+    m_expect_operator = true;
     if (m_lexer.Peek() == '(' && m_lexer.Peek(1) == ')') {
         m_lexer.Skip(2);
     }
@@ -236,7 +233,8 @@ bool Parser::ParseOperator() {
     const Token token = TakeOperator();
     Reduce(token);
     if (RowOf(token).args == kCloser) {
-        CountArgument();
+        // One argument ended. One at least was due: the comma that ends the last one is refused.
+        --m_arguments.Top();
     }
     switch (token) {
         case Token::End:
@@ -276,36 +274,19 @@ Token Parser::TakeOperator() {
 void Parser::Reduce(Token incoming) {
     while (true) {
         const Token top = m_operators.Top();
-        const TokenRow& row = RowOf(top);
-        if (row.precedence < RowOf(incoming).precedence || row.precedence == kOpenerPrecedence) {
+        const int precedence = RowOf(top).precedence;
+        if (precedence < RowOf(incoming).precedence || precedence == kOpenerPrecedence) {
             return;
         }
         AddToRPN(top);
-        if (row.args >= 1) {
-            m_depth -= row.args - 1;
-        } else if (top >= kFirstBinaryOperator) {
-            --m_depth;
-        }
         m_operators.Pop();
-        if (m_depth < 1) {
-            Refuse(ParseErrorCode::Syntax);
-        }
     }
 }
 
-/// One argument ended at a closer.
-void Parser::CountArgument() {
-    if (--m_arguments.Top() < 0) {
-        RefuseArgumentCount();
-    }
-}
-
+/// What is not in parentheses is one argument, which a comma outside of them would have ended.
 void Parser::End() {
     if (m_operators.Count() != 1) {
         Refuse(ParseErrorCode::Syntax);
-    }
-    if (m_arguments.Top() != 0) {
-        RefuseArgumentCount();
     }
 }
 
@@ -348,11 +329,6 @@ Instruction& Parser::AddToRPN(Token token) {
     instruction.token = token;
     instruction.operation = &OperationOf(token);
     return instruction;
-}
-
-void Parser::OperandAdded() {
-    ++m_depth;
-    m_expect_operator = true;
 }
 
 }  // namespace

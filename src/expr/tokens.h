@@ -82,7 +82,6 @@ enum class Token : std::uint8_t {
 inline constexpr int kTokenCount = 68;
 inline constexpr Token kFirstOperator = Token::End;
 inline constexpr Token kLastOperator = Token::Xor;
-inline constexpr Token kFirstBinaryOperator = Token::Power;
 inline constexpr Token kFirstWordOperator = Token::Mod;
 inline constexpr Token kFirstFunction = Token::Pi;
 
