@@ -9,7 +9,9 @@
 #include <algorithm>
 
 #include "qt/accessible.h"
+#include "qt/fonts.h"
 #include "qt/text.h"
+#include "qt/zoom.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -66,19 +68,34 @@ QWidget* WindowInUse() {
     return shown == windows.end() ? nullptr : *shown;
 }
 
-void FitToWindow(QWidget& box) {
-    if (const QWidget* parent = box.parentWidget())
-        box.setFont(parent->font());
+/// The room that the screen leaves to the text of a box, beside its frame, its sign and its buttons.
+QSize RoomForText(const QWidget& box) {
+    constexpr double kWidestShare = 0.8;
+    constexpr double kHighestShare = 0.7;
+    const QSize screen = box.screen()->availableSize();
+    return {qRound(screen.width() * kWidestShare), qRound(screen.height() * kHighestShare)};
 }
 
-/// Lines of the text stay whole as far as the screen has room for them.
-void KeepLines(QMessageBox& box) {
-    constexpr double kWidestShare = 0.8;
-    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-    if (!label)  // a part of the toolkit's own, which may change its name
-        return;
-    const int width = label->fontMetrics().size(0, label->text()).width();
-    label->setMinimumWidth(std::min(width, qRound(box.screen()->availableSize().width() * kWidestShare)));
+/// The font of the window in use, or as much of it as a long text can have on the screen.
+QFont FontFor(const QString& text, const QWidget& box) {
+    constexpr double kStep = 0.9;
+    const QSize room = RoomForText(box);
+    QFont font = box.parentWidget() ? box.parentWidget()->font() : box.font();
+    const auto height = [&] {
+        const QRect column(0, 0, room.width(), room.height());
+        return QFontMetrics(font).boundingRect(column, Qt::TextWordWrap, text).height();
+    };
+    while (height() > room.height() && font.pointSizeF() > InterfacePoints() * kSmallestZoom)
+        font.setPointSizeF(font.pointSizeF() * kStep);
+    return font;
+}
+
+/// Lines of the text stay whole as far as the screen has room for them; longer ones are wrapped.
+void KeepLines(QLabel& label, const QWidget& box) {
+    const int width = label.fontMetrics().size(0, label.text()).width();
+    const int widest = RoomForText(box).width();
+    label.setWordWrap(width > widest);
+    label.setMinimumWidth(std::min(width, widest));
 }
 
 /// For readers of the screen an alert, which they read whole as soon as it opens.
@@ -112,19 +129,23 @@ window::Answer WindowBoxes::ShowMessage(std::string_view text, std::string_view 
     const auto icon = buttons == window::Buttons::Ok ? QMessageBox::Information : QMessageBox::Question;
     Message box(icon, ToQString(title), ToQString(text), QMessageBox::NoButton, WindowInUse());
     box.setTextFormat(Qt::PlainText);
-    FitToWindow(box);
-    KeepLines(box);
+    box.setFont(FontFor(box.text(), box));
+    // A part of the toolkit's own, which may change its name.
+    if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label")))
+        KeepLines(*label, box);
     AddButtons(box, buttons);
     return AnswerOf(buttons, box.exec());
 }
 
 std::optional<std::string> WindowBoxes::AskText(std::string_view prompt, std::string_view title) {
     QInputDialog box(WindowInUse());
-    FitToWindow(box);
     box.setWindowTitle(ToQString(title));
     box.setLabelText(ToQString(prompt));
-    if (auto* label = box.findChild<QLabel*>())
+    box.setFont(FontFor(box.labelText(), box));
+    if (auto* label = box.findChild<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
+        KeepLines(*label, box);
+    }
     box.setOkButtonText(QStringLiteral("Aceptar"));
     box.setCancelButtonText(QStringLiteral("Cancelar"));
     box.resize(box.sizeHint().expandedTo({kInputCharacters * box.fontMetrics().averageCharWidth(), 0}));

@@ -1,5 +1,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QScreen>
 #include <QWheelEvent>
 #include <utility>
 
@@ -11,7 +12,8 @@
 namespace tavrelo::qt {
 namespace {
 
-/// A combo whose list opens as wide as its longest row and which the wheel moves only while it has the focus.
+/// A combo whose list opens as wide as its longest row, as far as the screen holds it, and which the wheel
+/// moves only while it has the focus.
 class WideCombo : public QComboBox, public TellsOfItself {
   public:
     explicit WideCombo(QWidget& parent) : QComboBox(&parent) {
@@ -21,10 +23,15 @@ class WideCombo : public QComboBox, public TellsOfItself {
     QAccessibleInterface* NewAccessible() override { return new AccessibleCombo(*this); }
 
     void showPopup() override {
-        const int margins = view()->contentsMargins().left() + view()->contentsMargins().right();
+        const QMargins margins = view()->contentsMargins();
         const int scroll_bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-        view()->setMinimumWidth(std::max(width(), view()->sizeHintForColumn(0) + margins + scroll_bar));
+        ShowRowsOf(view()->sizeHintForColumn(0) + margins.left() + margins.right() + scroll_bar);
         QComboBox::showPopup();
+        // The bar at its foot is added to a list that already ends with the screen.
+        QWidget& list = *view()->parentWidget();
+        list.setGeometry(list.geometry() & screen()->availableGeometry());
+        // Without the bar the view took its rows to be as wide as itself.
+        view()->doItemsLayout();
     }
 
   protected:
@@ -36,6 +43,16 @@ class WideCombo : public QComboBox, public TellsOfItself {
     }
 
   private:
+    /// Makes the list that wide; rows wider than the screen are scrolled.
+    void ShowRowsOf(int needed) {
+        const QMargins frame = view()->parentWidget()->contentsMargins();
+        const int widest = screen()->availableSize().width() - frame.left() - frame.right();
+        const bool is_scrolled = needed > widest;
+        view()->setMinimumWidth(std::min(std::max(width(), needed), widest));
+        view()->setHorizontalScrollBarPolicy(is_scrolled ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+        view()->setTextElideMode(is_scrolled ? Qt::ElideNone : Qt::ElideRight);
+    }
+
     void TellRow(const QString& text) {
         QAccessibleTextUpdateEvent event(this, 0, std::exchange(m_told, text), text);
         QAccessible::updateAccessibility(&event);

@@ -1,3 +1,7 @@
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QInputDialog>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QScreen>
@@ -258,6 +262,81 @@ void ScreenTest::BoxesStayOnTheScreen() {
     window.Form().boxes.Tell("La cuerda de la izquierda tendría que empujar: el problema no tiene solución.");
     QVERIFY(place.isValid());
     QVERIFY(window.Available().contains(place));
+}
+
+namespace {
+
+/// A box or a list as it stands on the screen.
+struct Shown {
+    QRect place;
+    bool is_whole = false;
+
+    template <class Box>
+    void Look(Box& box, const char* label_name) {
+        place = box.frameGeometry();
+        const auto* label = box.template findChild<QLabel*>(QString::fromLatin1(label_name));
+        const QRect needed = label->fontMetrics().boundingRect(
+            label->contentsRect(), label->wordWrap() ? Qt::TextWordWrap : 0, label->text());
+        is_whole = label->contentsRect().size().expandedTo(needed.size()) == label->contentsRect().size();
+    }
+};
+
+}  // namespace
+
+void ScreenTest::BoxesHoldLongTexts_data() { AddScreens(); }
+
+void ScreenTest::BoxesHoldLongTexts() {
+    QFETCH(QString, screen);
+    WindowOnScreen window(screen);
+    window.view.SetZoom(qt::kLargestZoom);
+    const QString line =
+        QStringLiteral("La suma de los momentos respecto del apoyo de la izquierda da ").repeated(4);
+    const std::string text = qt::ToUtf8((line + QLatin1Char('\n')).repeated(6));
+    Shown message;
+    WhenOpen<QMessageBox>([&message](QMessageBox& box) {
+        message.Look(box, "qt_msgbox_label");
+        box.button(QMessageBox::Ok)->click();
+    });
+    window.Form().boxes.Tell(text);
+    QVERIFY(message.is_whole);
+    QVERIFY(window.Available().contains(message.place));
+    Shown input;
+    WhenOpen<QInputDialog>([&input](QInputDialog& box) {
+        input.Look(box, "");
+        box.reject();
+    });
+    window.Form().boxes.AskText(text, "Tavrelo");
+    QVERIFY(input.is_whole);
+    QVERIFY(window.Available().contains(input.place));
+}
+
+void ScreenTest::ListsStayOnTheScreen_data() { AddScreens(); }
+
+void ScreenTest::ListsStayOnTheScreen() {
+    QFETCH(QString, screen);
+    WindowOnScreen window(screen);
+    window.PressTool(1);
+    window.PressTool(8);
+    window.view.SetZoom(qt::kLargestZoom);
+    auto& combo = window.As<QComboBox>("cboHelp");
+    constexpr int kRows = 60;
+    for (int row = 0; row < kRows; ++row)
+        combo.addItem(QStringLiteral("Encontrar el centro y el radio de la circunferencia por tres puntos ")
+                          .repeated(3));
+    combo.showPopup();
+    QCoreApplication::processEvents();
+    const QWidget& list = *combo.view()->window();
+    QVERIFY(list.isVisible());
+    QVERIFY(window.Available().contains(list.frameGeometry()));
+    // Its last row and the ends of its rows are reached by scrolling.
+    QVERIFY(combo.view()->verticalScrollBar()->maximum() > 0);
+    combo.view()->scrollToBottom();
+    const QRect last = combo.view()->visualRect(combo.model()->index(combo.count() - 1, 0));
+    QVERIFY(last.bottom() <= combo.view()->viewport()->rect().bottom());
+    const int longest = combo.view()->sizeHintForColumn(0);
+    const int seen = combo.view()->viewport()->width() + combo.view()->horizontalScrollBar()->maximum();
+    QVERIFY(longest <= seen);
+    combo.hidePopup();
 }
 
 void ScreenTest::TheTitleNamesTheTool() {

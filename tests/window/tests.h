@@ -36,6 +36,10 @@ class ScreenTest : public QObject {
     void TheDialogStaysOnTheScreen();
     void BoxesStayOnTheScreen_data();
     void BoxesStayOnTheScreen();
+    void BoxesHoldLongTexts_data();
+    void BoxesHoldLongTexts();
+    void ListsStayOnTheScreen_data();
+    void ListsStayOnTheScreen();
     void TheTitleNamesTheTool();
 };
 
