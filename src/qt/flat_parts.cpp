@@ -87,10 +87,18 @@ QColor FaceColor(const QStyleOption& option) {
     return option.palette.color(QPalette::Button);
 }
 
+QColor StrongEdge(const QPalette& look) {
+    text::Color edge = ToColor(ShadeOf(kEdge, look));
+    for (const QRgb ground : {kHeading, kFace})
+        edge = text::VisibleOn(edge, ToColor(ShadeOf(ground, look)));
+    return ToQColor(edge);
+}
+
 QColor EdgeColor(const QStyleOption& option) {
     if (!(option.state & QStyle::State_Enabled))
         return ShadeOf(kSoftEdge, option.palette);
-    return ShadeOf(option.state & QStyle::State_HasFocus ? kAccent : kEdge, option.palette);
+    return option.state & QStyle::State_HasFocus ? ShadeOf(kAccent, option.palette)
+                                                 : option.palette.color(kEdgeRole);
 }
 
 QColor PaperEdgeColor(const QStyleOption& option) {
@@ -114,10 +122,11 @@ void DrawButton(const QStyleOption& option, QPainter& painter, double scale) {
     FillRounded(option.rect, painter, edge, FaceColor(option), scale);
 }
 
-void DrawIndicatorHover(const QStyleOption& option, QPainter& painter, bool is_round, double scale) {
+void DrawIndicatorEdge(const QStyleOption& option, QPainter& painter, bool is_round, double scale) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, is_round);
-    painter.setPen(QPen(ShadeOf(kAccent, option.palette), std::max(1, qRound(scale))));
+    const QColor color = IsHovered(option) ? ShadeOf(kAccent, option.palette) : EdgeColor(option);
+    painter.setPen(QPen(color, std::max(1, qRound(scale))));
     painter.setBrush(Qt::NoBrush);
     const QRect edge = option.rect.adjusted(0, 0, -1, -1);
     if (is_round)
@@ -187,7 +196,7 @@ void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter&
     painter.fillRect(bar.rect, ShadeOf(kHeading, bar.palette));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(ShadeOf(is_held ? kHeldSlider : kEdge, bar.palette));
+    painter.setBrush(is_held ? ShadeOf(kHeldSlider, bar.palette) : bar.palette.color(kEdgeRole));
     const bool is_wide = bar.orientation == Qt::Horizontal;
     const double inset = kInset * (is_wide ? bar.rect.height() : bar.rect.width()) / kScrollBarExtent;
     const QRectF handle = QRectF(slider).adjusted(inset, inset, -inset, -inset);

@@ -45,6 +45,10 @@ inline constexpr double kScrollBarExtent = 13;  // pixels at 100 %
 bool IsHovered(const QStyleOption& option);
 /// The face of something to press: by itself, below the pointer, held down, disabled.
 QColor FaceColor(const QStyleOption& option);
+/// The colour of a palette in which edges are drawn, and the one that they have in the contrast look: seen on
+/// every ground of the look.
+inline constexpr QPalette::ColorRole kEdgeRole = QPalette::Dark;
+QColor StrongEdge(const QPalette& look);
 /// The edge of a box: by itself, with the focus, disabled.
 QColor EdgeColor(const QStyleOption& option);
 
@@ -67,8 +71,8 @@ void DrawCellFocus(QPainter& painter, const QRect& cell, const QColor& ground);
 /// A place of a drawing, which is made for light paper, that lies below the pointer or is pressed by it:
 /// tinted and framed.
 void DrawHover(QPainter& painter, const QRect& rect, double scale, bool is_pressed);
-/// The edge of the mark of a check box or of a (round) option below the pointer.
-void DrawIndicatorHover(const QStyleOption& option, QPainter& painter, bool is_round, double scale);
+/// The edge of the mark of a check box or of a (round) option.
+void DrawIndicatorEdge(const QStyleOption& option, QPainter& painter, bool is_round, double scale);
 void DrawTab(const QStyleOptionTab& tab, QPainter& painter, double scale);
 /// A bar without buttons at its ends.
 void DrawScrollBar(const QStyleOptionSlider& bar, const QRect& slider, QPainter& painter);

@@ -58,12 +58,19 @@ QPalette Look::standardPalette() const {
         QRgb color;
     };
     constexpr Role kRoles[] = {
-        {QPalette::WindowText, kText},      {QPalette::Text, kText},
-        {QPalette::ButtonText, kText},      {QPalette::Base, kPaper},
-        {QPalette::AlternateBase, kPage},   {QPalette::Mid, kSoftEdge},
-        {QPalette::Highlight, kChoice},     {QPalette::HighlightedText, kText},
-        {QPalette::ToolTipBase, kTip},      {QPalette::ToolTipText, kText},
-        {QPalette::PlaceholderText, kHint}, {QPalette::Link, kAccent},
+        {QPalette::WindowText, kText},
+        {QPalette::Text, kText},
+        {QPalette::ButtonText, kText},
+        {QPalette::Base, kPaper},
+        {QPalette::AlternateBase, kPage},
+        {QPalette::Mid, kSoftEdge},
+        {QPalette::Highlight, kChoice},
+        {QPalette::HighlightedText, kText},
+        {QPalette::ToolTipBase, kTip},
+        {QPalette::ToolTipText, kText},
+        {QPalette::PlaceholderText, kHint},
+        {QPalette::Link, kAccent},
+        {kEdgeRole, kEdge},
     };
     QPalette palette(ShadeOf(kFace, m_is_dark), ShadeOf(kWindow, m_is_dark));
     for (const auto& [role, color] : kRoles)
@@ -92,6 +99,8 @@ int Look::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* w
         case SH_DitherDisabledText:
         case SH_ComboBox_Popup:
             return 0;
+        case SH_Table_GridLineColor:
+            return static_cast<int>(ShadeOf(kSoftEdge, m_is_dark).rgb());
         case SH_ToolTip_WakeUpDelay:
             return 400;
         default:
@@ -137,8 +146,7 @@ void Look::drawPrimitive(PrimitiveElement element, const QStyleOption* option, Q
         case PE_IndicatorCheckBox:
         case PE_IndicatorRadioButton:
             QProxyStyle::drawPrimitive(element, option, painter, widget);
-            if (IsHovered(*option))
-                DrawIndicatorHover(*option, *painter, element == PE_IndicatorRadioButton, scale);
+            DrawIndicatorEdge(*option, *painter, element == PE_IndicatorRadioButton, scale);
             return;
         default:
             QProxyStyle::drawPrimitive(element, option, painter, widget);

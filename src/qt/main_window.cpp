@@ -11,6 +11,7 @@
 
 #include "qt/accessible_picture.h"
 #include "qt/announcer.h"
+#include "qt/flat_parts.h"
 #include "qt/fonts.h"
 #include "qt/shortcuts.h"
 #include "qt/text.h"
@@ -266,11 +267,13 @@ void MainWindow::SetContrast(bool is_on) {
     m_dialog_context.text_look = m_context.text_look;
     QPalette palette;
     const text::Color window = ToColor(QApplication::palette().color(QPalette::Window));
-    if (is_on)
+    if (is_on) {
+        palette.setColor(kEdgeRole, StrongEdge(QApplication::palette()));
         for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
             const text::Color told = ToColor(QApplication::palette().color(QPalette::Disabled, role));
             palette.setColor(QPalette::Disabled, role, ToQColor(text::ReadableOn(told, window)));
         }
+    }
     m_main.setPalette(palette);
     m_dialog.setPalette(palette);
     m_bar.ShowContrast(is_on);

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QPainter>
 
 #include "qt/accessible.h"
@@ -23,7 +24,7 @@ class ShapeWidget : public QWidget, public TellsOfItself {
         if (m_model.HasBackColor()) {
             painter.fillRect(rect(), ToQColor(m_model.BackColor()));
             if (m_context.text_look == TextLook::Readable)
-                Outline(painter, palette().color(QPalette::WindowText), m_context.Scaled(1));
+                Outline(painter, QApplication::palette().color(QPalette::WindowText), m_context.Scaled(1));
             return;
         }
         constexpr int kOutline = 2;

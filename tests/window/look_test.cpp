@@ -286,6 +286,26 @@ void LookTest::FocusStandsOut() {
     QVERIFY2(count >= kLeastLine, qPrintable(QString::number(count)));
 }
 
+void LookTest::BoxesAndChoicesHaveEdges_data() {
+    AddLooks({{6, "chkGraph(0)"}, {2, "txtVector"}, {2, "rtbCalc"}});
+}
+
+void LookTest::BoxesAndChoicesHaveEdges() {
+    constexpr int kMark = 14;       // pixels of the mark of a check box
+    constexpr double kQuiet = 1.7;  // on a light desktop, while no contrast is asked for
+    QFETCH(bool, is_dark);
+    QFETCH(bool, has_contrast);
+    ControlInLook control;
+    const double least = is_dark || has_contrast ? text::kVisibleContrast : kQuiet;
+    const text::Color ground = ToColor(QApplication::palette().color(QPalette::Window));
+    const QImage image = control.Picture();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < kMark; ++x)
+            count += text::ContrastRatio(ToColor(image.pixel(x, y)), ground) >= least ? 1 : 0;
+    QVERIFY2(count >= kLeastLine, qPrintable(QString::number(count)));
+}
+
 void LookTest::WhatIsPointedAtAndPressedStandsOut_data() {
     AddLooks({{1, "Image1"},
               {1, "picBar"},
@@ -399,6 +419,14 @@ void LookTest::TheMarkerIsOutlined() {
     window.view.SetContrast(true);
     QCOMPARE(corner(), QColor(Qt::black));
     QCOMPARE(window.Widget("linMarker").grab().toImage().pixelColor(18, 1), QColor(255, 255, 0));
+}
+
+void LookTest::TheOutlineOfTheMarkerIsSeenOnADarkDesktop() {
+    const DarkDesktop desktop;
+    TestWindow window;
+    window.PressTool(2);
+    window.view.SetContrast(true);
+    QVERIFY(!text::IsDark(ToColor(window.Widget("linMarker").grab().toImage().pixelColor(0, 0))));
 }
 
 void LookTest::TheSwitchTurnsContrastOnAndOff() {

@@ -51,11 +51,14 @@ class LookTest : public QObject {
     void TheModelKeepsItsColors();
     void LinesKeepTheirColors();
     void TheMarkerIsOutlined();
+    void TheOutlineOfTheMarkerIsSeenOnADarkDesktop();
     void TheSwitchTurnsContrastOnAndOff();
     void TheDesktopIsFollowed();
     void BoardsAndReportsStayWhitePaper();
     void FocusStandsOut_data();
     void FocusStandsOut();
+    void BoxesAndChoicesHaveEdges_data();
+    void BoxesAndChoicesHaveEdges();
     void WhatIsPointedAtAndPressedStandsOut_data();
     void WhatIsPointedAtAndPressedStandsOut();
     void TheFocusOfACellStandsOutFromItsGround();
