@@ -27,6 +27,9 @@ constexpr ToolButton kButtons[] = {
     {"Salir del programa", 0, text::kBlack},
 };
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
+// Buttons from 1.
+constexpr int kPreferencesButton = 7;
+constexpr int kHelpButton = 8;
 constexpr int kButtonWidth = 555;  // twips
 constexpr int kButtonPixels = kButtonWidth / window::kTwipsPerPixel;
 
@@ -45,6 +48,8 @@ constexpr ToolLook kLooks[window::kToolCount] = {
     {window::Arrangement::Projectile, text::Rgb(128, 64, 0), text::Rgb(250, 235, 218), true},
     {window::Arrangement::Kinematics, text::Rgb(0, 0, 128), text::Rgb(228, 228, 248), false},
 };
+
+constexpr std::string_view kQuestionMark = "?";  // the buttons that tell the short help of their panel
 
 constexpr text::Color kArgumentColor = text::Rgb(255, 255, 224);
 constexpr int kHoldParkedLeft = -200;
@@ -65,6 +70,34 @@ ToolSwitch::ToolSwitch(window::Form1& form, MenuBar& menu) : m_form(form), m_men
                [this](const window::MouseStroke& stroke) { ImageMouseMove(stroke); });
     m_controls.Image1.ListCells = [this] { return ToolbarCells(); };
     window::On(form, m_controls.ThisWindow.OnClose, [this] { m_form.End(); });
+    AddShortcuts();
+}
+
+void ToolSwitch::AddShortcuts() {
+    using window::Key;
+    using window::KeyStroke;
+    const auto add = [this](KeyStroke stroke, int button) {
+        m_form.shortcuts.push_back({stroke, [this, button] { PressButton(button); }});
+    };
+    // Leaving the program takes a deliberate press: the last button has no key.
+    for (int button = 1; button <= kHelpButton; ++button)
+        add({.character = U'0' + static_cast<char32_t>(button), .alt = true}, button);
+    add({.character = U'p', .ctrl = true}, kPreferencesButton);
+    add({.key = Key::F1}, kHelpButton);
+    m_form.shortcuts.push_back({{.key = Key::F1, .shift = true}, [this] { PressQuestionMark(); }});
+}
+
+void ToolSwitch::PressButton(int button) {
+    m_controls.Image1.UserGoToCell(button - 1);
+    m_controls.Image1.UserChooseCell({});
+}
+
+void ToolSwitch::PressQuestionMark() {
+    for (window::Control* control : m_form.Controls()) {
+        auto* button = dynamic_cast<window::Button*>(control);
+        if (button && button->Caption() == kQuestionMark && button->IsUsable())
+            return button->UserClick();
+    }
 }
 
 void ToolSwitch::SetHooks(window::Tool tool, ToolHooks hooks) {

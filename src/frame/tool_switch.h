@@ -81,6 +81,11 @@ class ToolSwitch {
     void ImageMouseDown(const window::MouseStroke& stroke);
     void ImageMouseMove(const window::MouseStroke& stroke);
     std::vector<window::PictureCell> ToolbarCells() const;
+    void AddShortcuts();
+    /// A button of the toolbar, from 1.
+    void PressButton(int button);
+    /// The short help of the panel in view.
+    void PressQuestionMark();
     void MoveMarker(int button);
     void OpenHelp();
     void Enter(window::Tool tool);

@@ -6,9 +6,6 @@
 
 namespace tavrelo::qt {
 
-/// Whether a picture is one of the drawings that a student takes along; all others are for pointing at.
-bool IsBlackboard(const window::Picture& picture);
-
 std::unique_ptr<Binding> NewFrameBinding(window::Control& control, QWidget& parent, ViewContext& context);
 std::unique_ptr<Binding> NewShapeBinding(window::Control& control, QWidget& parent, ViewContext& context);
 std::unique_ptr<Binding> NewLabelBinding(window::Control& control, QWidget& parent, ViewContext& context);

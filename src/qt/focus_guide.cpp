@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "qt/later.h"
+#include "window/layout.h"
 #include "window/reading_order.h"
 
 namespace tavrelo::qt {
@@ -132,14 +133,22 @@ void FocusGuide::Remember(QWidget* left) {
         m_visited.pop_back();
 }
 
-/// Out of a group, to where the keys came from; out of the help, which closes.
+/// The button that Escape presses at a control: that of the innermost panel that has one.
+window::Button* FocusGuide::CancelOf(const window::Control& control) const {
+    for (const window::Control* panel = control.Parent(); panel; panel = panel->Parent())
+        for (window::Control* on_panel : m_form.Controls())
+            if (on_panel->Parent() == panel && on_panel->Has(window::kCancel) && on_panel->IsUsable())
+                return dynamic_cast<window::Button*>(on_panel);
+    return nullptr;
+}
+
+/// Out of a panel that closes, and out of a group, to where the keys came from.
 void FocusGuide::Leave() {
     const Binding* binding = FocusedBinding();
     if (!binding)
         return;
-    const window::Control& help = m_form.Get<window::Frame>("fraHelp");
-    if (&PanelOf(binding->Model()) == &help)
-        return m_form.Get<window::Button>("cmdHelpCtrl(3)").UserClick();
+    if (window::Button* cancel = CancelOf(binding->Model()))
+        return cancel->UserClick();
     if (!IsGroup(binding->Model()))
         return;
     for (const window::Control* visited : m_visited) {

@@ -47,6 +47,7 @@ class FocusGuide : public QObject {
   private:
     void OrderTabs(const FormWindow& window) const;
     void Leave();
+    window::Button* CancelOf(const window::Control& control) const;
     void Remember(QWidget* left);
     bool TakesKeys(const window::Control& control) const;
     /// Of a group of options Tab stops at one: where the keys are, else the chosen one, else the first.

@@ -14,6 +14,7 @@
 #include "qt/rich_text_view.h"
 #include "qt/text.h"
 #include "window/control_names.h"
+#include "window/layout.h"
 
 namespace tavrelo::qt {
 
@@ -147,7 +148,7 @@ class FreeReport : public FreeWindow {
 
 bool HasFreeWindow(const window::Control& control) {
     if (const auto* picture = dynamic_cast<const window::Picture*>(&control))
-        return IsBlackboard(*picture);
+        return picture->Has(window::kBoard);
     const auto* box = dynamic_cast<const window::RichTextBox*>(&control);
     return box && box->Locked();
 }

@@ -19,8 +19,8 @@ constexpr NamedKey kNamedKeys[] = {
     {Qt::Key_Delete, Key::Delete}, {Qt::Key_Insert, Key::Insert}, {Qt::Key_Left, Key::Left},
     {Qt::Key_Right, Key::Right},   {Qt::Key_Up, Key::Up},         {Qt::Key_Down, Key::Down},
     {Qt::Key_Home, Key::Home},     {Qt::Key_End, Key::End},       {Qt::Key_Tab, Key::Tab},
-    {Qt::Key_Backtab, Key::Tab},   {Qt::Key_Escape, Key::Escape}, {Qt::Key_F10, Key::F10},
-    {Qt::Key_F11, Key::F11},       {Qt::Key_F12, Key::F12},
+    {Qt::Key_Backtab, Key::Tab},   {Qt::Key_Escape, Key::Escape}, {Qt::Key_F1, Key::F1},
+    {Qt::Key_F10, Key::F10},       {Qt::Key_F11, Key::F11},       {Qt::Key_F12, Key::F12},
 };
 
 /// True while a modifier makes the stroke a command. Some desktops report AltGr as Ctrl and Alt together.
@@ -69,6 +69,17 @@ std::optional<window::KeyStroke> ToKeyStroke(const QKeyEvent& event) {
     if (!IsPrintable(stroke.character))
         return std::nullopt;
     return stroke;
+}
+
+QKeySequence ToKeySequence(const window::KeyStroke& stroke) {
+    const auto* named = std::ranges::find(kNamedKeys, stroke.key, &NamedKey::key);
+    const char32_t capital = QChar::toUpper(stroke.character);
+    const int key = named == std::end(kNamedKeys) ? static_cast<int>(capital) : named->qt_key;
+    Qt::KeyboardModifiers held;
+    held.setFlag(Qt::ShiftModifier, stroke.shift);
+    held.setFlag(Qt::ControlModifier, stroke.ctrl);
+    held.setFlag(Qt::AltModifier, stroke.alt);
+    return {QKeyCombination(held, static_cast<Qt::Key>(key))};
 }
 
 std::optional<char32_t> ToTypedCharacter(const QKeyEvent& event) {

@@ -18,6 +18,7 @@
 #include "qt/zoom.h"
 #include "text/contrast.h"
 #include "window/control_names.h"
+#include "window/layout.h"
 
 namespace tavrelo::qt {
 namespace {
@@ -27,16 +28,13 @@ constexpr int kWheelStep = 120;
 /// Comes back to the window when the handler under way has ended.
 constexpr auto kShowLate = QEvent::User;
 
-/// Panels that lie over others though they come before them in the table.
-constexpr std::string_view kRaised[] = {"picArgs", "fraHelp"};
-
 }  // namespace
 
 MainWindow::MainWindow(window::Form1& form, Artwork& artwork)
     : m_context{form, artwork},
       m_dialog_context{form, artwork},
-      m_main(form.Get<window::Window>("Form1"), nullptr, Qt::Window),
-      m_dialog(form.Get<window::Window>("Form2"), &m_main, Qt::Dialog),
+      m_main(form.Main(), nullptr, Qt::Window),
+      m_dialog(form.Dialog(), &m_main, Qt::Dialog),
       m_bar(m_main),
       m_guide(form, m_main, m_dialog,
               {[this](const window::Control& control) { return MadeBindingOf(control); },
@@ -94,9 +92,9 @@ void MainWindow::MakeWidgets() {
 }
 
 QWidget& MainWindow::ParentWidgetOf(const window::Control& control) {
-    if (control.Parent() == &m_context.form.Get<window::Window>("Form1"))
+    if (control.Parent() == &m_context.form.Main())
         return m_main.Page();
-    if (control.Parent() == &m_context.form.Get<window::Window>("Form2"))
+    if (control.Parent() == &m_context.form.Dialog())
         return m_dialog.Page();
     return BindingOf(*control.Parent()).Widget();
 }
@@ -121,9 +119,9 @@ void MainWindow::Stack(const window::Control& control, QWidget& widget) {
     const auto over = std::find_if(std::ranges::find(controls, &control), controls.end(), is_over);
     if (over != controls.end())
         widget.stackUnder(&m_bindings.at(*over)->Widget());
-    for (const std::string_view name : kRaised)
-        if (const auto raised = m_bindings.find(m_context.form.Find(name)); raised != m_bindings.end())
-            raised->second->Widget().raise();
+    for (const window::Control* raised : controls)
+        if (raised->Has(window::kRaised) && m_bindings.contains(raised))
+            m_bindings.at(raised)->Widget().raise();
 }
 
 void MainWindow::MakeShortcuts() {
@@ -155,9 +153,9 @@ void MainWindow::ShowWindows() {
 
 QWidget& MainWindow::WidgetOf(window::Control& control) {
     ShowLateChanges();
-    if (&control == &m_context.form.Get<window::Window>("Form1"))
+    if (&control == &m_context.form.Main())
         return m_main;
-    if (&control == &m_context.form.Get<window::Window>("Form2"))
+    if (&control == &m_context.form.Dialog())
         return m_dialog;
     return BindingOf(control).Widget();
 }
@@ -249,7 +247,7 @@ ViewContext& MainWindow::ContextOf(const window::Control& control) {
     const window::Control* window = &control;
     while (window->Parent())
         window = window->Parent();
-    return window == m_context.form.Find("Form2") ? m_dialog_context : m_context;
+    return window == &m_context.form.Dialog() ? m_dialog_context : m_context;
 }
 
 void MainWindow::SetZoom(double zoom) {
@@ -360,7 +358,7 @@ void MainWindow::FollowInFreeWindows(const window::Control& control, window::Cha
     const auto window = m_free_windows.find(&control);
     if (window != m_free_windows.end() && change == window::Change::Content)
         window->second->Follow();
-    if (&control == m_context.form.Find("Form1") && !control.Visible())
+    if (&control == &m_context.form.Main() && !control.Visible())
         for (const auto& [source, free_window] : m_free_windows)
             free_window->close();
 }

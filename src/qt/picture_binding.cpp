@@ -1,16 +1,13 @@
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "qt/bindings.h"
 #include "qt/later.h"
 #include "qt/picture_view.h"
 #include "qt/text.h"
+#include "window/layout.h"
 
 namespace tavrelo::qt {
 namespace {
-
-constexpr std::string_view kBlackboards[] = {"pic", "pic1"};
 
 class PictureBinding : public Binding {
   public:
@@ -50,14 +47,10 @@ class PictureBinding : public Binding {
 
 }  // namespace
 
-bool IsBlackboard(const window::Picture& picture) {
-    return std::ranges::find(kBlackboards, picture.Name()) != std::end(kBlackboards);
-}
-
 std::unique_ptr<Binding> NewPictureBinding(window::Control& control, QWidget& parent, ViewContext& context) {
     auto& picture = dynamic_cast<window::Picture&>(control);
     auto* view = new PictureView(picture, parent, context);
-    view->SetMenu(IsBlackboard(picture));
+    view->SetMenu(picture.Has(window::kBoard));
     return std::make_unique<PictureBinding>(picture, *view, context);
 }
 

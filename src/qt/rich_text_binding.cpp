@@ -1,6 +1,5 @@
 #include <QAccessible>
 #include <algorithm>
-#include <iterator>
 
 #include "qt/accessible_report.h"
 #include "qt/bindings.h"
@@ -10,12 +9,10 @@
 #include "qt/text.h"
 #include "text/spoken.h"
 #include "text/utf8.h"
+#include "window/layout.h"
 
 namespace tavrelo::qt {
 namespace {
-
-/// What a tool answers with; it is said aloud when it appears. Help is read by who asked for it.
-constexpr std::string_view kReports[] = {"rtbCalc", "rtbSolve"};
 
 class RichTextBinding : public Binding {
   public:
@@ -64,7 +61,7 @@ class RichTextBinding : public Binding {
         const auto place = std::max<qsizetype>(m_view.Spoken().size() - added_text.size(), 0);
         QAccessibleTextInsertEvent event(&m_view, static_cast<int>(place), added_text);
         QAccessible::updateAccessibility(&event);
-        if (std::ranges::find(kReports, m_box.Name()) != std::end(kReports))
+        if (m_box.Has(window::kAnswer))
             Form().Announce(spoken);
     }
 

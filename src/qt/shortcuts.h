@@ -7,7 +7,7 @@
 
 namespace tavrelo::qt {
 
-/// The keys of the whole window: the toolbar's buttons, help, preferences, from panel to panel.
+/// The keys of the whole window: the program's own, and those that go from panel to panel.
 void MakeProgramShortcuts(window::Form1& form, QWidget& window, FocusGuide& guide);
 
 }  // namespace tavrelo::qt

@@ -54,6 +54,7 @@ class Control {
         ControlKind kind;
         Control* parent;  // null for a window
         int page;         // page of the parent tab strip, or kAllPages
+        int flags = 0;    // of the table, see layout.h
     };
     static constexpr int kAllPages = -1;
 
@@ -66,6 +67,8 @@ class Control {
     ControlKind Kind() const { return m_identity.kind; }
     Control* Parent() const { return m_identity.parent; }
     int Page() const { return m_identity.page; }
+    /// Whether the table gives the control that flag; see layout.h.
+    bool Has(int flag) const { return (m_identity.flags & flag) != 0; }
 
     const Rect& Bounds() const { return m_bounds; }
     void SetBounds(const Rect& bounds) { Set(m_bounds, bounds); }

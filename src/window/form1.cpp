@@ -8,9 +8,6 @@
 namespace tavrelo::window {
 namespace {
 
-constexpr std::string_view kMainWindow = "Form1";
-constexpr std::string_view kDialog = "Form2";
-
 struct ArrayName {
     std::string_view base;
     int index;
@@ -112,7 +109,7 @@ void Form1::MakeControls() {
 
 void Form1::MakeControl(const ControlRow& row) {
     Control* parent = row.parent.empty() ? nullptr : MustFind(row.parent);
-    auto control = NewControl({std::string(row.name), row.kind, parent, row.page}, m_links);
+    auto control = NewControl({std::string(row.name), row.kind, parent, row.page, row.flags}, m_links);
     control->SetBounds(row.bounds);
     control->SetCaption(std::string(row.caption));
     ApplyFlags(*control, row.flags);
@@ -225,15 +222,15 @@ void Form1::Announce(std::string_view sentence) const {
 void Form1::SetPointer(int shape) {
     m_pointer = shape;
     if (OnChange)
-        OnChange(*MustFind(kMainWindow), Change::State);
+        OnChange(Main(), Change::State);
 }
 
 void Form1::End() {
     if (m_ended)
         return;
     m_ended = true;
-    for (const auto name : {kDialog, kMainWindow})
-        MustFind(name)->SetVisible(false);
+    Dialog().SetVisible(false);
+    Main().SetVisible(false);
     if (OnEnd)
         OnEnd();
 }

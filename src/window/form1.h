@@ -40,6 +40,12 @@ class ControlArray {
     std::vector<Item> m_items;
 };
 
+/// A key of the whole window, whatever has the focus.
+struct Shortcut {
+    KeyStroke stroke;
+    std::function<void()> action;  // does what the user could do by the mouse, through `User...` members
+};
+
 /// The window model: every control of every tool under its name, made from the table of layout.h, plus what
 /// the controls share: focus, pointer, end of the program. It knows no tool; a tool binds by name the
 /// controls that it may touch.
@@ -73,6 +79,9 @@ class Form1 {
             FailOn(name);
         return ControlArray<ControlType>(std::move(items));
     }
+    /// The program's window and its dialog.
+    Window& Main() const { return Get<Window>(kMainName); }
+    Window& Dialog() const { return Get<Window>(kDialogName); }
     /// All controls in reading order.
     std::span<Control* const> Controls() const { return m_order; }
 
@@ -103,6 +112,9 @@ class Form1 {
     /// Told about every change of every control; set by the view.
     ChangeListener OnChange;
 
+    /// The keys of the whole window; the program fills them when it is made.
+    std::vector<Shortcut> shortcuts;
+
     /// Says in one short Spanish sentence what an action has just changed, for those who do not see it
     /// happen: "Fuerza 2 añadida: ...". Once for each action; what boxes and reports tell is not said again.
     void Announce(std::string_view sentence) const;
@@ -118,6 +130,9 @@ class Form1 {
     Publics publics;
 
   private:
+    static constexpr std::string_view kMainName = "Form1";
+    static constexpr std::string_view kDialogName = "Form2";
+
     void MakeControl(const ControlRow& row);
     Control* MustFind(std::string_view name) const;
     [[noreturn]] static void FailOn(std::string_view name);

@@ -17,6 +17,7 @@ enum class Key {
     End,
     Tab,
     Escape,
+    F1,
     F10,
     F11,
     F12,

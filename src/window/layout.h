@@ -29,6 +29,12 @@ inline constexpr int kUpward = 16;    // mouse events with y growing upward
 inline constexpr int kMultiple = 32;  // list with several rows chosen
 inline constexpr int kFilling = 64;   // fills the page of its tab strip, whatever size that has
 
+// What a control is to the user, joined with the start states; see Control::Has.
+inline constexpr int kBoard = 128;   // a drawing that a student takes along
+inline constexpr int kAnswer = 256;  // a report that tells what an action came to: said aloud when it appears
+inline constexpr int kCancel = 512;  // the button that Escape presses anywhere on its panel
+inline constexpr int kRaised = 1024;  // lies over the panels beside it, though it comes before them
+
 std::span<const ControlRow> ControlTable();
 
 /// The arrangements of the panels whose place depends on the tool in use.

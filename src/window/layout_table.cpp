@@ -14,10 +14,10 @@ constexpr ControlRow kControls[] = {
     // In Form1
     {"Image1", K::Picture, "Form1", {408, 2, 333, 32}, "", kTwips},
     {"linMarker", K::Shape, "Form1", {-100, 35, 36, 3}},
-    {"pic", K::Picture, "Form1", {6, 4, 397, 385}, "", kUpward},
-    {"pic1", K::Picture, "Form1", {6, 4, 397, 385}, "", kHidden | kUpward},
+    {"pic", K::Picture, "Form1", {6, 4, 397, 385}, "", kUpward | kBoard},
+    {"pic1", K::Picture, "Form1", {6, 4, 397, 385}, "", kHidden | kUpward | kBoard},
     {"picBar", K::Picture, "Form1", {408, 40, 389, 63}, "", kHidden},
-    {"picArgs", K::Picture, "Form1", {408, 104, 389, 56}, "", kHidden | kUpward},
+    {"picArgs", K::Picture, "Form1", {408, 104, 389, 56}, "", kHidden | kUpward | kRaised},
     {"picRuts", K::Picture, "Form1", {-400, 0, 279, 480}, "", kHidden},
     {"rtbHold", K::RichTextBox, "Form1", {-200, 0, 100, 60}, "", kLocked},
     {"fraUnits", K::Frame, "Form1", {408, 156, 329, 45}, "", kHidden},
@@ -30,7 +30,7 @@ constexpr ControlRow kControls[] = {
     {"tabMrua", K::TabStrip, "Form1", {408, 40, 389, 210}, "", kHidden},
     {"fraTable", K::Frame, "Form1", {2, 394, 795, 183}, "", kHidden},
     {"fraKinem", K::Frame, "Form1", {408, 71, 391, 269}, "", kHidden},
-    {"fraHelp", K::Frame, "Form1", {6, 4, 397, 385}, "", kHidden},
+    {"fraHelp", K::Frame, "Form1", {6, 4, 397, 385}, "", kHidden | kRaised},
 
     // In picArgs
     {"picArgs1", K::Picture, "picArgs", {2, 2, 385, 25}, "", kUpward},
@@ -87,8 +87,8 @@ constexpr ControlRow kControls[] = {
     {"cmdExampleEstp(3)", K::Button, "fraEstp", {351, 314, 28, 26}, "4"},
 
     // In tabCalc
-    {"rtbCalc", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked | kFilling, 0},
-    {"rtbSolve", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kHidden | kLocked | kFilling, 0},
+    {"rtbCalc", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked | kFilling | kAnswer, 0},
+    {"rtbSolve", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kHidden | kLocked | kFilling | kAnswer, 0},
     {"txtArgHelp", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked | kFilling, 1},
     {"rtbReg", K::RichTextBox, "tabCalc", {2, 24, 791, 154}, "", kLocked | kFilling, 2},
 
@@ -261,7 +261,7 @@ constexpr ControlRow kControls[] = {
     {"cmdHelpCtrl(0)", K::Button, "fraHelp", {6, 5, 110, 26}, "Página general"},
     {"cmdHelpCtrl(1)", K::Button, "fraHelp", {120, 5, 34, 26}, "8"},
     {"cmdHelpCtrl(2)", K::Button, "fraHelp", {158, 5, 34, 26}, "▼"},
-    {"cmdHelpCtrl(3)", K::Button, "fraHelp", {363, 5, 28, 26}, "×"},
+    {"cmdHelpCtrl(3)", K::Button, "fraHelp", {363, 5, 28, 26}, "×", kCancel},
     {"cboHelp", K::ComboBox, "fraHelp", {6, 36, 385, 24}},
     {"rtbHelp", K::RichTextBox, "fraHelp", {6, 66, 385, 313}, "", kLocked},
 
