@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "qt/accessible.h"
 #include "qt/bindings.h"
 #include "qt/canvas.h"
 #include "qt/picture_menu.h"
@@ -19,16 +20,13 @@
 namespace tavrelo::qt {
 
 FreeWindow::FreeWindow(const window::Control& source, const ViewContext& context)
-    : QWidget(nullptr, Qt::Window), m_context(context) {
+    : QWidget(nullptr, Qt::Window), m_source(source), m_context(context) {
     constexpr double kFirstShare = 0.6;
-    const QString name = ToQString(window::AccessibleName(context.form, source));
-    setWindowTitle(name + QStringLiteral(" – Tavrelo"));
-    setAccessibleName(name);
     resize((QSizeF(screen()->availableSize()) * kFirstShare).toSize());
     m_late.setSingleShot(true);
     connect(&m_late, &QTimer::timeout, this, [this] {
         if (isVisible())
-            ShowContent();
+            Show();
     });
     const auto add = [this](const QKeySequence& keys, auto action) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
@@ -44,25 +42,46 @@ void FreeWindow::Open() {
 }
 
 void FreeWindow::showEvent(QShowEvent* event) {
-    ShowContent();
+    Show();
     QWidget::showEvent(event);
+}
+
+void FreeWindow::Show() {
+    ShowName();
+    ShowContent();
+}
+
+void FreeWindow::ShowName() {
+    const QString name = ToQString(window::AccessibleName(m_context.form, m_source));
+    setWindowTitle(name + QStringLiteral(" – Tavrelo"));
+    if (View().accessibleName() != name)
+        View().setAccessibleName(name);
 }
 
 void FreeWindow::SwitchFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
 
 namespace {
 
-/// A picture in the middle of white paper, painted from its recording as large as the window.
-class FreePicture : public FreeWindow {
+/// A picture in the middle of white paper, painted from its recording as large as there is room.
+class Paper : public QWidget, public TellsOfItself {
   public:
-    FreePicture(const window::Picture& picture, const ViewContext& context)
-        : FreeWindow(picture, context), m_picture(picture) {
+    Paper(const window::Picture& picture, const ViewContext& context, QWidget& parent)
+        : QWidget(&parent), m_picture(picture), m_context(context) {
         setFocusPolicy(Qt::StrongFocus);
     }
 
-  protected:
-    void ShowContent() override { update(); }
+    void ShowPicture() {
+        update();
+        const QString words = ToQString(m_picture.Description());
+        if (accessibleDescription() != words)
+            setAccessibleDescription(words);
+    }
 
+    QAccessibleInterface* NewAccessible() override {
+        return new QAccessibleWidget(this, QAccessible::Graphic);
+    }
+
+  protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.fillRect(rect(), Qt::white);
@@ -71,8 +90,27 @@ class FreePicture : public FreeWindow {
         painter.translate((width() - zoom * recording.Width()) / 2,
                           (height() - zoom * recording.Height()) / 2);
         painter.setClipRect(QRectF(0, 0, zoom * recording.Width(), zoom * recording.Height()));
-        PaintRecording(painter, recording, zoom, Context().artwork, Context().text_look);
+        PaintRecording(painter, recording, zoom, m_context.artwork, m_context.text_look);
     }
+
+  private:
+    const window::Picture& m_picture;
+    const ViewContext& m_context;
+};
+
+class FreePicture : public FreeWindow {
+  public:
+    FreePicture(const window::Picture& picture, const ViewContext& context)
+        : FreeWindow(picture, context), m_picture(picture), m_paper(picture, context, *this) {
+        setFocusProxy(&m_paper);
+        m_paper.setFocus();
+    }
+
+  protected:
+    void ShowContent() override { m_paper.ShowPicture(); }
+    QWidget& View() override { return m_paper; }
+
+    void resizeEvent(QResizeEvent*) override { m_paper.setGeometry(rect()); }
 
     void contextMenuEvent(QContextMenuEvent* event) override {
         QMenu menu(this);
@@ -82,6 +120,7 @@ class FreePicture : public FreeWindow {
 
   private:
     const window::Picture& m_picture;
+    Paper m_paper;
 };
 
 /// A report whose letters grow with the width of the window; Ctrl +, Ctrl −, Ctrl 0 and Ctrl with the wheel
@@ -90,7 +129,6 @@ class FreeReport : public FreeWindow {
   public:
     FreeReport(const window::RichTextBox& box, const ViewContext& context)
         : FreeWindow(box, context), m_box(box), m_view(box, *this) {
-        m_view.setAccessibleName(accessibleName());
         m_view.viewport()->installEventFilter(this);
         setFocusProxy(&m_view);
         const auto add = [this](const QKeySequence& keys, auto action) {
@@ -107,6 +145,7 @@ class FreeReport : public FreeWindow {
         m_view.ShowText(m_box.Content(), Scale(), Context().text_look);
         m_view.Select(m_box.Selection());
     }
+    QWidget& View() override { return m_view; }
 
     void resizeEvent(QResizeEvent*) override {
         m_view.setGeometry(rect());

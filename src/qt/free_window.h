@@ -24,13 +24,19 @@ class FreeWindow : public QWidget {
 
   protected:
     virtual void ShowContent() = 0;
+    /// What stands for the source in the window, which is called like it.
+    virtual QWidget& View() = 0;
     const ViewContext& Context() const { return m_context; }
 
     void showEvent(QShowEvent* event) override;
 
   private:
     void SwitchFullScreen();
+    /// Names may follow the tool in use.
+    void ShowName();
+    void Show();
 
+    const window::Control& m_source;
     const ViewContext& m_context;
     QTimer m_late;
 };

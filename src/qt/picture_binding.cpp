@@ -38,6 +38,9 @@ class PictureBinding : public Binding {
         const QString words = ToQString(m_picture.Description());
         if (m_view.accessibleDescription() != words)
             m_view.setAccessibleDescription(words);
+        // A board is gone to for what it holds.
+        if (m_picture.Has(window::kBoard))
+            m_view.setFocusPolicy(m_picture.Canvas().IsBlank() ? Qt::NoFocus : Qt::TabFocus);
     }
 
     const window::Picture& m_picture;

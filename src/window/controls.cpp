@@ -231,6 +231,11 @@ void Picture::UserMouseUp(const MouseStroke& stroke) {
     });
 }
 
+std::string Picture::Description() const {
+    std::string words = m_canvas.Words();
+    return words.empty() ? m_canvas.Invitation() : words;
+}
+
 std::vector<PictureCell> Picture::Cells() const {
     return ListCells ? ListCells() : std::vector<PictureCell>();
 }

@@ -354,8 +354,9 @@ class Picture : public Control {
     const Recorder& Canvas() const { return m_canvas; }
     /// Fits the canvas to the bounds; what was drawn stays.
     void FitCanvas();
-    /// What the picture shows, in words for those who do not see it; empty for one without content.
-    std::string Description() const { return m_canvas.Words(); }
+    /// What the picture shows, in words for those who do not see it, on a board where nothing stands yet how
+    /// to begin; empty for one without content.
+    std::string Description() const;
 
     MouseUnits Units() const { return m_units; }
     void SetUnits(MouseUnits units) { m_units = units; }

@@ -99,6 +99,11 @@ void Recorder::Invite(std::string_view line) {
     Changed();
 }
 
+bool Recorder::IsBlank() const {
+    const auto is_clear = [](const DrawOp& op) { return std::holds_alternative<ClearOp>(op); };
+    return m_recording.invitation.empty() && std::ranges::all_of(m_recording.operations, is_clear);
+}
+
 void Recorder::Resize(double width, double height) {
     m_width = width;
     m_height = height;

@@ -147,6 +147,8 @@ class Recorder : public Surface {
     /// What the drawing tells at a place; empty where nothing stands.
     std::string TipAt(Point place) const { return window::TipAt(m_recording.tips, place); }
     const std::string& Invitation() const { return m_recording.invitation; }
+    /// Nothing is drawn and nobody is invited to begin.
+    bool IsBlank() const;
     /// Drawing and words, to be put back in view by Restore.
     const Recording& Kept() const { return m_recording; }
     void Restore(Recording recording);

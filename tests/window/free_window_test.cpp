@@ -1,5 +1,6 @@
 #include "qt/free_window.h"
 
+#include <QAccessible>
 #include <QMenu>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -84,6 +85,28 @@ void FreeWindowTest::PicturesScaleAndFollow() {
     // In the middle of a taller window.
     QCOMPARE(image.pixelColor(30, 50 + 30), color);
     QCOMPARE(image.pixelColor(29, 50 + 30), QColor(Qt::white));
+}
+
+/// Who does not see the picture is told the same in its own window, and what becomes of it.
+void FreeWindowTest::PicturesAreToldAndFollow() {
+    TestWindow window;
+    window.PressTool(2);
+    const auto& picture = window.Form().Get<window::Picture>("pic1");
+    qt::FreeWindow& free = window.view.OpenFree(picture);
+    QApplication::setActiveWindow(&free);
+    QCoreApplication::processEvents();
+    QWidget* paper = QApplication::focusWidget();
+    QVERIFY(paper && paper->window() == &free);
+    const QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(paper);
+    QCOMPARE(told.role(), QAccessible::Graphic);
+    QCOMPARE(told.text(QAccessible::Name), QStringLiteral("Pizarrón"));
+    QCOMPARE(told.text(QAccessible::Description),
+             QStringLiteral("Fuerzas sobre un punto, con ejes x, y. Sin fuerzas."));
+    auto& box = window.Form().Get<window::TextBox>("txtVector");
+    box.SetText("v-100");
+    box.UserKeyPress(window::kEnterCharacter);
+    QTRY_VERIFY(told.text(QAccessible::Description).contains(QStringLiteral("100 hacia abajo")));
+    QCOMPARE(told.text(QAccessible::Description), window.Widget("pic1").accessibleDescription());
 }
 
 void FreeWindowTest::ReportsGrowAndFollow() {

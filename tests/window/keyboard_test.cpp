@@ -545,6 +545,33 @@ void KeyboardTest::ArrowsPassByDisabledOptions() {
     QCOMPARE(window.boxes.size(), 1);
 }
 
+/// A board is gone to for what it shows, or for how to begin; an empty one is passed.
+void KeyboardTest::BoardsAreStopsWhileTheyHoldSomething() {
+    KeyboardWindow window;
+    const auto told = [&window] {
+        return QAccessible::queryAccessibleInterface(QApplication::focusWidget())
+            ->text(QAccessible::Description);
+    };
+    window.Strike(Qt::Key_2, Qt::AltModifier);
+    QVERIFY(window.TabTo("pic1"));
+    QVERIFY(told().startsWith(QStringLiteral("Fuerzas sobre un punto")));
+    window.Strike(Qt::Key_4, Qt::AltModifier);
+    QVERIFY(window.TabTo("pic"));
+    QVERIFY(!told().isEmpty());
+    // By F6, too: the board is a panel of its own.
+    window.Strike(Qt::Key_3, Qt::AltModifier);
+    window.Enter("AB");
+    window.Strike(Qt::Key_F6);
+    for (int panel = 0; panel < 10 && window.FocusName() != "pic1"; ++panel)
+        window.Strike(Qt::Key_F6);
+    QCOMPARE(window.FocusName(), std::string("pic1"));
+    window.Form().Get<window::Picture>("pic1").Canvas().Cls();
+    QCoreApplication::processEvents();
+    window.Strike(Qt::Key_Tab);
+    QVERIFY(window.FocusName() != "pic1");
+    QVERIFY(!window.TabTo("pic1"));
+}
+
 void KeyboardTest::FocusIsSeen_data() {
     QTest::addColumn<int>("tool");
     QTest::addColumn<QByteArray>("control");

@@ -71,6 +71,7 @@ class FreeWindowTest : public QObject {
     void ADoubleClickOnAStripIsTheModels();
     void AKeyOpensWhatIsInUse();
     void PicturesScaleAndFollow();
+    void PicturesAreToldAndFollow();
     void ReportsGrowAndFollow();
     void TheirMenusAreThoseOfTheSource();
     void TheyCloseWithTheProgram();
@@ -113,6 +114,7 @@ class KeyboardTest : public QObject {
     void OnlyWhatIsInFrontHasLetters();
     void OptionsAreOneStop();
     void ArrowsPassByDisabledOptions();
+    void BoardsAreStopsWhileTheyHoldSomething();
     void FocusIsSeen_data();
     void FocusIsSeen();
 };
