@@ -38,19 +38,12 @@ const std::string& AngleName(const Force& force) {
 
 bool HasUnknownAngle(const Force& force) { return !force.direction && !AngleName(force).empty(); }
 
-/// The angle that was unknown has its value.
-bool HasFoundAngle(const Force& force) {
-    return force.knowledge == Knowledge::Found && !AngleName(force).empty();
-}
-
 std::string KnownWords(const ToldForce& told, int decimals) {
     const auto [size, degrees] = PointingOf(*told.force.magnitude, *told.force.direction);
     std::string words = told.name.empty() ? "" : told.name + ": ";
     words += NumberWords(size, decimals) + " " + DirectionWords(degrees, decimals);
     if (told.force.knowledge == Knowledge::Found)
-        words += HasFoundAngle(told.force) && told.name.empty()
-                     ? ", ángulo " + AngleName(told.force) + " hallado"
-                     : ", hallada";
+        words += ", hallada";
     return words;
 }
 

@@ -124,6 +124,17 @@ TEST_F(PicturesTest, TheParticleTellsItsForces) {
               "89.658 a 135 grados, hallada; 100 hacia abajo.");
 }
 
+/// 50 sen A = 30: A = 36.87 with F = -40, or 143.13 with F = 40.
+TEST_F(PicturesTest, TheParticleTellsAFoundAngle) {
+    constexpr int kParticleRoutine = 38;
+    world.answer = window::Answer::Yes;
+    Calculated(kParticleRoutine, "", {"50<A", "hF", "v-30"});
+    PressTool(2);
+    EXPECT_EQ(Get<window::Picture>("pic1").Description(),
+              "Fuerzas sobre un punto, con ejes x, y. Tres fuerzas: 50 a 143.13 grados, hallada; F: 40 hacia "
+              "la derecha, hallada; 30 hacia abajo.");
+}
+
 /// x = t^2 - 1 from -2 to 2.
 TEST_F(PicturesTest, TheGraphOfAMotionTellsItsCurve) {
     PressTool(6);
