@@ -86,5 +86,15 @@ TEST(Variables, MoveWithTheirExpression) {
     EXPECT_EQ(second.Value(std::vector<text::Value>{1}).Text(), "8");
 }
 
+TEST(VariableList, FindsNamesOfAnyLengthWithoutRegardToCase) {
+    VariableList list;
+    const VariablePtr mass = list.Create("Masa");
+    const VariablePtr x = list.Create("x");
+    EXPECT_EQ(list.Find("MASA"), mass);
+    EXPECT_EQ(list.Find("masa"), mass);
+    EXPECT_EQ(list.Find("mas"), nullptr);
+    EXPECT_EQ(list.Find("X"), x);
+    EXPECT_EQ(list.Find("m"), nullptr);
+}
 }  // namespace
 }  // namespace tavrelo::expr

@@ -208,6 +208,10 @@ TEST(LegsBetween, NeedsPointsOfOneMoverInTheirOrder) {
     const auto answer = LegsBetween(problem, {1, 1, 0}, {2, 1, 0});
     ASSERT_TRUE(std::holds_alternative<text::Refusal>(answer));
     EXPECT_EQ(std::get<text::Refusal>(answer).text, kSpansMovers);
+    Problem parted = OneMover({2});
+    for (int point = 0; point <= 4; ++point)
+        SetTime(parted, 1, point, point);
+    EXPECT_EQ(FailureOf([&] { (void)LegsBetween(parted, {1, 2, 3}, {1, 1, 1}); }), FailureCode::OutOfDomain);
     const Problem turning = TurningProblem();
     EXPECT_EQ(FailureOf([&] { (void)LegsBetween(turning, {1, 1, 2}, {1, 1, 1}); }), FailureCode::OutOfDomain);
 }

@@ -561,6 +561,14 @@ TEST(Collision, NeverComesOfParallelWays) {
     EXPECT_EQ(desk.Report(), Lines{});
 }
 
+/// The first one moves from (-10, -5) with (1, 0): the only place in which both lie on the line at 45 degrees
+/// is reached after 5, at (-5, -5) but for the fall, behind the second one's back.
+TEST(Collision, NeverComesBehindTheBack) {
+    Desk desk = WithMovers({"0", "-10", "-5", "1", "0"}, {"0", "0", "0", "", "45"});
+    EXPECT_EQ(desk.Run(Special::Collision).Boxes(), Lines{"No hay solución."});
+    EXPECT_EQ(desk.Report(), Lines{});
+}
+
 /// Dropped at rest from 19.6 it takes 2, and the object passes below it then, 10 from its start: no launch is
 /// needed.
 TEST(Interception, NeedsALaunch) {
