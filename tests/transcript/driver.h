@@ -48,6 +48,7 @@ struct TreeFindings {
     int with_role = 0;
     int reachable = 0;      // by keyboard
     int read_in_place = 0;  // texts, headings and what holds others: not to be gone to
+    int alike = 0;          // called like another one in view
     std::vector<std::string> complaints;
 };
 

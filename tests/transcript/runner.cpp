@@ -83,7 +83,8 @@ void Runner::Summarize() {
     if (m_options.tree)
         m_results << m_walks << " walks: " << m_tree.objects << " objects, " << m_tree.named << " named, "
                   << m_tree.with_role << " with a role, " << m_tree.reachable << " reachable by keyboard, "
-                  << m_tree.read_in_place << " read in place\n";
+                  << m_tree.read_in_place << " read in place, " << m_tree.alike
+                  << " called like another one\n";
     m_results << m_passed << " passed, " << m_failed << " failed\n";
 }
 
@@ -142,6 +143,7 @@ bool Runner::IsWellTold(const std::string& name, const Step& step, Driver& drive
     m_tree.with_role += found.with_role;
     m_tree.reachable += found.reachable;
     m_tree.read_in_place += found.read_in_place;
+    m_tree.alike += found.alike;
     for (const std::string& complaint : found.complaints)
         Report(name, step.line_number, complaint);
     return found.complaints.empty();

@@ -1,5 +1,6 @@
 #include "tree_walk.h"
 
+#include <QRadioButton>
 #include <QWidget>
 #include <algorithm>
 #include <iterator>
@@ -45,9 +46,12 @@ bool IsInView(const QAccessibleInterface& object) {
     return !widget || widget->isVisible();
 }
 
+/// Of a group of options Tab goes to one; arrows lead to the others.
 bool TakesTab(const QAccessibleInterface& object) {
     const auto* widget = qobject_cast<const QWidget*>(object.object());
-    return widget && (widget->focusPolicy() & Qt::TabFocus);
+    if (!widget || widget->focusPolicy() & Qt::TabFocus)
+        return widget;
+    return qobject_cast<const QRadioButton*>(widget) && (widget->focusPolicy() & Qt::ClickFocus);
 }
 
 }  // namespace
@@ -95,8 +99,10 @@ void TreeWalk::JudgeName(const QAccessibleInterface& object) {
         return Complain(object, "has no name");
     ++m_findings.named;
     const bool is_apart = IsOneOf(kParts, object.role()) || IsOneOf(kApart, object.role());
-    if (!is_apart && !m_names.insert(name).second)
-        Complain(object, "is called like another one");
+    if (is_apart || m_names.insert(name).second)
+        return;
+    ++m_findings.alike;
+    Complain(object, "is called like another one");
 }
 
 void TreeWalk::Complain(const QAccessibleInterface& object, const std::string& what) {
