@@ -136,7 +136,9 @@ int AccessibleGrid::indexOfChild(const QAccessibleInterface* child) const {
 QAccessibleInterface* AccessibleGrid::childAt(int x, int y) const { return CellAt(m_view.PlaceAt({x, y})); }
 
 QAccessibleInterface* AccessibleGrid::focusChild() const {
-    return m_view.hasFocus() ? CellAt(m_view.CurrentPlace()) : nullptr;
+    // While no cell is current the table itself has the keys.
+    const TablePlace place = m_view.CurrentPlace();
+    return m_view.hasFocus() && !place.IsHeading() ? CellAt(place) : nullptr;
 }
 
 void* AccessibleGrid::interface_cast(QAccessible::InterfaceType type) {

@@ -164,6 +164,30 @@ void AccessibleTest::TheFocusGoesWithTheCurrentCell() {
     QCOMPARE(Noted(QAccessible::Focus, QAccessible::Cell), QStringList{"renglón 1, columna 2: 7"});
 }
 
+/// A table without a current cell is told itself, not one of its headings.
+void AccessibleTest::ATableWithoutCellsHasTheKeysItself() {
+    TestWindow window;
+    window.PressTool(2);
+    window.Widget("gdEqui").setFocus();
+    QVERIFY(window.Widget("gdEqui").hasFocus());
+    QVERIFY(!Told(window.Widget("gdEqui")).focusChild());
+    QVERIFY(Told(window.Widget("gdEqui")).state().focused);
+    QCOMPARE(NameOf(Told(window.Widget("gdEqui"))), QString("Fuerzas"));
+}
+
+/// What a button changes without a report is said.
+void AccessibleTest::RestoringTheForcesIsSaid() {
+    TestWindow window;
+    window.PressTool(2);
+    for (const char* force : {"p30x,F1", "s45x,F2", "v-100"})
+        TypeForce(window, force);
+    window.Form().Get<window::Button>("cmdParts(0)").UserClick();
+    QCoreApplication::processEvents();
+    QAccessible::installUpdateHandler(TakeNote);
+    window.Form().Get<window::Button>("cmdParts(1)").UserClick();
+    QTRY_COMPARE(Said(), QStringList{"Fuerzas como antes de resolver."});
+}
+
 void AccessibleTest::AChosenBlockIsTold() {
     TestWindow window;
     window.PressTool(1);

@@ -205,6 +205,8 @@ class AccessibleTest : public QObject {
     void NamesFollowToolsAndLabels();
     void CellsTellTheirHeadingsAndContent();
     void TheFocusGoesWithTheCurrentCell();
+    void ATableWithoutCellsHasTheKeysItself();
+    void RestoringTheForcesIsSaid();
     void AChosenBlockIsTold();
     void ListsCombosTabsAndArrowsTellTheirState();
     void TheTabInFrontIsTold();

@@ -218,6 +218,7 @@ void ParticleTool::Restore() {
     m_forces = m_backup;
     Draw();
     Enable(Event::Restored);
+    m_form.Announce("Fuerzas como antes de resolver.");
 }
 
 void ParticleTool::Update() {
