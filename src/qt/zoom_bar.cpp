@@ -1,10 +1,10 @@
 #include "qt/zoom_bar.h"
 
 #include <QMenu>
-#include <QTimer>
 #include <chrono>
 #include <utility>
 
+#include "qt/later.h"
 #include "qt/zoom.h"
 
 namespace tavrelo::qt {
@@ -58,7 +58,8 @@ void ZoomBar::paintEvent(QPaintEvent*) {
     constexpr std::chrono::milliseconds kFrame{16};
     if (std::exchange(m_was_painted, true))
         return;
-    QTimer::singleShot(kFrame, this, &ZoomBar::PlaceButtons);
+    Later(
+        *this, [this] { PlaceButtons(); }, kFrame);
 }
 
 void ZoomBar::resizeEvent(QResizeEvent*) { PlaceButtons(); }
