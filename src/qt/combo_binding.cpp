@@ -1,6 +1,9 @@
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QScreen>
+#include <QStyleOption>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <utility>
 
@@ -35,6 +38,14 @@ class WideCombo : public QComboBox, public TellsOfItself {
     }
 
   protected:
+    /// A row that the box cuts short is told whole under the pointer.
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip && IsCut()) {
+            QToolTip::showText(static_cast<const QHelpEvent&>(*event).globalPos(), currentText(), this);
+            return true;
+        }
+        return QComboBox::event(event);
+    }
     void wheelEvent(QWheelEvent* event) override {
         if (hasFocus())
             QComboBox::wheelEvent(event);
@@ -43,6 +54,13 @@ class WideCombo : public QComboBox, public TellsOfItself {
     }
 
   private:
+    bool IsCut() const {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const QRect place =
+            style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+        return fontMetrics().horizontalAdvance(currentText()) > place.width();
+    }
     /// Makes the list that wide; rows wider than the screen are scrolled.
     void ShowRowsOf(int needed) {
         const QMargins frame = view()->parentWidget()->contentsMargins();

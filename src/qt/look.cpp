@@ -48,6 +48,12 @@ bool IsInSpinBox(const QWidget* widget) {
     return widget && qobject_cast<const QAbstractSpinBox*>(widget->parent());
 }
 
+/// The row of a closed combo: one that is too long ends in dots.
+QString ShownRow(const QStyleOptionComboBox& combo, const QRect& place) {
+    constexpr int kMargins = 2;  // that the toolkit leaves at the ends of the text
+    return combo.fontMetrics.elidedText(combo.currentText, Qt::ElideRight, place.width() - kMargins);
+}
+
 }  // namespace
 
 Look::Look(bool is_dark) : QProxyStyle(QStringLiteral("fusion")), m_is_dark(is_dark) {}
@@ -165,6 +171,14 @@ void Look::drawControl(ControlElement element, const QStyleOption* option, QPain
         painter->setPen(ShadeOf(kSoftEdge, m_is_dark));
         painter->drawLine(option->rect.topRight(), option->rect.bottomRight());
         painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
+        return;
+    }
+    if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        element == CE_ComboBoxLabel && combo) {
+        QStyleOptionComboBox shown(*combo);
+        shown.currentText =
+            ShownRow(*combo, subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget));
+        QProxyStyle::drawControl(element, &shown, painter, widget);
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);

@@ -1,4 +1,5 @@
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QScrollBar>
@@ -97,6 +98,31 @@ void LayoutTest::TextsThatACellCutsAreToldWhole() {
     constexpr int kForce = 2;  // behind the fixed column of the numbers
     QCOMPARE(tip_over(kForce + 1), QString());
     QCOMPARE(tip_over(kForce), QString("c36.87x, 10.125v:/-250.75"));
+}
+
+void LayoutTest::ARowThatAComboCutsIsToldWhole() {
+    TestWindow window;
+    window.PressTool(5);
+    window.Form().Get<window::TabStrip>("tabMrua").UserPick(2);
+    auto& combo = window.As<QComboBox>("cboProcs");
+    const auto tip_over = [&combo](int row) {
+        combo.setCurrentIndex(row);
+        QToolTip::hideText();
+        const QPoint place = combo.rect().center();
+        QHelpEvent event(QEvent::ToolTip, place, combo.mapToGlobal(place));
+        QCoreApplication::sendEvent(&combo, &event);
+        return QToolTip::text();
+    };
+    int cut = 0;
+    for (int row = 0; row < combo.count(); ++row) {
+        const bool is_long = combo.fontMetrics().horizontalAdvance(combo.itemText(row)) > combo.width();
+        cut += is_long ? 1 : 0;
+        if (is_long)
+            QCOMPARE(tip_over(row), combo.itemText(row));
+        else if (combo.fontMetrics().horizontalAdvance(combo.itemText(row)) < combo.width() / 2)
+            QVERIFY(tip_over(row) != combo.itemText(row));
+    }
+    QVERIFY(cut > 0);
 }
 
 void LayoutTest::TabsFit_data() { AddZooms(); }

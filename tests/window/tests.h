@@ -228,6 +228,7 @@ class LayoutTest : public QObject {
     void PairsStandOverTheirBoxes_data();
     void PairsStandOverTheirBoxes();
     void TextsThatACellCutsAreToldWhole();
+    void ARowThatAComboCutsIsToldWhole();
     void MotionTableNeedsNoScrollBars_data();
     void MotionTableNeedsNoScrollBars();
     void HelpLiesOverEverything();
