@@ -1,6 +1,7 @@
 #include "qt/look.h"
 
 #include <QAbstractButton>
+#include <QDialog>
 #include <QLabel>
 #include <QTabBar>
 #include <QTableView>
@@ -18,6 +19,7 @@
 #include "qt/desktop_look.h"
 #include "qt/flat_parts.h"
 #include "qt/fonts.h"
+#include "qt/picture_view.h"
 #include "test_window.h"
 #include "tests.h"
 #include "text/contrast.h"
@@ -194,6 +196,10 @@ class ControlInLook {
         m_window = std::make_unique<TestWindow>();
         m_window->view.SetContrast(has_contrast);
         m_window->PressTool(tool);
+        const window::Control& model = *m_window->Form().Find(control.constData());
+        auto* pages = dynamic_cast<window::TabStrip*>(model.Parent());
+        if (pages && model.Page() != window::Control::kAllPages)
+            pages->UserPick(model.Page());
         QWidget& widget = m_window->Widget(control.constData());
         auto* tabs = widget.findChild<QTabBar*>({}, Qt::FindDirectChildrenOnly);
         m_widget = tabs ? tabs : &widget;
@@ -318,19 +324,44 @@ void LookTest::WhatIsPointedAtAndPressedStandsOut_data() {
               {6, "chkGraph(0)"}});
 }
 
+namespace {
+
+/// Not the tab in front, which needs no pointing at. Of the cells of a picture the second one that can be
+/// pressed: the first one may be where the keys are.
+QPoint PlaceToPointAt(QWidget& widget) {
+    if (const auto* tabs = qobject_cast<QTabBar*>(&widget))
+        return tabs->tabRect(1).center();
+    std::vector<QPoint> places;
+    if (const auto* picture = dynamic_cast<qt::PictureView*>(&widget))
+        for (const window::PictureCell& cell : picture->Cells())
+            if (cell.enabled) {
+                const window::Point middle = window::MiddleOf(cell.bounds);
+                places.push_back(QPointF(middle.x, middle.y).toPoint());
+            }
+    return places.size() > 1 ? places[1] : QPoint(12, 12);
+}
+
+}  // namespace
+
 void LookTest::WhatIsPointedAtAndPressedStandsOut() {
     ControlInLook control;
     QWidget& widget = control.Widget();
     const QImage without = control.Picture();
-    // Not on the tab in front, which needs no pointing at.
     const auto* tabs = qobject_cast<QTabBar*>(&widget);
-    const QPoint place = tabs ? tabs->tabRect(1).center() : QPoint(12, 12);
+    const QPoint place = PlaceToPointAt(widget);
     control.Point(place);
     const QImage hovered = control.Picture();
     const int count = VisibleChanges(without, hovered);
     QVERIFY2(count >= kLeastLine, qPrintable(QString::number(count)));
     if (tabs)
         return;
+    // What a press asks or tells in a box is of no interest here.
+    QTimer closer;
+    QObject::connect(&closer, &QTimer::timeout, [] {
+        if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            box->reject();
+    });
+    closer.start(1);
     QTest::mousePress(&widget, Qt::LeftButton, {}, place);
     const bool is_pressed = control.Picture() != hovered;
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, QPoint(-5, -5));
