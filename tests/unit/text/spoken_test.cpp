@@ -110,6 +110,7 @@ TEST(SpokenText, ReadsTypedFormulas) {
     const Reading readings[] = {
         {"x^2-3", "x al cuadrado menos 3"},
         {"t^3", "t al cubo"},
+        {"2^n (x)", "2 elevado a n por abre paréntesis x cierra paréntesis"},
         {"2^(n", "2 elevado a abre paréntesis n"},  // nothing closes it
         {"√2", "raíz de 2"},
         {"√(x", "raíz de abre paréntesis x"},

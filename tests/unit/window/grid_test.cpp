@@ -113,5 +113,16 @@ TEST_F(GridTest, ACellKeepsItsColour) {
     EXPECT_EQ(grid.CellBackColor(2, 1), red);
     EXPECT_EQ(grid.CellBackColor(1, 1), before);
 }
+TEST_F(GridTest, TellsOfRowsThatComeAndGo) {
+    int tellings = 0;
+    form.OnChange = [&](Control& control, Change change) {
+        if (&control == &grid && change == Change::Content)
+            ++tellings;
+    };
+    grid.AddRow({"1", "2"});
+    EXPECT_EQ(tellings, 1);
+    grid.RemoveRow(4);
+    EXPECT_EQ(tellings, 2);
+}
 }  // namespace
 }  // namespace tavrelo::window

@@ -215,5 +215,21 @@ TEST(LegsBetween, NeedsPointsOfOneMoverInTheirOrder) {
     const Problem turning = TurningProblem();
     EXPECT_EQ(FailureOf([&] { (void)LegsBetween(turning, {1, 1, 2}, {1, 1, 1}); }), FailureCode::OutOfDomain);
 }
+/// 120 lines across the whole frame: a stretch of 2 in 5 has 48, and 49 points; a uniform one its two ends.
+TEST(GraphBetween, DividesCurvesByTheirPartOfTheFrame) {
+    Problem problem = OneMover({2});
+    GiveMotion(problem, 1, 1, {0, 0, 2});
+    GiveMotion(problem, 1, 2, {-4, 4, 0});
+    int point = 0;
+    for (const double t : {0.0, 1.0, 2.0, 5.0})
+        SetTime(problem, 1, point++, t);
+    const auto answer = GraphBetween(problem, {1, 1, 0}, {1, 2, 3});
+    ASSERT_TRUE(std::holds_alternative<MotionGraph>(answer));
+    const auto& graph = std::get<MotionGraph>(answer);
+    ASSERT_EQ(graph.curves.size(), 2U);
+    EXPECT_EQ(graph.curves[0].times.size(), 49U);
+    EXPECT_EQ(graph.curves[1].times.size(), 2U);
+    EXPECT_EQ(graph.greatest_position, 16);
+}
 }  // namespace
 }  // namespace tavrelo::mechanics::motion
