@@ -1,8 +1,10 @@
 #include "qt/look.h"
 
 #include <QAbstractButton>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QLabel>
+#include <QMenu>
 #include <QTabBar>
 #include <QTableView>
 #include <QTextBlock>
@@ -366,6 +368,31 @@ void LookTest::WhatIsPointedAtAndPressedStandsOut() {
     const bool is_pressed = control.Picture() != hovered;
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, QPoint(-5, -5));
     QVERIFY(is_pressed);
+}
+
+void LookTest::MenusCanBeRead_data() { AddLooks({{1, "pic"}}); }
+
+void LookTest::MenusCanBeRead() {
+    ControlInLook control;
+    QImage plain;
+    QImage chosen;
+    WhenOpen<QMenu>([&](QMenu& menu) {
+        plain = menu.grab().toImage();
+        menu.setActiveAction(menu.actions().first());
+        chosen = menu.grab().toImage();
+        menu.close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, control.Widget().mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&control.Widget(), &event);
+    const text::Color ground = ToColor(GroundOf(plain));
+    int readable = 0;
+    for (int y = 0; y < plain.height(); ++y)
+        for (int x = 0; x < plain.width(); ++x)
+            readable +=
+                text::ContrastRatio(ToColor(plain.pixel(x, y)), ground) >= text::kReadableContrast ? 1 : 0;
+    constexpr int kLeastLetters = 300;  // pixels
+    QVERIFY2(readable >= kLeastLetters, qPrintable(QString::number(readable)));
+    QVERIFY(VisibleChanges(plain, chosen) >= kLeastLine);
 }
 
 void LookTest::TheFocusOfACellStandsOutFromItsGround() {

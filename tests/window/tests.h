@@ -61,6 +61,8 @@ class LookTest : public QObject {
     void BoxesAndChoicesHaveEdges();
     void WhatIsPointedAtAndPressedStandsOut_data();
     void WhatIsPointedAtAndPressedStandsOut();
+    void MenusCanBeRead_data();
+    void MenusCanBeRead();
     void TheFocusOfACellStandsOutFromItsGround();
 };
 
