@@ -10,9 +10,9 @@ namespace {
 using Children = std::map<const Control*, std::vector<Control*>>;
 
 /// Top and left edge; of a group of options those of the first one, so that nothing comes between them.
-std::pair<int, int> PlaceOf(const Control* control) {
-    const auto* option = dynamic_cast<const OptionButton*>(control);
-    const Rect& bounds = option ? option->group.front()->Bounds() : control->Bounds();
+std::pair<int, int> PlaceOf(const Control& control) {
+    const auto* option = dynamic_cast<const OptionButton*>(&control);
+    const Rect& bounds = option ? option->group.front()->Bounds() : control.Bounds();
     return {bounds.top, bounds.left};
 }
 
@@ -34,7 +34,7 @@ std::vector<Control*> ReadingOrder(const Form1& form) {
     std::vector<Control*> order;
     for (Control* window : children[nullptr]) {
         // On a panel the table is in order; the panels themselves move with the tool.
-        std::ranges::stable_sort(children[window], {}, PlaceOf);
+        std::ranges::stable_sort(children[window], {}, [](const Control* child) { return PlaceOf(*child); });
         AddWithChildren(*window, children, order);
     }
     return order;
