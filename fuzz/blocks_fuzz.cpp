@@ -2,12 +2,12 @@
 // a handler, tables keep their size and their headings, a box of one line holds one line.
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "app/program.h"
+#include "harness.h"
 #include "numeric/checked.h"
 #include "text/utf8.h"
 #include "window/controls.h"
@@ -15,12 +15,8 @@
 namespace {
 
 using namespace tavrelo;
+using fuzz::Require;
 using Cells = std::vector<std::vector<std::string>>;
-
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 /// A world with a clipboard and nothing else.
 struct World : window::Boxes, window::Clipboard, window::Printer, window::Files {

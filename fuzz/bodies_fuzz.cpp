@@ -8,12 +8,12 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "harness.h"
 #include "mechanics/rigid/equilibrium_check.h"
 #include "mechanics/rigid/force_steps.h"
 #include "mechanics/rigid/structure_steps.h"
@@ -23,26 +23,13 @@
 namespace {
 
 using namespace tavrelo;
+using fuzz::PiecesOf;
+using fuzz::Require;
 using namespace tavrelo::mechanics::rigid;
 
 constexpr int kDecimals = 3;
 
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
 void RequireFinite(std::optional<double> number) { Require(std::isfinite(number.value_or(0))); }
-
-std::vector<std::string> PiecesOf(std::string_view text, char end) {
-    std::vector<std::string> pieces = {""};
-    for (const char each : text)
-        if (each == end)
-            pieces.emplace_back();
-        else
-            pieces.back() += each;
-    return pieces;
-}
 
 /// Two bars joined at B, and the whole.
 RigidProblem TwoBars() {

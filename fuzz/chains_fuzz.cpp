@@ -6,12 +6,12 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "harness.h"
 #include "mechanics/rigid/structure_steps.h"
 #include "numeric/checked.h"
 #include "text/number_text.h"
@@ -19,25 +19,12 @@
 namespace {
 
 using namespace tavrelo;
+using fuzz::PiecesOf;
+using fuzz::Require;
 using namespace tavrelo::mechanics::rigid;
 
 constexpr int kDecimals = 3;
 constexpr double kRounding = 1e-9;  // of the largest number in a sum
-
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
-std::vector<std::string> PiecesOf(std::string_view text, char end) {
-    std::vector<std::string> pieces = {""};
-    for (const char each : text)
-        if (each == end)
-            pieces.emplace_back();
-        else
-            pieces.back() += each;
-    return pieces;
-}
 
 double LargestOf(const Structure& structure) {
     double largest = 0;

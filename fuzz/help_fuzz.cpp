@@ -2,12 +2,12 @@
 // message, and what is shown is text.
 
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
 #include "frame/help_files.h"
 #include "frame/help_topics.h"
+#include "harness.h"
 #include "numeric/checked.h"
 #include "text/code_page.h"
 #include "text/utf8.h"
@@ -16,11 +16,7 @@
 namespace {
 
 using namespace tavrelo;
-
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
+using fuzz::Require;
 
 /// A world whose files all hold the same bytes.
 struct World : window::Boxes, window::Clipboard, window::Printer, window::Files {

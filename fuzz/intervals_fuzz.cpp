@@ -3,11 +3,11 @@
 
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <variant>
 
+#include "harness.h"
 #include "mechanics/motion/interval_equations.h"
 #include "mechanics/motion/typed_procedures.h"
 #include "notation/interval_line.h"
@@ -17,6 +17,7 @@
 namespace {
 
 using namespace tavrelo;
+using fuzz::Require;
 namespace motion = mechanics::motion;
 namespace points = mechanics::points;
 using motion::Procedure;
@@ -28,11 +29,6 @@ constexpr Procedure kTyped[] = {
     Procedure::SystemVA,       Procedure::SystemV2A,  Procedure::SystemV2A2A,
     Procedure::SystemV2A2AV2A, Procedure::Quadratic,  Procedure::PositionAndSpeedRatio,
 };
-
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 void RequireReadable(const motion::Step& step) {
     const auto* outcome = std::get_if<motion::Outcome>(&step);

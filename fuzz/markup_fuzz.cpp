@@ -1,25 +1,17 @@
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
 #include "drawing/print_markup.h"
+#include "harness.h"
 #include "text/code_page.h"
 #include "text/markup.h"
 #include "text/utf8.h"
 
-namespace {
-
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
-}  // namespace
-
 /// Both renderers take any text and never make it longer than the text and its end mark.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tavrelo;
+    using fuzz::Require;
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     const std::size_t length = text::CharacterCount(text);
 

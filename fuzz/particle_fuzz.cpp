@@ -5,11 +5,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "harness.h"
 #include "mechanics/forces/force_sums.h"
 #include "mechanics/particle/particle_solver.h"
 #include "notation/force_parser.h"
@@ -20,6 +20,7 @@
 namespace {
 
 using namespace tavrelo;
+using fuzz::Require;
 using notation::Force;
 using notation::ForceComponent;
 
@@ -29,11 +30,6 @@ constexpr double kWidth = 397;
 constexpr double kHeight = 385;
 constexpr double kTolerance = 1e-6;
 constexpr double kSpeakingCoefficient = 1e-3;  // a smaller one tells nothing of its unknown
-
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 bool Agree(double a, double b) {
     return std::abs(a - b) <= kTolerance * std::max({std::abs(a), std::abs(b), kTolerance});

@@ -10,12 +10,14 @@
 #include <variant>
 #include <vector>
 
+#include "harness.h"
 #include "mechanics/projectile/procedures.h"
 #include "numeric/checked.h"
 
 namespace {
 
 using namespace tavrelo;
+using fuzz::PiecesOf;
 using namespace tavrelo::mechanics;
 using namespace tavrelo::mechanics::projectile;
 
@@ -25,16 +27,6 @@ constexpr int kDeepestAnswer = 3;
 void RequireFinite(double number) {
     if (!std::isfinite(number))
         std::abort();
-}
-
-std::vector<std::string> LinesOf(std::string_view text) {
-    std::vector<std::string> lines = {""};
-    for (const char each : text)
-        if (each == '\n')
-            lines.emplace_back();
-        else
-            lines.back() += each;
-    return lines;
 }
 
 void CheckProblem(const Problem& problem) {
@@ -158,7 +150,7 @@ void ToggleAndDrag(Problem& problem) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::vector<std::string> lines =
-        LinesOf(std::string_view(reinterpret_cast<const char*>(data), size));
+        PiecesOf(std::string_view(reinterpret_cast<const char*>(data), size), '\n');
     for (const int variant : {0, 1}) {
         Session session(lines.front());
         session.problem = Reconfigured({}, variant);

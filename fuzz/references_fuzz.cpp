@@ -6,10 +6,10 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 #include <variant>
 
+#include "harness.h"
 #include "mechanics/motion/procedures.h"
 #include "notation/cell_reference.h"
 #include "numeric/checked.h"
@@ -17,17 +17,13 @@
 namespace {
 
 using namespace tavrelo;
+using fuzz::Require;
 namespace motion = mechanics::motion;
 namespace points = mechanics::points;
 
 constexpr int kDecimals = 3;
 constexpr motion::Procedure kProcedures[] = {motion::Procedure::Plant, motion::Procedure::Substitute,
                                              motion::Procedure::SubstituteWithParameters};
-
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
 
 void TryReference(std::string_view text) {
     try {

@@ -4,12 +4,12 @@
 
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
 
+#include "harness.h"
 #include "mechanics/rigid/equilibrium_check.h"
 #include "mechanics/rigid/force_steps.h"
 #include "mechanics/rigid/structure_steps.h"
@@ -21,6 +21,8 @@
 namespace {
 
 using namespace tavrelo;
+using fuzz::PiecesOf;
+using fuzz::Require;
 using namespace tavrelo::mechanics::rigid;
 using tools::rigid::EquilibriumReport;
 using Lines = std::vector<std::string>;
@@ -28,22 +30,7 @@ using Lines = std::vector<std::string>;
 constexpr int kDecimals = 3;
 constexpr double kPictureSide = 400;
 
-void Require(bool holds) {
-    if (!holds)
-        std::abort();
-}
-
 void RequireFinite(std::optional<double> number) { Require(std::isfinite(number.value_or(0))); }
-
-Lines LinesOf(std::string_view text) {
-    Lines lines = {""};
-    for (const char each : text)
-        if (each == '\n')
-            lines.emplace_back();
-        else
-            lines.back() += each;
-    return lines;
-}
 
 RigidProblem Triangle() {
     RigidProblem problem;
@@ -146,7 +133,7 @@ RigidProblem Solved(RigidProblem problem, std::string_view suppressed) {
 }
 
 void Try(std::string_view text) {
-    const Lines lines = LinesOf(text);
+    const Lines lines = PiecesOf(text, '\n');
     tools::rigid::DiagramView view;
     view.Show(1, true);
     const RigidProblem problem = Loaded(Structured(lines), lines, view);
